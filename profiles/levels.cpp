@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "levels.h"
+
+#include <cmath>
+
+namespace Levels {
+
+double powerRatioFromDb(double db)
+{
+    return std::pow(10.0, db / 10.0);
+}
+
+double dbFromPowerRatio(double ratio)
+{
+    return 10.0 * std::log10(ratio);
+}
+
+double voltageRatioFromDb(double db)
+{
+    return std::pow(10.0, db / 20.0);
+}
+
+double dbFromVoltageRatio(double ratio)
+{
+    return 20.0 * std::log10(ratio);
+}
+
+double milliwattFromDbm(double dbm)
+{
+    return powerRatioFromDb(dbm);
+}
+
+double dbmFromMilliwatt(double milliwatt)
+{
+    return dbFromPowerRatio(milliwatt);
+}
+
+double milliwattFromDbw(double dbw)
+{
+    return powerRatioFromDb(dbw + kDbwInDbm);
+}
+
+double dbwFromMilliwatt(double milliwatt)
+{
+    return dbFromPowerRatio(milliwatt) - kDbwInDbm;
+}
+
+double milliwattFromWatt(double watt)
+{
+    return watt * kMilliPerUnit;
+}
+
+double wattFromMilliwatt(double milliwatt)
+{
+    return milliwatt / kMilliPerUnit;
+}
+
+double millivoltFromDbv(double dbv)
+{
+    return voltageRatioFromDb(dbv) * kDbvReferenceMillivolt;
+}
+
+double dbvFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbvReferenceMillivolt);
+}
+
+double millivoltFromDbmicrovolt(double dbmicrovolt)
+{
+    return voltageRatioFromDb(dbmicrovolt) * kDbmicrovoltReferenceMillivolt;
+}
+
+double dbmicrovoltFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbmicrovoltReferenceMillivolt);
+}
+
+double millivoltFromDbu(double dbu)
+{
+    return voltageRatioFromDb(dbu) * kDbuReferenceMillivolt;
+}
+
+double dbuFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbuReferenceMillivolt);
+}
+
+double millivoltFromVolt(double volt)
+{
+    return volt * kMilliPerUnit;
+}
+
+double voltFromMillivolt(double millivolt)
+{
+    return millivolt / kMilliPerUnit;
+}
+
+} // namespace Levels

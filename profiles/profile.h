@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef PROFILES_PROFILE_H
+#define PROFILES_PROFILE_H
+
+#include <QObject>
+
+class QSettings;
+
+/**
+ * Base of every model. A profile holds the values of one concern as the texts a person sees,
+ * announces each real change by a signal without arguments, and keeps its values in a group of its
+ * own in a settings store. It reports nothing: bad input becomes an error text in a property.
+ */
+class Profile : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Profile(QObject *parent = nullptr);
+
+    /// Writes the profile's group into @p settings.
+    virtual void saveSettings(QSettings &settings) = 0;
+    /// Reads the profile's group from @p settings through the setters; a key that is missing or
+    /// malformed takes its default.
+    virtual void loadSettings(QSettings &settings) = 0;
+
+protected:
+    /// The body of every plain setter: stores @p value and emits @p changed, only on a real change.
+    template <typename Self, typename Value>
+    void assign(Value &member, const Value &value, void (Self::*changed)())
+    {
+        if (member == value)
+            return;
+        member = value;
+        Q_EMIT(static_cast<Self *>(this)->*changed)();
+    }
+};
+
+#endif

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "valuetext.h"
+
+#include "mainprofile.h"
+
+namespace {
+
+constexpr int kLevelDecimals = 2;
+
+QString numberText(double value, char format, int precision)
+{
+    return QStringLiteral("%1").arg(value, 0, format, precision, QLatin1Char(' '));
+}
+
+} // namespace
+
+QString generalText(double value, int significantDigits)
+{
+    return numberText(value, 'G', significantDigits);
+}
+
+QString generalText(double value)
+{
+    return generalText(value, MainProfile::instance().decimalPlaces());
+}
+
+QString fixedText(double value)
+{
+    return numberText(value, 'f', kLevelDecimals);
+}

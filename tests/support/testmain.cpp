@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "testmain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+/// The one line that Qt's offscreen platform writes by itself, for every window with a minimum or
+/// maximum size.
+const char kOffscreenSizeHints[] = "This plugin does not support propagateSizeHints()";
+
+void setPrivateFolder(const QString &root, const char *variable)
+{
+    const QString folder = root + QLatin1Char('/') + QString::fromLatin1(variable).toLower();
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv(variable, QFile::encodeName(folder));
+}
+
+/// The lines of QTest's text log that report a logged message, less the excepted one.
+QStringList unexpectedMessages(const QString &log)
+{
+    static const QRegularExpression message(
+        QStringLiteral("^(QDEBUG|QINFO|QWARN|QSYSTEM|QCRITICAL) .*$"),
+        QRegularExpression::MultilineOption);
+    QStringList found;
+    for (auto it = message.globalMatch(log); it.hasNext();) {
+        const QString line = it.next().captured();
+        if (!line.endsWith(QLatin1String(kOffscreenSizeHints)))
+            found += line;
+    }
+    return found;
+}
+
+} // namespace
+
+TestHome::TestHome()
+{
+    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME",
+                                 "XDG_STATE_HOME", "XDG_RUNTIME_DIR"})
+        setPrivateFolder(m_folder.path(), variable);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int runTestStrictly(QObject &test, int argc, char **argv)
+{
+    const QTemporaryDir folder;
+    const QString logName = folder.filePath(QStringLiteral("log.txt"));
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    arguments << QStringLiteral("-o") << logName + QLatin1String(",txt") << QStringLiteral("-o")
+              << QStringLiteral("-,txt");
+    const int failures = QTest::qExec(&test, arguments);
+
+    QFile log(logName);
+    if (!log.open(QIODevice::ReadOnly))
+        return failures; // asked for a list of functions only
+    const QStringList messages = unexpectedMessages(QString::fromUtf8(log.readAll()));
+    for (const QString &message : messages)
+        std::fprintf(stderr, "unexpected message: %s\n", qPrintable(message));
+    return failures + int(messages.size());
+}

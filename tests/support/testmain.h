@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTS_SUPPORT_TESTMAIN_H
+#define TESTS_SUPPORT_TESTMAIN_H
+
+#include <QObject>
+#include <QTemporaryDir>
+
+/**
+ * Gives a test a home of its own before any application object exists: settings, cache, data and
+ * runtime folders in a fresh temporary folder, and the offscreen platform unless the caller chose
+ * one. So no test reads or writes what belongs to the person who runs it.
+ */
+class TestHome
+{
+public:
+    TestHome();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// Runs all test functions of @p test and returns QTest's exit status. Beyond QTest's own judgment
+/// the run fails if anything was logged that no test function expected by QTest::ignoreMessage().
+int runTestStrictly(QObject &test, int argc, char **argv);
+
+/// The main function of a test: @p Application is QCoreApplication for logic, QApplication for
+/// widgets.
+template <typename Application, typename Test>
+int runTestMain(int argc, char **argv)
+{
+    const TestHome home;
+    Application application(argc, argv);
+    application.setApplicationName(QStringLiteral("Dezimo"));
+    application.setOrganizationName(QStringLiteral("Vantrel"));
+    Test test;
+    return runTestStrictly(test, argc, argv);
+}
+
+#define DEZIMO_TEST_MAIN(Application, Test)                                                        \
+    int main(int argc, char **argv)                                                                \
+    {                                                                                              \
+        return runTestMain<Application, Test>(argc, argv);                                         \
+    }
+
+#endif

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "mainprofile.h"
+
+#include "storedkeys.h"
+
+#include <QSettings>
+
+namespace {
+
+const StoredKeys &windowKeys()
+{
+    static const StoredKeys rows{
+        {"windowPosition", "windowPosition", QPoint(0, 0)},
+        {"windowSize", "windowSize", QSize()},
+        {"windowMode", "windowMode", 0},
+        {"currentModule", "currentModule", 0},
+        {"decimalPlaces", "decimalPlaces", MainProfile::kDefaultDecimalPlaces, 0,
+         MainProfile::kMaximumDecimalPlaces},
+    };
+    return rows;
+}
+
+} // namespace
+
+MainProfile::MainProfile() = default;
+
+MainProfile &MainProfile::instance()
+{
+    static MainProfile profile;
+    return profile;
+}
+
+void MainProfile::setWindowPosition(const QPoint &position)
+{
+    assign(m_windowPosition, position, &MainProfile::windowPositionChanged);
+}
+
+void MainProfile::setWindowSize(const QSize &size)
+{
+    assign(m_windowSize, size, &MainProfile::windowSizeChanged);
+}
+
+void MainProfile::setWindowMode(int mode)
+{
+    assign(m_windowMode, mode, &MainProfile::windowModeChanged);
+}
+
+void MainProfile::setCurrentModule(int module)
+{
+    assign(m_currentModule, module, &MainProfile::currentModuleChanged);
+}
+
+void MainProfile::setDecimalPlaces(int places)
+{
+    assign(m_decimalPlaces, places, &MainProfile::decimalPlacesChanged);
+}
+
+std::vector<Profile *> MainProfile::modules()
+{
+    return {&m_dbConverter};
+}
+
+void MainProfile::saveSettings(QSettings &settings)
+{
+    settings.beginGroup(QStringLiteral("MainProfile"));
+    saveKeys(*this, settings, windowKeys());
+    settings.endGroup();
+    for (Profile *module : modules())
+        module->saveSettings(settings);
+}
+
+void MainProfile::loadSettings(QSettings &settings)
+{
+    settings.beginGroup(QStringLiteral("MainProfile"));
+    loadKeys(*this, settings, windowKeys());
+    settings.endGroup();
+    loadModuleSettings(settings);
+}
+
+void MainProfile::loadModuleSettings(QSettings &settings)
+{
+    for (Profile *module : modules())
+        module->loadSettings(settings);
+}

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef PROFILES_MAINPROFILE_H
+#define PROFILES_MAINPROFILE_H
+
+#include "dbconverterprofile.h"
+#include "profile.h"
+
+#include <QPoint>
+#include <QSize>
+
+#include <vector>
+
+/**
+ * The one root model: the state of the main window, the number of digits of all value texts, and
+ * the owner of the module profiles. Views, main window and models reach each other's values through
+ * instance() only.
+ */
+class MainProfile final : public Profile
+{
+    Q_OBJECT
+    Q_PROPERTY(QPoint windowPosition READ windowPosition WRITE setWindowPosition NOTIFY
+                   windowPositionChanged)
+    Q_PROPERTY(QSize windowSize READ windowSize WRITE setWindowSize NOTIFY windowSizeChanged)
+    Q_PROPERTY(int windowMode READ windowMode WRITE setWindowMode NOTIFY windowModeChanged)
+    Q_PROPERTY(
+        int currentModule READ currentModule WRITE setCurrentModule NOTIFY currentModuleChanged)
+    Q_PROPERTY(
+        int decimalPlaces READ decimalPlaces WRITE setDecimalPlaces NOTIFY decimalPlacesChanged)
+
+public:
+    static constexpr int kDefaultDecimalPlaces = 3;
+    static constexpr int kMaximumDecimalPlaces = 10;
+
+    MainProfile();
+
+    /// The profile of the running program. It is made by the first caller, whichever thread that is
+    /// (another one waits until it is complete), and lives until the process ends.
+    static MainProfile &instance();
+
+    QPoint windowPosition() const { return m_windowPosition; }
+    /// Invalid until a window has been shown.
+    QSize windowSize() const { return m_windowSize; }
+    /// 0: compact module list (icons); any other value: expanded (icons and texts).
+    int windowMode() const { return m_windowMode; }
+    /// Row of the module list: 0 dBm calculator, 1 voltage calculator, 2 unit converter,
+    /// 3 dB converter, 4 VSWR converter.
+    int currentModule() const { return m_currentModule; }
+    /// Significant digits of linear values, 0 to 10. A change applies from the next calculation of
+    /// each model; texts that are already shown stay.
+    int decimalPlaces() const { return m_decimalPlaces; }
+
+    void setWindowPosition(const QPoint &position);
+    void setWindowSize(const QSize &size);
+    void setWindowMode(int mode);
+    void setCurrentModule(int module);
+    void setDecimalPlaces(int places);
+
+    DbConverterProfile &dbConverter() { return m_dbConverter; }
+
+    /// The module profiles in the order in which they are saved and loaded.
+    std::vector<Profile *> modules();
+
+    /// Writes the window group and then every module's group.
+    void saveSettings(QSettings &settings) override;
+    /// Reads the window group and then every module's group.
+    void loadSettings(QSettings &settings) override;
+    /// Reads the modules' groups only: calculation files and defaults never move the window, turn a
+    /// page or change the number of digits.
+    void loadModuleSettings(QSettings &settings);
+
+Q_SIGNALS:
+    void windowPositionChanged();
+    void windowSizeChanged();
+    void windowModeChanged();
+    void currentModuleChanged();
+    void decimalPlacesChanged();
+
+private:
+    QPoint m_windowPosition{0, 0};
+    QSize m_windowSize;
+    int m_windowMode = 0;
+    int m_currentModule = 0;
+    int m_decimalPlaces = kDefaultDecimalPlaces;
+    DbConverterProfile m_dbConverter;
+};
+
+#endif

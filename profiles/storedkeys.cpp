@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "storedkeys.h"
+
+#include "profile.h"
+
+#include <QPoint>
+#include <QSettings>
+#include <QSize>
+
+#include <cmath>
+
+namespace {
+
+bool isText(const QVariant &stored)
+{
+    return stored.userType() == QMetaType::QString;
+}
+
+/// INI files keep every number as a text, the registry keeps integers as integers.
+bool isNumberOrText(const QVariant &stored)
+{
+    switch (stored.userType()) {
+    case QMetaType::QString:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QVariant textOrNothing(const QVariant &stored)
+{
+    if (!isText(stored) || stored.toString().size() > kMaximumTextLength)
+        return {};
+    return stored;
+}
+
+QVariant integerOrNothing(const QVariant &stored)
+{
+    bool ok = false;
+    const int value = isNumberOrText(stored) ? stored.toInt(&ok) : 0;
+    return ok ? QVariant(value) : QVariant();
+}
+
+QVariant finiteOrNothing(const QVariant &stored)
+{
+    bool ok = false;
+    const double value = isNumberOrText(stored) ? stored.toDouble(&ok) : 0.0;
+    return ok && std::isfinite(value) ? QVariant(value) : QVariant();
+}
+
+QVariant boolOrNothing(const QVariant &stored)
+{
+    if (stored.userType() == QMetaType::Bool)
+        return stored;
+    const QString text = isNumberOrText(stored) ? stored.toString() : QString();
+    if (text == QLatin1String("true") || text == QLatin1String("1"))
+        return true;
+    if (text == QLatin1String("false") || text == QLatin1String("0"))
+        return false;
+    return {};
+}
+
+/// The stored value as the type of @p wanted, or an invalid variant where it is malformed.
+QVariant wellFormed(const QVariant &stored, const QVariant &wanted)
+{
+    switch (wanted.userType()) {
+    case QMetaType::QString:
+        return textOrNothing(stored);
+    case QMetaType::Int:
+        return integerOrNothing(stored);
+    case QMetaType::Double:
+        return finiteOrNothing(stored);
+    case QMetaType::Bool:
+        return boolOrNothing(stored);
+    default:
+        return stored.userType() == wanted.userType() ? stored : QVariant();
+    }
+}
+
+bool isWithinRange(const QVariant &value, const StoredKey &row)
+{
+    if (value.userType() != QMetaType::Int)
+        return true;
+    return value.toInt() >= row.minimum && value.toInt() <= row.maximum;
+}
+
+} // namespace
+
+QVariant storedValue(const QSettings &settings, const char *key, const QVariant &defaultValue)
+{
+    const QVariant stored = settings.value(QLatin1String(key));
+    const QVariant value = stored.isValid() ? wellFormed(stored, defaultValue) : QVariant();
+    return value.isValid() ? value : defaultValue;
+}
+
+void saveKeys(const Profile &profile, QSettings &settings, const StoredKeys &rows)
+{
+    for (const StoredKey &row : rows)
+        settings.setValue(QLatin1String(row.key), profile.property(row.property));
+}
+
+void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &rows)
+{
+    for (const StoredKey &row : rows) {
+        const QVariant value = storedValue(settings, row.key, row.defaultValue);
+        profile.setProperty(row.property, isWithinRange(value, row) ? value : row.defaultValue);
+    }
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef PROFILES_STOREDKEYS_H
+#define PROFILES_STOREDKEYS_H
+
+#include <QVariant>
+
+#include <limits>
+#include <vector>
+
+class Profile;
+class QSettings;
+
+/**
+ * One row of a profile's table of stored values. The same row drives saving and loading, so that
+ * the two cannot drift apart. The type of the default is the type that is stored: text, int, bool,
+ * double, point or size.
+ */
+struct StoredKey
+{
+    const char *key;
+    const char *property;
+    QVariant defaultValue;
+    int minimum = std::numeric_limits<int>::min();
+    int maximum = std::numeric_limits<int>::max();
+};
+
+using StoredKeys = std::vector<StoredKey>;
+
+/// The longest text that is read back. It is what a line edit holds: a longer text would come back
+/// from the field cut.
+constexpr int kMaximumTextLength = 32767;
+
+/// The value of @p key in the current group of @p settings, or @p defaultValue where the key is
+/// missing or malformed: another type than the default's, a number that is none, an infinity, a
+/// text longer than kMaximumTextLength.
+QVariant storedValue(const QSettings &settings, const char *key, const QVariant &defaultValue);
+
+/// Writes the rows' properties of @p profile into the current group of @p settings, in row order.
+void saveKeys(const Profile &profile, QSettings &settings, const StoredKeys &rows);
+
+/// Reads the rows from the current group of @p settings and hands each value to the setter of its
+/// property, in row order. An integer outside the row's range is malformed.
+void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &rows);
+
+#endif

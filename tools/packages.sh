@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# tools/packages.sh GROUP...: the one install step. Brings in those Debian packages of the named
+# groups that are missing, and says which. Where it cannot install (no apt, or neither root nor
+# sudo) it names them and succeeds if the commands that they bring are there.
+set -euo pipefail
+
+# Debian's packages, and the commands by which other systems can tell that they have the same.
+declare -A packages=(
+    [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
+        python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core"
+    [run]="libqt5svg5 qtwayland5"
+    [test]="libqt5test5 xvfb xauth x11-utils xdotool dbus"
+    [lint]="git clang-format clang-tidy clazy shellcheck"
+    [windows-check]="g++-mingw-w64-x86-64-posix"
+)
+declare -A commands=(
+    [build]="c++ cmake ninja python3"
+    [run]=""
+    [test]="ctest"
+    [lint]="git clang-format clang-tidy clazy-standalone shellcheck"
+    [windows-check]="x86_64-w64-mingw32-g++-posix"
+)
+
+# Those of the given packages that dpkg does not have installed.
+missing_of() {
+    local installed
+    installed=" $(dpkg-query --show --showformat='${db:Status-Status}=${Package} ' "$@" 2>/dev/null || true)"
+    for package in "$@"; do
+        [[ $installed == *" installed=$package "* ]] || echo "$package"
+    done
+}
+
+apt_get() {
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get --quiet --quiet -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "$@"
+}
+
+# A fresh machine has no package lists and an old one has outdated lists. Both show in a first
+# attempt that fails; only then are they fetched.
+apt_install() {
+    local install=(install --yes --no-install-recommends "$@")
+    apt_get "${install[@]}" >/dev/null 2>&1 || { apt_get update && apt_get "${install[@]}" >/dev/null; }
+}
+
+require_commands() {
+    local absent=()
+    for command in "$@"; do
+        command -v "$command" >/dev/null || absent+=("$command")
+    done
+    [[ ${#absent[@]} -eq 0 ]] || { echo "Not found: ${absent[*]}" >&2; exit 1; }
+}
+
+wanted=()
+wanted_commands=()
+for group in "$@"; do
+    [[ -v packages[$group] ]] || { echo "No such group of packages: $group" >&2; exit 2; }
+    read -r -d '' -a names <<<"${packages[$group]}" || true
+    wanted+=("${names[@]}")
+    read -r -a names <<<"${commands[$group]}"
+    wanted_commands+=("${names[@]}")
+done
+
+as_root=()
+[[ $EUID -eq 0 ]] || as_root=(sudo)
+
+if ! command -v apt-get >/dev/null; then
+    echo "No apt here. Needed are what Debian calls: ${wanted[*]}"
+    require_commands "${wanted_commands[@]}"
+    exit
+fi
+
+mapfile -t missing < <(missing_of "${wanted[@]}")
+[[ ${#missing[@]} -gt 0 ]] || exit 0
+
+if [[ $EUID -ne 0 ]] && ! command -v sudo >/dev/null; then
+    echo "Neither root nor sudo to install: ${missing[*]}"
+    require_commands "${wanted_commands[@]}"
+    exit
+fi
+
+echo "Installing: ${missing[*]}"
+apt_install "${missing[@]}"

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# ./test.sh [--quick]: installs what is missing, builds with warnings as errors and sanitizers, and
+# runs every test; --quick leaves out those with the label slow. Ends with CTest's summary and status.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+choice=()
+case "$*" in
+    "") ;;
+    --quick) choice=(--label-exclude '^slow$') ;;
+    *) echo "usage: ./test.sh [--quick]" >&2; exit 2 ;;
+esac
+
+tools/packages.sh build run test
+
+# The sanitizers lay their shadow memory at fixed addresses. Kernels that spread mappings over more
+# than 28 bits sometimes put the program there, so it is loaded at fixed addresses where allowed.
+loaded=()
+if setarch --addr-no-randomize true 2>/dev/null; then
+    loaded=(setarch --addr-no-randomize)
+fi
+export ASAN_OPTIONS=detect_leaks=1
+export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
+export UBSAN_OPTIONS=print_stacktrace=1
+
+# build PRESET [TARGET]
+build() {
+    cmake --preset "$1" >/dev/null # warnings and errors still show
+    cmake --build --preset "$1" ${2:+--target "$2"}
+}
+
+# The one object that threads may create at once; ThreadSanitizer needs a build of its own.
+threads=tst_mainprofile_threads
+build tsan "$threads"
+"${loaded[@]}" ctest --preset tsan --tests-regex "^$threads\$"
+
+build asan
+"${loaded[@]}" ctest --preset asan --parallel 2 "${choice[@]}"

@@ -24,6 +24,7 @@ if setarch --addr-no-randomize true 2>/dev/null; then
 fi
 export ASAN_OPTIONS=detect_leaks=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
+export TSAN_OPTIONS=suppressions=$PWD/tests/tsan.supp
 export UBSAN_OPTIONS=print_stacktrace=1
 
 # build PRESET [TARGET]

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelautoresizelineedit.h"
+
+#include <QFontMetrics>
+
+namespace {
+
+/// Pixels that the frame takes from the edit's height and width.
+constexpr int kFrame = 12;
+
+constexpr int kSmallestFontSize = 10;
+
+} // namespace
+
+KelAutoResizeLineEdit::KelAutoResizeLineEdit(QWidget *parent) : KelLineEdit(parent)
+{
+    connect(this, &QLineEdit::textChanged, this, &KelAutoResizeLineEdit::adjustTextSizeAuto);
+}
+
+void KelAutoResizeLineEdit::adjustTextSizeAuto()
+{
+    const int size = fittingFontSize();
+    if (size != m_fontSize) {
+        m_fontSize = size;
+        Q_EMIT fontSizeChanged(size);
+    }
+    setStyleSheet(QStringLiteral("font-size: %1px").arg(size));
+}
+
+void KelAutoResizeLineEdit::resizeEvent(QResizeEvent *event)
+{
+    KelLineEdit::resizeEvent(event);
+    adjustTextSizeAuto();
+}
+
+int KelAutoResizeLineEdit::textWidth(int fontSize) const
+{
+    QFont candidate = font();
+    candidate.setPixelSize(fontSize);
+    return QFontMetrics(candidate).boundingRect(text()).width();
+}
+
+/// The size applied is one below the last size measured, which keeps a pixel of air around the text
+/// and is meant. In an edit too low for any text the size is zero or negative.
+int KelAutoResizeLineEdit::fittingFontSize() const
+{
+    const int available = width() - kFrame;
+    int size = height() - kFrame;
+    // A text that is far too wide at the smallest size need not be measured at each of the others.
+    if (size > kSmallestFontSize && textWidth(kSmallestFontSize + 1) / 2 > qMax(available, 0))
+        return kSmallestFontSize;
+    int measured = 0;
+    do {
+        measured = textWidth(size);
+        --size;
+    } while (measured > available && size > kSmallestFontSize);
+    return size;
+}

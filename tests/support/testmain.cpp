@@ -10,6 +10,10 @@
 
 #include <cstdio>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
 namespace {
 
 /// The one line that Qt's offscreen platform writes by itself, for every window with a minimum or
@@ -49,6 +53,22 @@ TestHome::TestHome()
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
+
+#if defined(__SANITIZE_ADDRESS__)
+LeakCheckPause::LeakCheckPause()
+{
+    __lsan_disable();
+}
+
+LeakCheckPause::~LeakCheckPause()
+{
+    __lsan_enable();
+}
+#else
+LeakCheckPause::LeakCheckPause() = default;
+
+LeakCheckPause::~LeakCheckPause() = default;
+#endif
 
 int runTestStrictly(QObject &test, int argc, char **argv)
 {

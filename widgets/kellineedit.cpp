@@ -25,6 +25,8 @@ KelLineEdit::KelLineEdit(QWidget *parent)
       m_suffixLabel(new QLabel(this))
 {
     setAttribute(Qt::WA_MacShowFocusRect, false);
+    m_prefixLabel->setObjectName(QStringLiteral("prefixLabel"));
+    m_suffixLabel->setObjectName(QStringLiteral("suffixLabel"));
     for (QLabel *label : {m_prefixLabel, m_suffixLabel}) {
         label->setTextFormat(Qt::PlainText);
         label->setAttribute(Qt::WA_TransparentForMouseEvents);

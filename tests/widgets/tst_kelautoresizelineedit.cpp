@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "expectedmessages.h"
 #include "kelautoresizelineedit.h"
 #include "testmain.h"
 
@@ -43,35 +44,6 @@ private:
 };
 
 namespace {
-
-/// Takes the warnings that Qt logs about a font without height, as often as it does, and leaves
-/// every other message to the test's log.
-class FontWarnings
-{
-public:
-    FontWarnings()
-    {
-        s_count = 0;
-        s_previous = qInstallMessageHandler(&FontWarnings::handle);
-    }
-    ~FontWarnings() { qInstallMessageHandler(s_previous); }
-    FontWarnings(const FontWarnings &) = delete;
-    FontWarnings &operator=(const FontWarnings &) = delete;
-
-    int count() const { return s_count; }
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
-    {
-        if (message.startsWith(QLatin1String("QFont::setPixelSize: Pixel size <= 0 (")))
-            ++s_count;
-        else
-            s_previous(type, context, message);
-    }
-
-    static inline QtMessageHandler s_previous = nullptr;
-    static inline int s_count = 0;
-};
 
 QString sheet(int size)
 {
@@ -131,7 +103,7 @@ void KelAutoResizeLineEditTest::aLowEdit()
     QFETCH(int, height);
     QFETCH(int, size);
 
-    const FontWarnings warnings;
+    const ExpectedMessages warnings({QStringLiteral("QFont::setPixelSize: Pixel size <= 0 (")});
     m_edit->resize(400, height);
     QCOMPARE(m_edit->styleSheet(), sheet(size));
     m_window.reset();

@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "expectedmessages.h"
+#include "kelcombobox.h"
+#include "kelcomboboxstyle.h"
+#include "testmain.h"
+
+#include <QApplication>
+#include <QListView>
+#include <QTest>
+
+class KelComboBoxTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void styleNeverLaysThePopupOverTheBox();
+    void styleForwardsEveryOtherHint_data();
+    void styleForwardsEveryOtherHint();
+    void hasAStyleOfItsOwn();
+    void showsAPlainList();
+    void opensBelowTheBox_data();
+    void opensBelowTheBox();
+    void choosesByKeyboard();
+};
+
+namespace {
+
+/// A platform's style that answers every hint with the same number.
+class ConstantStyle final : public QProxyStyle
+{
+public:
+    static constexpr int kAnswer = 1234;
+
+    int styleHint(StyleHint, const QStyleOption *, const QWidget *,
+                  QStyleHintReturn *) const override
+    {
+        return kAnswer;
+    }
+};
+
+const QStringList kUnits{QStringLiteral("dBm"), QStringLiteral("mW"), QStringLiteral("W")};
+
+} // namespace
+
+void KelComboBoxTest::cleanup()
+{
+    qApp->setStyleSheet(QString());
+}
+
+void KelComboBoxTest::styleNeverLaysThePopupOverTheBox()
+{
+    KelComboBoxStyle style;
+    style.setBaseStyle(new ConstantStyle);
+    QCOMPARE(style.styleHint(QStyle::SH_ComboBox_Popup), 0);
+}
+
+void KelComboBoxTest::styleForwardsEveryOtherHint_data()
+{
+    QTest::addColumn<int>("hint");
+
+    QTest::newRow("the first hint") << int(QStyle::SH_EtchDisabledText);
+    QTest::newRow("the hint before the popup's") << int(QStyle::SH_ComboBox_Popup) - 1;
+    QTest::newRow("the hint after the popup's") << int(QStyle::SH_ComboBox_Popup) + 1;
+    QTest::newRow("another hint about combo boxes") << int(QStyle::SH_ComboBox_ListMouseTracking);
+    QTest::newRow("a hint of another widget") << int(QStyle::SH_SpinBox_StepModifier);
+}
+
+void KelComboBoxTest::styleForwardsEveryOtherHint()
+{
+    QFETCH(int, hint);
+
+    KelComboBoxStyle style;
+    style.setBaseStyle(new ConstantStyle);
+    QCOMPARE(style.styleHint(QStyle::StyleHint(hint)), ConstantStyle::kAnswer);
+}
+
+void KelComboBoxTest::hasAStyleOfItsOwn()
+{
+    const KelComboBox first;
+    const KelComboBox second;
+    QVERIFY(qobject_cast<KelComboBoxStyle *>(first.style()));
+    QVERIFY(qobject_cast<KelComboBoxStyle *>(second.style()));
+    QVERIFY(first.style() != second.style());
+}
+
+void KelComboBoxTest::showsAPlainList()
+{
+    const KelComboBox box;
+    QCOMPARE(box.view()->metaObject()->className(), "QListView");
+}
+
+void KelComboBoxTest::opensBelowTheBox_data()
+{
+    QTest::addColumn<QString>("styleSheet");
+
+    QTest::newRow("without a style sheet") << "";
+    QTest::newRow("with the style sheet of the program")
+        << "QComboBox { border: 1px solid gray } QComboBox QAbstractItemView { padding: 2px }";
+}
+
+void KelComboBoxTest::opensBelowTheBox()
+{
+    QFETCH(QString, styleSheet);
+
+    const ExpectedMessages messages(offscreenPopupMessages());
+    qApp->setStyleSheet(styleSheet);
+    QWidget window;
+    window.setGeometry(100, 50, 400, 200);
+    KelComboBox box(&window);
+    box.addItems(kUnits);
+    box.setGeometry(30, 20, 250, 28);
+    box.setCurrentIndex(2);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+    const QWidget *popup = box.view()->window();
+    QVERIFY(popup != &window);
+    // Whatever item is chosen: 100 + 30 and, below the box, 50 + 20 + 28.
+    QCOMPARE(popup->pos(), QPoint(130, 98));
+    QCOMPARE(box.view()->minimumWidth(), 250);
+    QCOMPARE(box.view()->sizePolicy().horizontalPolicy(), QSizePolicy::MinimumExpanding);
+    QVERIFY(box.view()->width() >= 250);
+
+    box.hidePopup();
+    box.resize(180, 28);
+    box.showPopup();
+    QCOMPARE(box.view()->minimumWidth(), 180);
+    box.hidePopup();
+}
+
+void KelComboBoxTest::choosesByKeyboard()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    KelComboBox box;
+    box.addItems(kUnits);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+    QTest::keyClick(box.view(), Qt::Key_Down);
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    QCOMPARE(box.currentText(), QStringLiteral("mW"));
+    QTRY_VERIFY(!box.view()->isVisible());
+}
+
+DEZIMO_TEST_MAIN(QApplication, KelComboBoxTest)
+
+#include "tst_kelcombobox.moc"

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "accessiblewidgets.h"
+
+#include "keltogglebutton.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPushButton>
+
+namespace {
+
+/// One button of a segmented switch. Its only action is a click, since a switch follows clicks and
+/// no other way of checking a button.
+class AccessibleSegment final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleSegment(QPushButton *button)
+        : QAccessibleWidget(button, QAccessible::RadioButton),
+          m_button(button)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString given = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && given.isEmpty() ? m_button->text() : given;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = m_button->isChecked();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (m_button->isEnabled())
+            names.prepend(toggleAction());
+        return names;
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == toggleAction())
+            m_button->click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QPushButton *const m_button;
+};
+
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("KelToggleButton"))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Grouping);
+    if (className == QLatin1String("KelIconWidget"))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Graphic);
+    if (className == QLatin1String("QPushButton") &&
+        qobject_cast<KelToggleButton *>(object->parent()))
+        return new AccessibleSegment(static_cast<QPushButton *>(object));
+    return nullptr;
+}
+
+} // namespace
+
+void installAccessibleWidgets()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(createInterface);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}

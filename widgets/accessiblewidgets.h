@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef WIDGETS_ACCESSIBLEWIDGETS_H
+#define WIDGETS_ACCESSIBLEWIDGETS_H
+
+/// Makes the toolkit's own controls known to screen readers as what they are: a segmented switch as
+/// a group of radio buttons, an icon as a graphic. Called by these widgets; only the first call has
+/// an effect.
+void installAccessibleWidgets();
+
+#endif

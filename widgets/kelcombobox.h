@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef WIDGETS_KELCOMBOBOX_H
+#define WIDGETS_KELCOMBOBOX_H
+
+#include <QComboBox>
+
+/**
+ * A combo box whose list opens directly below the box and is at least as wide, on every platform.
+ * The list is a plain list view, so that style sheets reach its items.
+ */
+class KelComboBox final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit KelComboBox(QWidget *parent = nullptr);
+
+    void showPopup() override;
+};
+
+#endif

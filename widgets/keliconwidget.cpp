@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "keliconwidget.h"
+
+#include "accessiblewidgets.h"
+
+#include <QPainter>
+
+KelIconWidget::KelIconWidget(QWidget *parent) : QWidget(parent)
+{
+    installAccessibleWidgets();
+}
+
+void KelIconWidget::setIcon(const QIcon &icon)
+{
+    m_icon = icon;
+    update();
+}
+
+void KelIconWidget::setRotation(int degrees)
+{
+    m_rotation = degrees;
+    update();
+}
+
+void KelIconWidget::setIconSize(const QSize &size)
+{
+    m_iconSize = size;
+    updateGeometry();
+    update();
+}
+
+void KelIconWidget::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+
+    const QPixmap pixmap =
+        m_icon.pixmap(window()->windowHandle(), m_iconSize, QIcon::Normal, QIcon::Off);
+    const QPoint topLeft((width() - m_iconSize.width()) / 2, (height() - m_iconSize.height()) / 2);
+    const QPointF center(width() * 0.5, height() * 0.5);
+
+    QPainter painter(this);
+    // Deprecated because Qt's own paint engines take no notice of it; kept on purpose for others.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    painter.setRenderHint(QPainter::HighQualityAntialiasing);
+    QT_WARNING_POP
+    painter.translate(center);
+    painter.rotate(m_rotation);
+    painter.translate(-center);
+    painter.drawPixmap(QRect(topLeft, m_iconSize), pixmap);
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef WIDGETS_KELNUMERICLINEEDIT_H
+#define WIDGETS_KELNUMERICLINEEDIT_H
+
+#include "kellineedit.h"
+
+class QRegExpValidator;
+
+/**
+ * A line edit that only a number can be typed into: digits before and after the decimal point of
+ * the widget's locale, an exponent, one SI prefix letter and the unit, of which any beginning will
+ * do, as in "-12.5 dBm" or "4e3kW".
+ *
+ * `decimals` and `integerDigits` are the greatest numbers of digits after and before the point.
+ * Either may be 0, so that the part is left out, but not both: a 0 beside a 0 is refused.
+ */
+class KelNumericLineEdit final : public KelLineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString unitText READ unitText WRITE setUnitText NOTIFY unitTextChanged)
+    Q_PROPERTY(quint16 decimals READ decimals WRITE setDecimals NOTIFY decimalsChanged)
+    Q_PROPERTY(
+        quint16 integerDigits READ integerDigits WRITE setIntegerDigits NOTIFY integerDigitsChanged)
+
+public:
+    explicit KelNumericLineEdit(QWidget *parent = nullptr);
+
+    QString unitText() const { return m_unitText; }
+    quint16 decimals() const { return m_decimals; }
+    quint16 integerDigits() const { return m_integerDigits; }
+
+    void setUnitText(const QString &text);
+    void setDecimals(quint16 digits);
+    void setIntegerDigits(quint16 digits);
+
+Q_SIGNALS:
+    void unitTextChanged();
+    void decimalsChanged();
+    void integerDigitsChanged();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void rebuildValidator();
+    QString pattern() const;
+
+    QString m_unitText;
+    quint16 m_decimals = 2;
+    quint16 m_integerDigits = 3;
+    QRegExpValidator *m_validator = nullptr;
+};
+
+#endif

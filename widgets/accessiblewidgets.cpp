@@ -3,10 +3,12 @@
 
 #include "accessiblewidgets.h"
 
+#include "kellineedit.h"
 #include "keltogglebutton.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QLabel>
 #include <QPushButton>
 
 namespace {
@@ -55,6 +57,22 @@ private:
     QPushButton *const m_button;
 };
 
+/// A label inside a line edit. The edit's description has its text already, so that a screen reader
+/// that walks through the window shall not meet it a second time.
+class AccessibleInnerLabel final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleInnerLabel(QLabel *label) : QAccessibleWidget(label, QAccessible::StaticText)
+    {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = true;
+        return state;
+    }
+};
+
 QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
     if (className == QLatin1String("KelToggleButton"))
@@ -64,6 +82,8 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
     if (className == QLatin1String("QPushButton") &&
         qobject_cast<KelToggleButton *>(object->parent()))
         return new AccessibleSegment(static_cast<QPushButton *>(object));
+    if (className == QLatin1String("QLabel") && qobject_cast<KelLineEdit *>(object->parent()))
+        return new AccessibleInnerLabel(static_cast<QLabel *>(object));
     return nullptr;
 }
 

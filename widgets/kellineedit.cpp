@@ -3,6 +3,8 @@
 
 #include "kellineedit.h"
 
+#include "accessiblewidgets.h"
+
 #include <QEvent>
 #include <QLabel>
 #include <QStyle>
@@ -24,6 +26,7 @@ KelLineEdit::KelLineEdit(QWidget *parent)
       m_prefixLabel(new QLabel(this)),
       m_suffixLabel(new QLabel(this))
 {
+    installAccessibleWidgets();
     setAttribute(Qt::WA_MacShowFocusRect, false);
     m_prefixLabel->setObjectName(QStringLiteral("prefixLabel"));
     m_suffixLabel->setObjectName(QStringLiteral("suffixLabel"));

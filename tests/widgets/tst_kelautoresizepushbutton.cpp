@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "expectedmessages.h"
 #include "kelautoresizepushbutton.h"
 #include "testmain.h"
 
@@ -14,6 +15,7 @@ class KelAutoResizePushButtonTest : public QObject
 private Q_SLOTS:
     void fontFollowsTheSmallerSide_data();
     void fontFollowsTheSmallerSide();
+    void aSizeWithoutFontIsWrittenAllTheSame();
     void replacesItsStyleSheet();
 };
 
@@ -41,6 +43,18 @@ void KelAutoResizePushButtonTest::fontFollowsTheSmallerSide()
     button.resize(size);
     QCOMPARE(button.styleSheet(), QStringLiteral("font-size: %1px").arg(fontSize));
     QCOMPARE(button.font().pixelSize(), fontSize);
+}
+
+void KelAutoResizePushButtonTest::aSizeWithoutFontIsWrittenAllTheSame()
+{
+    const ExpectedMessages warnings({QStringLiteral("QFont::setPixelSize: Pixel size <= 0 (0)")});
+    QWidget window;
+    KelAutoResizePushButton button(&window);
+    window.show();
+    button.show();
+    button.resize(80, 1);
+    QCOMPARE(button.styleSheet(), QStringLiteral("font-size: 0px"));
+    QVERIFY(warnings.count() > 0);
 }
 
 void KelAutoResizePushButtonTest::replacesItsStyleSheet()

@@ -37,6 +37,7 @@ private Q_SLOTS:
 
     void describesItsLabels();
     void keepsADescriptionOfItsOwn();
+    void hidesItsLabelsFromScreenReaders();
 
 private:
     QLabel *label(const char *name) const
@@ -245,6 +246,17 @@ void KelLineEditTest::keepsADescriptionOfItsOwn()
     m_edit->setAccessibleDescription(QStringLiteral("Power of the generator"));
     m_edit->setSuffixText(QStringLiteral("W"));
     QCOMPARE(m_edit->accessibleDescription(), QStringLiteral("Power of the generator"));
+}
+
+void KelLineEditTest::hidesItsLabelsFromScreenReaders()
+{
+    m_edit->setSuffixText(QStringLiteral("dBm"));
+    QVERIFY(label("suffixLabel")->isVisible());
+    QVERIFY(QAccessible::queryAccessibleInterface(label("suffixLabel"))->state().invisible);
+
+    QLabel elsewhere(m_window.get());
+    elsewhere.show();
+    QVERIFY(!QAccessible::queryAccessibleInterface(&elsewhere)->state().invisible);
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelLineEditTest)

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef SYSINFO_FACTBASEDOSINFO_H
+#define SYSINFO_FACTBASEDOSINFO_H
+
+#include "osinfo.h"
+
+#include <ctime>
+#include <optional>
+
+/**
+ * Puts the sections together from single facts. A platform only says what each fact is and which
+ * drivers it finds; names, keys, order and the texts for what is missing are the same everywhere.
+ */
+class FactBasedOSInfo : public OSInfo
+{
+public:
+    enum class Fact {
+        ProductName,
+        InstallDate,
+        AdminRights,
+        Country,
+        Language,
+        LocaleId,
+        VbRuntime,
+        CviRuntime,
+        MsiRuntime,
+        InternetExplorer,
+        NiAnalysis,
+        NiUserInterface,
+        Ni3dGraph,
+        VisaName,
+        VisaVersion,
+        VisaCompany,
+        IeeeDriver,
+        RemoteControl,
+        SensorControl,
+    };
+    enum class DriverKind { VxiPnp, Ivi, Usb };
+    struct Driver
+    {
+        QString fileName;
+        /// Empty if it cannot be read.
+        QString version;
+    };
+
+    QString productName() const final;
+    QString country() const final;
+    QString language() const final;
+    QString localeId() const final;
+    QString sensorControlVersion() const final;
+    QVector<Section> systemInformation() const final;
+    QVector<Section> driverInformation() const final;
+
+protected:
+    /// Empty if the fact cannot be read.
+    virtual QString fact(Fact fact) const = 0;
+    /// The maker's installed drivers; no list at all where the platform knows no such drivers.
+    virtual std::optional<QVector<Driver>> drivers(DriverKind kind) const = 0;
+
+    /// The C library's text of a moment (seconds since 1970-01-01 UTC) in local time, for example
+    /// "Thu Jan  1 00:00:00 1970"; empty for a year that the C library cannot write.
+    static QString momentText(std::time_t moment);
+    static QString yesOrNo(bool yes);
+
+private:
+    QString text(Fact fact) const;
+    QVector<Entry> usbDriverEntries() const;
+};
+
+#endif

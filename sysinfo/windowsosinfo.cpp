@@ -1,0 +1,220 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "windowsosinfo.h"
+
+#include "windowshost.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+using Fact = FactBasedOSInfo::Fact;
+using Hive = WindowsHost::Hive;
+using VersionField = WindowsHost::VersionField;
+
+constexpr char kWindowsNt[] = R"(SOFTWARE\Microsoft\Windows NT\CurrentVersion)";
+constexpr char kWindows[] = R"(SOFTWARE\Microsoft\Windows\CurrentVersion)";
+constexpr char kInternational[] = R"(Control Panel\International)";
+constexpr char kInternetExplorer[] =
+    R"(SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\IEXPLORE.EXE)";
+constexpr char kVxiPnp[] = R"(SOFTWARE\VXIPNP_Alliance\VXIPNP\CurrentVersion)";
+
+struct RegistryFact
+{
+    Fact fact;
+    Hive hive;
+    const char *key;
+    const char *value;
+};
+
+constexpr RegistryFact kRegistryFacts[] = {
+    {Fact::ProductName, Hive::LocalMachine, kWindowsNt, "ProductName"},
+    {Fact::Country, Hive::CurrentUser, kInternational, "sCountry"},
+    {Fact::Language, Hive::CurrentUser, kInternational, "sLanguage"},
+    {Fact::LocaleId, Hive::CurrentUser, kInternational, "Locale"},
+};
+
+struct LibraryFact
+{
+    Fact fact;
+    /// In the system folder.
+    const char *fileName;
+    VersionField field;
+};
+
+constexpr LibraryFact kLibraryFacts[] = {
+    {Fact::VbRuntime, R"(\msvbvm60.dll)", VersionField::FileVersion},
+    {Fact::CviRuntime, R"(\cvirte.dll)", VersionField::FileVersion},
+    {Fact::MsiRuntime, R"(\msi.dll)", VersionField::FileVersion},
+    {Fact::NiAnalysis, R"(\cwanalysis.ocx)", VersionField::FileVersion},
+    {Fact::NiUserInterface, R"(\cwui.ocx)", VersionField::FileVersion},
+    {Fact::Ni3dGraph, R"(\cw3dgrph.ocx)", VersionField::FileVersion},
+    {Fact::VisaName, R"(\visa32.dll)", VersionField::ProductName},
+    {Fact::VisaVersion, R"(\visa32.dll)", VersionField::FileVersion},
+    {Fact::VisaCompany, R"(\visa32.dll)", VersionField::CompanyName},
+    {Fact::RemoteControl, R"(\kelremote.dll)", VersionField::FileVersion},
+    {Fact::SensorControl, R"(\kelsensor.dll)", VersionField::FileVersion},
+};
+
+/// The GPIB library of the interface board's maker, or else the one of the older SICL layer.
+constexpr const char *kIeeeLibraries[] = {R"(\GPIB-32.dll)", R"(\sicl32.dll)"};
+
+/// @p relative, which begins with a backslash, below @p folder. Empty without a folder: nothing may
+/// be looked up relative to the root of the current drive.
+QString below(QString folder, const char *relative)
+{
+    while (folder.endsWith(QLatin1Char('\\')))
+        folder.chop(1);
+    return folder.isEmpty() ? QString() : QString(folder + QLatin1String(relative));
+}
+
+bool lessWithoutCase(const QString &left, const QString &right)
+{
+    return left.compare(right, Qt::CaseInsensitive) < 0;
+}
+
+} // namespace
+
+WindowsOSInfo::WindowsOSInfo(std::unique_ptr<WindowsHost> host) : m_host(std::move(host)) {}
+
+WindowsOSInfo::~WindowsOSInfo() = default;
+
+QString WindowsOSInfo::fact(Fact fact) const
+{
+    for (const RegistryFact &row : kRegistryFacts) {
+        if (row.fact == fact)
+            return m_host->registryText(row.hive, QLatin1String(row.key), QLatin1String(row.value));
+    }
+    for (const LibraryFact &row : kLibraryFacts) {
+        if (row.fact == fact)
+            return m_host->versionField(below(m_host->systemFolder(), row.fileName), row.field);
+    }
+    switch (fact) {
+    case Fact::InstallDate:
+        return installDate();
+    case Fact::AdminRights:
+        return adminRights();
+    case Fact::InternetExplorer:
+        return internetExplorerVersion();
+    case Fact::IeeeDriver:
+        return ieeeDriverVersion();
+    default:
+        return QString();
+    }
+}
+
+std::optional<QVector<FactBasedOSInfo::Driver>> WindowsOSInfo::drivers(DriverKind kind) const
+{
+    switch (kind) {
+    case DriverKind::VxiPnp:
+        return librariesIn(vxiPnpFolder());
+    case DriverKind::Ivi:
+        return librariesIn(iviFolder());
+    case DriverKind::Usb:
+        return usbDrivers();
+    }
+    return std::nullopt;
+}
+
+QString WindowsOSInfo::installDate() const
+{
+    const std::optional<std::uint32_t> seconds = m_host->registryNumber(
+        Hive::LocalMachine, QLatin1String(kWindowsNt), QStringLiteral("InstallDate"));
+    return seconds ? momentText(*seconds) : QString();
+}
+
+QString WindowsOSInfo::adminRights() const
+{
+    switch (m_host->administrators()) {
+    case WindowsHost::Membership::Member:
+        return yesOrNo(true);
+    case WindowsHost::Membership::NotMember:
+        return yesOrNo(false);
+    case WindowsHost::Membership::NoSid:
+        return QStringLiteral("Unable to allocate & initialize SID struct");
+    case WindowsHost::Membership::Unknown:
+        break;
+    }
+    return QString();
+}
+
+QString WindowsOSInfo::internetExplorerVersion() const
+{
+    QString path =
+        m_host->registryText(Hive::LocalMachine, QLatin1String(kInternetExplorer), QString());
+    // Some set-ups write the path as it stands on a command line.
+    path.remove(QLatin1Char('"'));
+    return fileVersion(path);
+}
+
+QString WindowsOSInfo::ieeeDriverVersion() const
+{
+    for (const char *library : kIeeeLibraries) {
+        const QString version = fileVersion(below(m_host->systemFolder(), library));
+        if (!version.isEmpty())
+            return version;
+    }
+    return QString();
+}
+
+QString WindowsOSInfo::vxiPnpFolder() const
+{
+    for (const char *value : {"FRAMEWORK_PATH", "FrameworkPath"}) {
+        const QString framework =
+            m_host->registryText(Hive::LocalMachine, QLatin1String(kVxiPnp), QLatin1String(value));
+        if (!framework.isEmpty())
+            return below(framework, R"(\bin)");
+    }
+    return QString();
+}
+
+QString WindowsOSInfo::iviFolder() const
+{
+    return below(m_host->registryText(Hive::LocalMachine, QLatin1String(kWindows),
+                                      QStringLiteral("ProgramFilesDir")),
+                 R"(\IVI\Bin)");
+}
+
+QVector<FactBasedOSInfo::Driver> WindowsOSInfo::librariesIn(const QString &folder) const
+{
+    QVector<Driver> found;
+    for (const QString &name : makerFilesIn(folder, QStringLiteral(".dll")))
+        found.append({name, fileVersion(folder + QLatin1Char('\\') + name)});
+    return found;
+}
+
+/// The set-up file of a driver is what is searched for; name and version are the driver file's.
+QVector<FactBasedOSInfo::Driver> WindowsOSInfo::usbDrivers() const
+{
+    const QString windows = m_host->windowsFolder();
+    const QString driverFolder = below(windows, R"(\SYSTEM32\Drivers)");
+    const QString extension = QStringLiteral(".inf");
+    QVector<Driver> found;
+    for (const QString &name : makerFilesIn(below(windows, R"(\INF)"), extension)) {
+        const QString driver = name.chopped(extension.size()) + QLatin1String(".SYS");
+        found.append({driver, fileVersion(driverFolder + QLatin1Char('\\') + driver)});
+    }
+    return found;
+}
+
+QStringList WindowsOSInfo::makerFilesIn(const QString &folder, const QString &extension) const
+{
+    if (folder.isEmpty())
+        return {};
+    QStringList names;
+    for (const QString &name : m_host->findFiles(folder + QLatin1String(R"(\kel*)") + extension)) {
+        // Windows compares short names too, and those of "kel.inf_old" end with ".INF".
+        if (name.endsWith(extension, Qt::CaseInsensitive))
+            names.append(name);
+    }
+    std::sort(names.begin(), names.end(), lessWithoutCase);
+    return names;
+}
+
+QString WindowsOSInfo::fileVersion(const QString &path) const
+{
+    return m_host->versionField(path, VersionField::FileVersion);
+}

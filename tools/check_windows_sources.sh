@@ -1,0 +1,30 @@
+#!/bin/sh
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+
+# Compiles the sources of sysinfo/ for Windows without linking them, so that a change made elsewhere
+# cannot break unseen what only Windows builds. The compiler is the one of Debian's package
+# g++-mingw-w64-x86-64-posix; Qt's headers are those of the host (Debian's qtbase5-dev), of which
+# QtCore's take their Windows branch from the compiler's own definitions. Language, definitions and
+# warnings are read from cmake/DezimoOptions.cmake; every warning is an error.
+
+set -eu
+cd "$(dirname "$0")/.."
+
+compiler=${1:-x86_64-w64-mingw32-g++-posix}
+if ! command -v "$compiler" >/dev/null; then
+    echo "$0: $compiler is missing; install g++-mingw-w64-x86-64-posix" >&2
+    exit 1
+fi
+qt_headers=$(QT_SELECT=qt5 qmake -query QT_INSTALL_HEADERS)
+options=cmake/DezimoOptions.cmake
+warnings=$(grep -o -e '-W[a-z][a-z0-9=-]*' "$options")
+definitions=$(sed -n 's/^ *\(QT_[A-Z_]*\(=[0-9a-fx]*\)\{0,1\}\))*$/-D\1/p' "$options")
+
+for source in sysinfo/*.cpp; do
+    [ "$source" = sysinfo/unixosinfo.cpp ] && continue
+    echo "$source"
+    # shellcheck disable=SC2086
+    "$compiler" -fsyntax-only -std=c++17 $warnings -Werror $definitions \
+        -isystem "$qt_headers" -isystem "$qt_headers/QtCore" -Isysinfo "$source"
+done

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "localesetting.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace {
+
+/// No system has a longer name.
+constexpr int kLongestName = 64;
+
+/// In the order in which the C library asks for them.
+constexpr const char *kVariables[] = {"LC_ALL", "LC_NUMERIC", "LANG"};
+
+bool isLocaleName(const QByteArray &name)
+{
+    return name.size() <= kLongestName &&
+           std::all_of(name.begin(), name.end(), [](char c) { return c > ' ' && c <= '~'; });
+}
+
+QString languageName(const QString &code)
+{
+    const QLocale::Language language = QLocale(code).language();
+    return language == QLocale::C ? QString() : QLocale::languageToString(language);
+}
+
+/// Qt finds a country only through a locale that it knows, and for an unusual pair such as "de_US"
+/// would take the language's own country; so the code is looked up in any locale.
+QString countryName(const QString &code)
+{
+    const QString ending = QLatin1Char('_') + code;
+    const QList<QLocale> locales =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    const auto found = std::find_if(locales.begin(), locales.end(), [&](const QLocale &locale) {
+        return locale.name().endsWith(ending);
+    });
+    return found == locales.end() ? QString() : QLocale::countryToString(found->country());
+}
+
+} // namespace
+
+LocaleSetting LocaleSetting::parsed(const QByteArray &name)
+{
+    LocaleSetting setting;
+    if (!isLocaleName(name))
+        return setting;
+    setting.name = QString::fromLatin1(name);
+    // Encoding and variant follow language and country: language_COUNTRY.encoding@variant.
+    const QString codes =
+        setting.name.section(QLatin1Char('@'), 0, 0).section(QLatin1Char('.'), 0, 0);
+    const QString country = codes.section(QLatin1Char('_'), 1);
+    setting.language = languageName(codes.section(QLatin1Char('_'), 0, 0));
+    if (!country.isEmpty())
+        setting.country = countryName(country);
+    return setting;
+}
+
+LocaleSetting LocaleSetting::ofUser()
+{
+    for (const char *variable : kVariables) {
+        const QByteArray name = qgetenv(variable);
+        if (!name.isEmpty())
+            return parsed(name);
+    }
+    return LocaleSetting();
+}

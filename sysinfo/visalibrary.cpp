@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "visalibrary.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QVersionNumber>
+
+namespace {
+
+VisaLibrary findIn(const QString &folder)
+{
+    static const QRegularExpression fileName(
+        QStringLiteral("\\A(libvisa)\\.so(?:\\.([0-9]{1,9}(?:\\.[0-9]{1,9}){0,3}))?\\z"));
+    VisaLibrary best;
+    const QStringList names =
+        QDir(folder).entryList({QStringLiteral("libvisa.so*")}, QDir::Files, QDir::Name);
+    for (const QString &name : names) {
+        const QRegularExpressionMatch match = fileName.match(name);
+        if (!match.hasMatch())
+            continue;
+        best.name = match.captured(1);
+        const QString version = match.captured(2);
+        if (QVersionNumber::fromString(best.version) < QVersionNumber::fromString(version))
+            best.version = version;
+    }
+    return best;
+}
+
+} // namespace
+
+VisaLibrary VisaLibrary::find(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        const VisaLibrary library = findIn(folder);
+        if (!library.name.isEmpty())
+            return library;
+    }
+    return VisaLibrary();
+}
+
+QStringList VisaLibrary::usualFolders()
+{
+    QStringList folders = {
+        QStringLiteral("/usr/local/vxipnp/linux/lib64"),
+        QStringLiteral("/usr/local/lib64"),
+        QStringLiteral("/usr/local/lib"),
+        QStringLiteral("/usr/lib64"),
+        QStringLiteral("/usr/lib"),
+    };
+    // Systems that install several architectures side by side have a folder for each.
+    const QDir libraries(QStringLiteral("/usr/lib"));
+    for (const QString &name :
+         libraries.entryList({QStringLiteral("*-linux-gnu*")}, QDir::Dirs, QDir::Name))
+        folders.append(libraries.filePath(name));
+    return folders;
+}

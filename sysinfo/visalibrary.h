@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef SYSINFO_VISALIBRARY_H
+#define SYSINFO_VISALIBRARY_H
+
+#include <QString>
+#include <QStringList>
+
+/**
+ * An installed VISA library, known by its file name: "libvisa.so.7.2.0" is version 7.2.0 of
+ * "libvisa".
+ */
+struct VisaLibrary
+{
+    /// Both are empty if there is no library, the version if only a file without one is there.
+    QString name;
+    QString version;
+
+    /// The highest version in the first of @p folders that has any. Only file names are read.
+    static VisaLibrary find(const QStringList &folders);
+    /// Where libraries are installed on the systems of today.
+    static QStringList usualFolders();
+};
+
+#endif

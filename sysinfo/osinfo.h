@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
 /**
  * What the About window tells about the host: the operating system, the language settings, the
  * versions of run-time libraries and the installed instrument drivers. All values are texts for
@@ -42,5 +44,8 @@ public:
     /// One section per kind of driver; none at all if no driver of any kind is found.
     virtual QVector<Section> driverInformation() const = 0;
 };
+
+/// The provider for the platform that the program is built for.
+std::unique_ptr<OSInfo> createOsInfo();
 
 #endif

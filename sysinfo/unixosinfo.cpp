@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "unixosinfo.h"
+
+#include "localesetting.h"
+#include "osrelease.h"
+#include "visalibrary.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+UnixOSInfo::UnixOSInfo(const UnixPlaces &places) : m_places(places) {}
+
+QString UnixOSInfo::fact(Fact fact) const
+{
+    switch (fact) {
+    case Fact::ProductName:
+        return systemName();
+    case Fact::InstallDate:
+        return installDate();
+    case Fact::AdminRights:
+        return yesOrNo(geteuid() == 0);
+    case Fact::Country:
+        return LocaleSetting::ofUser().country;
+    case Fact::Language:
+        return LocaleSetting::ofUser().language;
+    case Fact::LocaleId:
+        return LocaleSetting::ofUser().name;
+    case Fact::VisaName:
+        return VisaLibrary::find(libraryFolders()).name;
+    case Fact::VisaVersion:
+        return VisaLibrary::find(libraryFolders()).version;
+    default:
+        return QString();
+    }
+}
+
+std::optional<QVector<FactBasedOSInfo::Driver>> UnixOSInfo::drivers(DriverKind) const
+{
+    return std::nullopt;
+}
+
+QString UnixOSInfo::systemName() const
+{
+    for (const QString &path : m_places.osReleaseFiles) {
+        const QString name = OsRelease::systemName(path);
+        if (!name.isEmpty())
+            return name;
+    }
+    return QString();
+}
+
+/// The root folder is made with its file system, that is by the installation. A file system that
+/// does not keep the time of birth leaves the machine's identity, which is written once, at the
+/// first start of the installed system.
+QString UnixOSInfo::installDate() const
+{
+    const QDateTime moments[] = {QFileInfo(m_places.rootFolder).birthTime(),
+                                 QFileInfo(m_places.machineIdFile).lastModified()};
+    for (const QDateTime &moment : moments) {
+        if (moment.isValid() && moment.toSecsSinceEpoch() > 0)
+            return momentText(std::time_t(moment.toSecsSinceEpoch()));
+    }
+    return QString();
+}
+
+QStringList UnixOSInfo::libraryFolders() const
+{
+    return m_places.libraryFolders.isEmpty() ? VisaLibrary::usualFolders()
+                                             : m_places.libraryFolders;
+}

@@ -80,18 +80,11 @@ double wattFrom(double value, Unit unit)
     return value;
 }
 
-std::optional<double> parseNumber(QString text)
-{
-    bool ok = false;
-    const double value = parsePrefixedValue(text, &ok);
-    return ok ? std::optional<double>(value) : std::nullopt;
-}
-
 Operand parseOperand(QString text)
 {
     Operand operand;
     operand.unit = takeUnit(text);
-    const std::optional<double> value = parseNumber(text);
+    const std::optional<double> value = readPrefixedValue(text);
     operand.isNumber = value.has_value();
     operand.watt = value ? wattFrom(*value, operand.unit) : 0.0;
     return operand;
@@ -319,7 +312,7 @@ void DbConverterProfile::finishFirst(const Half &half)
     if (!first.isNumber)
         return setText(half.first, ErrorText::invalidInput());
     if (text(half.second).isEmpty()) {
-        const std::optional<double> ratio = parseNumber(text(half.ratio));
+        const std::optional<double> ratio = readPrefixedValue(text(half.ratio));
         if (ratio)
             deriveSecond(half, *ratio);
         return;
@@ -342,7 +335,7 @@ void DbConverterProfile::finishSecond(const Half &half)
     if (second.watt == 0.0)
         return clearResults(half, ErrorText::notANumber());
     if (text(half.first).isEmpty()) {
-        const std::optional<double> ratio = parseNumber(text(half.ratio));
+        const std::optional<double> ratio = readPrefixedValue(text(half.ratio));
         if (ratio)
             deriveFirst(half, *ratio);
         return;
@@ -357,7 +350,7 @@ void DbConverterProfile::finishRatio(const Half &half)
 {
     if (text(half.ratio).isEmpty())
         return setText(half.db, QString());
-    const std::optional<double> ratio = parseNumber(text(half.ratio));
+    const std::optional<double> ratio = readPrefixedValue(text(half.ratio));
     if (!ratio)
         return setText(half.db, ErrorText::invalidInput());
     showDbOf(half, *ratio);
@@ -368,7 +361,7 @@ void DbConverterProfile::finishDb(const Half &half)
 {
     if (text(half.db).isEmpty())
         return setText(half.ratio, QString());
-    const std::optional<double> db = parseNumber(text(half.db));
+    const std::optional<double> db = readPrefixedValue(text(half.db));
     if (!db)
         return setText(half.ratio, ErrorText::invalid());
     const double ratio = half.ratioFromDb(*db);

@@ -39,12 +39,12 @@ double dbmFromMilliwatt(double milliwatt)
 
 double milliwattFromDbw(double dbw)
 {
-    return powerRatioFromDb(dbw + kDbwInDbm);
+    return milliwattFromDbm(dbmFromDbw(dbw));
 }
 
 double dbwFromMilliwatt(double milliwatt)
 {
-    return dbFromPowerRatio(milliwatt) - kDbwInDbm;
+    return dbwFromDbm(dbmFromMilliwatt(milliwatt));
 }
 
 double milliwattFromWatt(double watt)
@@ -55,6 +55,16 @@ double milliwattFromWatt(double watt)
 double wattFromMilliwatt(double milliwatt)
 {
     return milliwatt / kMilliPerUnit;
+}
+
+double dbmFromDbw(double dbw)
+{
+    return dbw + kDbwInDbm;
+}
+
+double dbwFromDbm(double dbm)
+{
+    return dbm - kDbwInDbm;
 }
 
 double millivoltFromDbv(double dbv)
@@ -95,6 +105,17 @@ double millivoltFromVolt(double volt)
 double voltFromMillivolt(double millivolt)
 {
     return millivolt / kMilliPerUnit;
+}
+
+double millivoltFromMilliwatt(double milliwatt, double ohm)
+{
+    return millivoltFromVolt(std::sqrt(wattFromMilliwatt(milliwatt) * ohm));
+}
+
+double milliwattFromMillivolt(double millivolt, double ohm)
+{
+    const double volt = voltFromMillivolt(millivolt);
+    return milliwattFromWatt(volt * volt / ohm);
 }
 
 } // namespace Levels

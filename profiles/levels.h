@@ -35,6 +35,8 @@ double milliwattFromDbw(double dbw);
 double dbwFromMilliwatt(double milliwatt);
 double milliwattFromWatt(double watt);
 double wattFromMilliwatt(double milliwatt);
+double dbmFromDbw(double dbw);
+double dbwFromDbm(double dbm);
 
 double millivoltFromDbv(double dbv);
 double dbvFromMillivolt(double millivolt);
@@ -44,6 +46,10 @@ double millivoltFromDbu(double dbu);
 double dbuFromMillivolt(double millivolt);
 double millivoltFromVolt(double volt);
 double voltFromMillivolt(double millivolt);
+
+/// P = V^2 / R. A resistance below zero gives a voltage that is not a number.
+double millivoltFromMilliwatt(double milliwatt, double ohm);
+double milliwattFromMillivolt(double millivolt, double ohm);
 
 } // namespace Levels
 

@@ -37,3 +37,10 @@ double parsePrefixedValue(QString &text, bool *ok)
     }
     return text.toDouble(ok) * factor;
 }
+
+std::optional<double> readPrefixedValue(QString text)
+{
+    bool ok = false;
+    const double value = parsePrefixedValue(text, &ok);
+    return ok ? std::optional<double>(value) : std::nullopt;
+}

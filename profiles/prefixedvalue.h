@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /**
  * Reads a number with at most one SI prefix letter (f p n u m k M G T P; micro is the letter u).
  * The letter may stand anywhere and is removed wherever it stands, so that 4k7 is 47000 and not
@@ -16,5 +18,8 @@
  * @return the value in the text's own unit, 0 if it was no number.
  */
 double parsePrefixedValue(QString &text, bool *ok = nullptr);
+
+/// The same for a text that stays as it is: its value, or nothing if it is no number.
+std::optional<double> readPrefixedValue(QString text);
 
 #endif

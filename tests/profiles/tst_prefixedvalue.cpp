@@ -18,6 +18,7 @@ private Q_SLOTS:
     void consumesTheText_data();
     void consumesTheText();
     void theFlagIsOptional();
+    void readsWithoutConsuming();
     void readsALongTextAtOnce();
 };
 
@@ -105,6 +106,15 @@ void PrefixedValueTest::theFlagIsOptional()
     QCOMPARE(parsePrefixedValue(number), 2000.0);
     QString word = QStringLiteral("x");
     QCOMPARE(parsePrefixedValue(word), 0.0);
+}
+
+void PrefixedValueTest::readsWithoutConsuming()
+{
+    const QString number = QStringLiteral("2k");
+    QCOMPARE(readPrefixedValue(number).value_or(-1), 2000.0);
+    QCOMPARE(number, QStringLiteral("2k"));
+    QVERIFY(!readPrefixedValue(QStringLiteral("1k2M")));
+    QVERIFY(!readPrefixedValue(QString()));
 }
 
 void PrefixedValueTest::readsALongTextAtOnce()

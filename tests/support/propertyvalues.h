@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTS_SUPPORT_PROPERTYVALUES_H
+#define TESTS_SUPPORT_PROPERTYVALUES_H
+
+#include <QByteArray>
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+
+#include <vector>
+
+struct PropertyValue
+{
+    PropertyValue(const QByteArray &property, const char *text)
+        : name(property),
+          value(QString::fromUtf8(text))
+    {}
+    PropertyValue(const QByteArray &property, int number) : name(property), value(number) {}
+
+    QByteArray name;
+    QVariant value;
+};
+
+/// In the order in which they are set.
+using PropertyValues = std::vector<PropertyValue>;
+Q_DECLARE_METATYPE(PropertyValues)
+
+/// Sets @p values one after the other. A name that is no property ends the test.
+void setProperties(QObject &object, const PropertyValues &values);
+
+/// Every property that the class of @p object declares as a line "name = value", in the order of
+/// declaration, with the values in @p changes in place of the real ones. Two such lists are equal
+/// exactly if the objects are, so nothing that changed unexpectedly is missed.
+QStringList propertyLines(const QObject &object, const PropertyValues &changes = {});
+
+/// The signals that a class declares, in the order of declaration.
+QStringList signalNames(const QMetaObject &type);
+
+/// Names the properties of an object in the order in which they announced a change.
+class ChangeLog final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ChangeLog(const QObject &object);
+
+    /// What has been announced since the last call.
+    QStringList take();
+
+private Q_SLOTS:
+    void note();
+
+private:
+    const QObject &m_object;
+    QStringList m_names;
+};
+
+#endif

@@ -59,7 +59,7 @@ void MainProfile::setDecimalPlaces(int places)
 
 std::vector<Profile *> MainProfile::modules()
 {
-    return {&m_dbConverter};
+    return {&m_dbConverter, &m_unitConverter, &m_vswrConverter};
 }
 
 void MainProfile::saveSettings(QSettings &settings)

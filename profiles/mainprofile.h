@@ -6,6 +6,8 @@
 
 #include "dbconverterprofile.h"
 #include "profile.h"
+#include "unitconverterprofile.h"
+#include "vswrconverterprofile.h"
 
 #include <QPoint>
 #include <QSize>
@@ -58,6 +60,8 @@ public:
     void setDecimalPlaces(int places);
 
     DbConverterProfile &dbConverter() { return m_dbConverter; }
+    UnitConverterProfile &unitConverter() { return m_unitConverter; }
+    VswrConverterProfile &vswrConverter() { return m_vswrConverter; }
 
     /// The module profiles in the order in which they are saved and loaded.
     std::vector<Profile *> modules();
@@ -84,6 +88,8 @@ private:
     int m_currentModule = 0;
     int m_decimalPlaces = kDefaultDecimalPlaces;
     DbConverterProfile m_dbConverter;
+    UnitConverterProfile m_unitConverter;
+    VswrConverterProfile m_vswrConverter;
 };
 
 #endif

@@ -1,0 +1,295 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "vswrconverterprofile.h"
+
+#include "errortexts.h"
+#include "prefixedvalue.h"
+#include "reflection.h"
+#include "storedkeys.h"
+#include "valuetext.h"
+
+#include <QSettings>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+/// A VSWR this near to 1 counts as matched.
+constexpr double kMatchTolerance = 1e-12;
+/// The largest reflection coefficient that is accepted. That it is 100, as for the percentage, and
+/// not 1 is meant: values above 1 are computed as they come, to a negative VSWR and a mismatch loss
+/// that is not a number.
+constexpr double kMaximumReflection = 100.0;
+constexpr double kNoMaximum = std::numeric_limits<double>::infinity();
+
+/// Four power units, four voltage units.
+constexpr int kLastUnit = 3;
+
+const StoredKeys &textKeys()
+{
+    static const StoredKeys rows{
+        {"vswr", "vswr", QString()},
+        {"r", "r", QString()},
+        {"r2", "r2", QString()},
+        {"ar", "ar", QString()},
+        {"am", "am", QString()},
+        {"pForward", "pForward", QString()},
+        {"pReflected", "pReflected", QString()},
+        {"pAbsorbed", "pAbsorbed", QString()},
+        {"vForward", "vForward", QString()},
+        {"vReflected", "vReflected", QString()},
+        {"vAbsorbed", "vAbsorbed", QString()},
+    };
+    return rows;
+}
+
+const StoredKeys &selectionKeys()
+{
+    static const StoredKeys rows{
+        {"currentMode", "currentMode", 0, 0, 1},
+        {"pForwardUnit", "pForwardUnit", 0, 0, kLastUnit},
+        {"pReflectedUnit", "pReflectedUnit", 0, 0, kLastUnit},
+        {"pAbsorbedUnit", "pAbsorbedUnit", 0, 0, kLastUnit},
+        {"vForwardUnit", "vForwardUnit", 0, 0, kLastUnit},
+        {"vReflectedUnit", "vReflectedUnit", 0, 0, kLastUnit},
+        {"vAbsorbedUnit", "vAbsorbedUnit", 0, 0, kLastUnit},
+    };
+    return rows;
+}
+
+QString vswrText(double reflection)
+{
+    return generalText(Reflection::vswr(reflection));
+}
+
+QString squareText(double reflection)
+{
+    return generalText(Reflection::square(reflection));
+}
+
+/// Without reflection there is no return loss to show.
+QString returnLossText(double reflection)
+{
+    return reflection == 0.0 ? QString() : fixedText(Reflection::returnLoss(reflection));
+}
+
+/// At the limit of what is accepted there is no mismatch loss to show; from 1 up to it there is,
+/// infinite or not a number.
+QString mismatchLossText(double reflection)
+{
+    if (reflection == kMaximumReflection)
+        return {};
+    return fixedText(Reflection::mismatchLoss(reflection));
+}
+
+/// A VSWR may be typed as the ratio that it is: 2, 2:1 and 2 : 1 are the same. (Removing the :1 by
+/// replace() takes linear time, by remove() it would not.)
+std::optional<double> readVswr(QString text)
+{
+    text.remove(QLatin1Char(' '));
+    text.replace(QLatin1String(":1"), QLatin1String());
+    return readPrefixedValue(text);
+}
+
+} // namespace
+
+/// A quantity of the reflection group: how it is read, what is valid, and how it follows from the
+/// reflection coefficient.
+struct VswrConverterProfile::Quantity
+{
+    Field field;
+    std::optional<double> (*read)(QString);
+    double minimum;
+    double maximum;
+    double (*reflectionFrom)(double);
+    QString (*textFrom)(double);
+};
+
+using Self = VswrConverterProfile;
+
+const Self::Quantity Self::kVswr = {
+    {&Self::vswr, &Self::setVswr}, readVswr, 1.0, kNoMaximum, Reflection::fromVswr, vswrText,
+};
+
+const Self::Quantity Self::kR = {
+    {&Self::r, &Self::setR},
+    readPrefixedValue,
+    0.0,
+    kMaximumReflection,
+    [](double reflection) { return reflection; },
+    generalText,
+};
+
+const Self::Quantity Self::kR2 = {
+    {&Self::r2, &Self::setR2}, readPrefixedValue,      0.0,
+    Reflection::kPercent,      Reflection::fromSquare, squareText,
+};
+
+const Self::Quantity Self::kAr = {
+    {&Self::ar, &Self::setAr},  readPrefixedValue, 0.0, kNoMaximum,
+    Reflection::fromReturnLoss, returnLossText,
+};
+
+const Self::Quantity Self::kAm = {
+    {&Self::am, &Self::setAm},    readPrefixedValue, 0.0, kNoMaximum,
+    Reflection::fromMismatchLoss, mismatchLossText,
+};
+
+VswrConverterProfile::VswrConverterProfile(QObject *parent) : Profile(parent) {}
+
+void VswrConverterProfile::setVswr(const QString &text)
+{
+    assign(m_vswr, text, &VswrConverterProfile::vswrChanged);
+}
+
+void VswrConverterProfile::setR(const QString &text)
+{
+    assign(m_r, text, &VswrConverterProfile::rChanged);
+}
+
+void VswrConverterProfile::setR2(const QString &text)
+{
+    assign(m_r2, text, &VswrConverterProfile::r2Changed);
+}
+
+void VswrConverterProfile::setAr(const QString &text)
+{
+    assign(m_ar, text, &VswrConverterProfile::arChanged);
+}
+
+void VswrConverterProfile::setAm(const QString &text)
+{
+    assign(m_am, text, &VswrConverterProfile::amChanged);
+}
+
+void VswrConverterProfile::setPForward(const QString &text)
+{
+    assign(m_pForward, text, &VswrConverterProfile::pForwardChanged);
+}
+
+void VswrConverterProfile::setPReflected(const QString &text)
+{
+    assign(m_pReflected, text, &VswrConverterProfile::pReflectedChanged);
+}
+
+void VswrConverterProfile::setPAbsorbed(const QString &text)
+{
+    assign(m_pAbsorbed, text, &VswrConverterProfile::pAbsorbedChanged);
+}
+
+void VswrConverterProfile::setVForward(const QString &text)
+{
+    assign(m_vForward, text, &VswrConverterProfile::vForwardChanged);
+}
+
+void VswrConverterProfile::setVReflected(const QString &text)
+{
+    assign(m_vReflected, text, &VswrConverterProfile::vReflectedChanged);
+}
+
+void VswrConverterProfile::setVAbsorbed(const QString &text)
+{
+    assign(m_vAbsorbed, text, &VswrConverterProfile::vAbsorbedChanged);
+}
+
+void VswrConverterProfile::setCurrentMode(int mode)
+{
+    assign(m_currentMode, mode, &VswrConverterProfile::currentModeChanged);
+}
+
+void VswrConverterProfile::saveSettings(QSettings &settings)
+{
+    settings.beginGroup(QStringLiteral("VswrConverterProfile"));
+    saveKeys(*this, settings, textKeys());
+    saveKeys(*this, settings, selectionKeys());
+    settings.endGroup();
+}
+
+void VswrConverterProfile::loadSettings(QSettings &settings)
+{
+    settings.beginGroup(QStringLiteral("VswrConverterProfile"));
+    loadKeys(*this, settings, selectionKeys());
+    loadKeys(*this, settings, textKeys());
+    settings.endGroup();
+}
+
+/// That the return loss is shown for a match only, where it is infinite, and left empty for every
+/// other VSWR is meant.
+void VswrConverterProfile::calculateFromVswr()
+{
+    const std::optional<double> vswr = readEdited(kVswr);
+    if (!vswr)
+        return;
+    const double reflection = Reflection::fromVswr(*vswr);
+    const bool matched = !(std::abs(*vswr - 1.0) > kMatchTolerance);
+    setR(generalText(reflection));
+    setAr(matched ? fixedText(Reflection::returnLoss(reflection)) : QString());
+    setR2(squareText(reflection));
+    setAm(mismatchLossText(reflection));
+}
+
+void VswrConverterProfile::calculateFromR()
+{
+    finishQuantity(kR);
+}
+
+void VswrConverterProfile::calculateFromR2()
+{
+    finishQuantity(kR2);
+}
+
+void VswrConverterProfile::calculateFromAr()
+{
+    finishQuantity(kAr);
+}
+
+void VswrConverterProfile::calculateFromAm()
+{
+    finishQuantity(kAm);
+}
+
+QString VswrConverterProfile::text(const Field &field) const
+{
+    return (this->*field.get)();
+}
+
+void VswrConverterProfile::setText(const Field &field, const QString &text)
+{
+    (this->*field.set)(text);
+}
+
+/// The value of the quantity that was finished. There is none in an empty field, which is left
+/// alone, nor in one that holds no valid number, which is rejected.
+std::optional<double> VswrConverterProfile::readEdited(const Quantity &edited)
+{
+    if (text(edited.field).isEmpty())
+        return std::nullopt;
+    const std::optional<double> value = edited.read(text(edited.field));
+    if (value && *value >= edited.minimum && *value <= edited.maximum)
+        return value;
+    reject(edited);
+    return std::nullopt;
+}
+
+void VswrConverterProfile::reject(const Quantity &edited)
+{
+    setText(edited.field, ErrorText::invalidInput());
+    for (const Quantity *quantity : {&kVswr, &kR, &kR2, &kAr, &kAm}) {
+        if (quantity != &edited)
+            setText(quantity->field, QString());
+    }
+}
+
+void VswrConverterProfile::finishQuantity(const Quantity &edited)
+{
+    const std::optional<double> value = readEdited(edited);
+    if (!value)
+        return;
+    const double reflection = edited.reflectionFrom(*value);
+    for (const Quantity *quantity : {&kR, &kVswr, &kR2, &kAr, &kAm}) {
+        if (quantity != &edited)
+            setText(quantity->field, quantity->textFrom(reflection));
+    }
+}

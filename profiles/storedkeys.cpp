@@ -86,9 +86,9 @@ QVariant wellFormed(const QVariant &stored, const QVariant &wanted)
 
 bool isWithinRange(const QVariant &value, const StoredKey &row)
 {
-    if (value.userType() != QMetaType::Int)
+    if (value.userType() != QMetaType::Int && value.userType() != QMetaType::Double)
         return true;
-    return value.toInt() >= row.minimum && value.toInt() <= row.maximum;
+    return value.toDouble() >= row.minimum && value.toDouble() <= row.maximum;
 }
 
 } // namespace

@@ -41,7 +41,8 @@ QVariant storedValue(const QSettings &settings, const char *key, const QVariant 
 void saveKeys(const Profile &profile, QSettings &settings, const StoredKeys &rows);
 
 /// Reads the rows from the current group of @p settings and hands each value to the setter of its
-/// property, in row order. An integer outside the row's range is malformed.
+/// property, in row order. A number outside the row's range (that of int, unless the row gives one)
+/// is malformed.
 void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &rows);
 
 #endif

@@ -59,7 +59,8 @@ void MainProfile::setDecimalPlaces(int places)
 
 std::vector<Profile *> MainProfile::modules()
 {
-    return {&m_dbConverter, &m_unitConverter, &m_vswrConverter};
+    return {&m_dbmCalculator, &m_voltageCalculator, &m_dbConverter, &m_unitConverter,
+            &m_vswrConverter};
 }
 
 void MainProfile::saveSettings(QSettings &settings)

@@ -5,8 +5,10 @@
 #define PROFILES_MAINPROFILE_H
 
 #include "dbconverterprofile.h"
+#include "dbmcalculatorprofile.h"
 #include "profile.h"
 #include "unitconverterprofile.h"
+#include "voltagecalculatorprofile.h"
 #include "vswrconverterprofile.h"
 
 #include <QPoint>
@@ -59,6 +61,8 @@ public:
     void setCurrentModule(int module);
     void setDecimalPlaces(int places);
 
+    DbmCalculatorProfile &dbmCalculator() { return m_dbmCalculator; }
+    VoltageCalculatorProfile &voltageCalculator() { return m_voltageCalculator; }
     DbConverterProfile &dbConverter() { return m_dbConverter; }
     UnitConverterProfile &unitConverter() { return m_unitConverter; }
     VswrConverterProfile &vswrConverter() { return m_vswrConverter; }
@@ -87,6 +91,8 @@ private:
     int m_windowMode = 0;
     int m_currentModule = 0;
     int m_decimalPlaces = kDefaultDecimalPlaces;
+    DbmCalculatorProfile m_dbmCalculator;
+    VoltageCalculatorProfile m_voltageCalculator;
     DbConverterProfile m_dbConverter;
     UnitConverterProfile m_unitConverter;
     VswrConverterProfile m_vswrConverter;

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "expressionprofile.h"
+
+#include "bracketgroups.h"
+#include "errortexts.h"
+#include "expressiontext.h"
+#include "operatorchain.h"
+
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+bool isErrorText(const QString &result)
+{
+    return result == ErrorText::invalidInput() || result == ErrorText::unitMissing();
+}
+
+} // namespace
+
+ExpressionProfile::ExpressionProfile(const CalculatorTable &table, QObject *parent)
+    : Profile(parent),
+      m_table(table),
+      m_output(ErrorText::noResult())
+{
+    for (const ExpressionUnit &unit : m_table.units)
+        m_validUnits.insert(unit.index, true);
+}
+
+int ExpressionProfile::plainUnit() const
+{
+    return m_table.units.back().index;
+}
+
+QString ExpressionProfile::unitText(int unit) const
+{
+    return ::unitText(m_table.units, unit);
+}
+
+void ExpressionProfile::setInput(const QString &text)
+{
+    assign(m_input, text, &ExpressionProfile::inputChanged);
+}
+
+void ExpressionProfile::setOutput(const QString &text)
+{
+    assign(m_output, text, &ExpressionProfile::outputChanged);
+}
+
+void ExpressionProfile::setOutputUnit(int unit)
+{
+    assign(m_outputUnit, unit, &ExpressionProfile::outputUnitChanged);
+}
+
+void ExpressionProfile::setMode(int mode)
+{
+    assign(m_mode, mode, &ExpressionProfile::modeChanged);
+}
+
+void ExpressionProfile::setValidUnits(const QMap<int, bool> &validUnits)
+{
+    assign(m_validUnits, validUnits, &ExpressionProfile::validUnitsChanged);
+}
+
+QString ExpressionProfile::evaluate(const QString &text)
+{
+    const OperatorChain chain(text, m_table.units, m_table.stepDigits);
+    if (chain.isEmpty()) {
+        setOutput(ErrorText::invalidInput());
+        return ErrorText::invalidInput();
+    }
+    return chain.result(*newStepRule());
+}
+
+void ExpressionProfile::saveSettings(QSettings &settings)
+{
+    settings.beginGroup(m_table.group);
+    saveKeys(*this, settings, m_table.keys);
+    for (const ValidityKey &row : m_table.validityKeys)
+        settings.setValue(QLatin1String(row.key), m_validUnits.value(row.unit));
+    settings.endGroup();
+}
+
+void ExpressionProfile::loadSettings(QSettings &settings)
+{
+    settings.beginGroup(m_table.group);
+    loadKeys(*this, settings, m_table.keys);
+    QMap<int, bool> validUnits;
+    for (const ValidityKey &row : m_table.validityKeys)
+        validUnits.insert(row.unit, storedValue(settings, row.key, true).toBool());
+    settings.endGroup();
+    setValidUnits(validUnits);
+}
+
+void ExpressionProfile::calculate()
+{
+    const BracketedResult result = evaluateBracketed(
+        ExpressionText::cleaned(m_input), [this](const QString &text) { return evaluate(text); });
+    if (result.isDefect)
+        setOutput(result.text);
+    else
+        publish(result.text);
+}
+
+QMap<int, bool> ExpressionProfile::unitsBeside(int unit) const
+{
+    const auto alone =
+        std::find_if(m_table.units.begin(), m_table.units.end(), [unit](const ExpressionUnit &row) {
+            return row.isAlone && row.index == unit;
+        });
+    QMap<int, bool> offered;
+    for (const ExpressionUnit &row : m_table.units)
+        offered.insert(row.index, alone == m_table.units.end() ? !row.isAlone : row.index == unit);
+    return offered;
+}
+
+/// A lone value from a group around the whole text is first read here, and may be no number.
+void ExpressionProfile::publish(const QString &result)
+{
+    if (isErrorText(result))
+        return show(shownError(result));
+    const std::optional<Operand> number = parseOperand(result, m_table.units);
+    show(number ? shown(*number) : shownError(ErrorText::invalidInput()));
+}
+
+/// An error text keeps the output unit and offers what goes with it.
+ExpressionProfile::Shown ExpressionProfile::shownError(const QString &errorText) const
+{
+    return {errorText, m_outputUnit, unitsBeside(m_outputUnit)};
+}
+
+void ExpressionProfile::show(const Shown &result)
+{
+    setOutputUnit(result.outputUnit);
+    setOutput(result.output);
+    setValidUnits(result.validUnits);
+}

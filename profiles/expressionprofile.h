@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef PROFILES_EXPRESSIONPROFILE_H
+#define PROFILES_EXPRESSIONPROFILE_H
+
+#include "operand.h"
+#include "profile.h"
+#include "storedkeys.h"
+
+#include <QMap>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class StepRule;
+
+/// Where one entry of the valid units is stored.
+struct ValidityKey
+{
+    const char *key;
+    int unit;
+};
+
+/// What a calculator is, as far as data can say it.
+struct CalculatorTable
+{
+    QString group;
+    StoredKeys keys;
+    /// Written after the keys, in this order.
+    std::vector<ValidityKey> validityKeys;
+    ExpressionUnits units;
+    /// Significant digits that a step of an evaluation keeps.
+    int stepDigits;
+};
+
+/**
+ * An expression calculator: evaluates the typed text, shows the result in the chosen unit, and
+ * tells which units make sense for it. Sums and differences are evaluated from left to right,
+ * bracket groups first; an operand is a number with at most one SI prefix and one unit.
+ *
+ * Bad input becomes an error text in output. A calculator adds its units and modes, how a step
+ * combines two operands, and how a result is converted.
+ */
+class ExpressionProfile : public Profile
+{
+    Q_OBJECT
+    Q_PROPERTY(QString input READ input WRITE setInput NOTIFY inputChanged)
+    Q_PROPERTY(QString output READ output WRITE setOutput NOTIFY outputChanged)
+    Q_PROPERTY(int outputUnit READ outputUnit WRITE setOutputUnit NOTIFY outputUnitChanged)
+    Q_PROPERTY(int mode READ mode WRITE setMode NOTIFY modeChanged)
+    Q_PROPERTY(
+        QMap<int, bool> validUnits READ validUnits WRITE setValidUnits NOTIFY validUnitsChanged)
+
+public:
+    /// The expression as it was typed.
+    QString input() const { return m_input; }
+    /// The result without its unit, or an error text; "---" before the first calculation.
+    QString output() const { return m_output; }
+    int outputUnit() const { return m_outputUnit; }
+    int mode() const { return m_mode; }
+    /// For each unit whether it is offered as the output unit.
+    QMap<int, bool> validUnits() const { return m_validUnits; }
+    /// The index of the plain number, which is beyond those that a selector shows.
+    int plainUnit() const;
+    /// The text of a unit; empty for the plain number and for an index that is no unit's.
+    QString unitText(int unit) const;
+
+    /// No setter calculates by itself.
+    void setInput(const QString &text);
+    void setOutput(const QString &text);
+    void setOutputUnit(int unit);
+    void setMode(int mode);
+    void setValidUnits(const QMap<int, bool> &validUnits);
+
+    /// Evaluates a cleaned text without brackets. Returns a number and its unit, or an error text;
+    /// a text without an operator is "invalid input", which is also put into output at once.
+    QString evaluate(const QString &text);
+
+    void saveSettings(QSettings &settings) override;
+    void loadSettings(QSettings &settings) override;
+
+public Q_SLOTS:
+    /// Evaluates input and updates outputUnit, output and validUnits, in this order and each at
+    /// most once. A defect of the brackets leaves the units as they are.
+    void calculate();
+
+Q_SIGNALS:
+    void inputChanged();
+    void outputChanged();
+    void outputUnitChanged();
+    void modeChanged();
+    void validUnitsChanged();
+
+protected:
+    /// A result as it is shown.
+    struct Shown
+    {
+        QString output;
+        int outputUnit;
+        QMap<int, bool> validUnits;
+    };
+
+    /// @p table must outlive the profile.
+    explicit ExpressionProfile(const CalculatorTable &table, QObject *parent = nullptr);
+
+    /// The rule of one evaluation in the present mode.
+    virtual std::unique_ptr<StepRule> newStepRule() const = 0;
+    /// Converts @p result into the output unit, or into another one where that makes no sense.
+    virtual Shown shown(const Operand &result) const = 0;
+
+    /// The units to choose from when a result is shown in @p unit.
+    QMap<int, bool> unitsBeside(int unit) const;
+
+private:
+    void publish(const QString &result);
+    Shown shownError(const QString &errorText) const;
+    void show(const Shown &result);
+
+    const CalculatorTable &m_table;
+    QString m_input;
+    QString m_output;
+    int m_outputUnit = 0;
+    int m_mode = 0;
+    QMap<int, bool> m_validUnits;
+};
+
+#endif

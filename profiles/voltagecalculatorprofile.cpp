@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "voltagecalculatorprofile.h"
+
+#include "errortexts.h"
+#include "levels.h"
+#include "valuetext.h"
+#include "voltagesteps.h"
+
+namespace {
+
+using namespace VoltageUnit;
+
+const CalculatorTable &calculatorTable()
+{
+    static const CalculatorTable table{
+        QStringLiteral("VoltageCalculatorProfile"),
+        {{"input", "input", QString()},
+         {"output", "output", ErrorText::noResult()},
+         {"outputUnit", "outputUnit", Mv, Mv, None},
+         {"mode", "mode", VoltageMode::Uncorrelated, VoltageMode::Uncorrelated, VoltageMode::Peak},
+         {"phase", "phase", 0.0, VoltageCalculatorProfile::kMinimumPhase,
+          VoltageCalculatorProfile::kMaximumPhase}},
+        {{"MvValid", Mv}, {"VValid", V}, {"NoneValid", None}},
+        {{Mv, QStringLiteral("mV")}, {V, QStringLiteral("V")}, {None, QString(), true}},
+        10,
+    };
+    return table;
+}
+
+} // namespace
+
+VoltageCalculatorProfile::VoltageCalculatorProfile(QObject *parent)
+    : ExpressionProfile(calculatorTable(), parent)
+{}
+
+void VoltageCalculatorProfile::setPhase(double degrees)
+{
+    assign(m_phase, degrees, &VoltageCalculatorProfile::phaseChanged);
+}
+
+std::unique_ptr<StepRule> VoltageCalculatorProfile::newStepRule() const
+{
+    return std::make_unique<VoltageSteps>(mode(), m_phase);
+}
+
+ExpressionProfile::Shown VoltageCalculatorProfile::shown(const Operand &result) const
+{
+    if (result.unit == None)
+        return {generalText(result.value), None, unitsBeside(None)};
+    const int unit = outputUnit() == V ? V : Mv;
+    const double millivolt = millivoltFrom(result);
+    const double value = unit == V ? Levels::voltFromMillivolt(millivolt) : millivolt;
+    return {generalText(value), unit, unitsBeside(unit)};
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTS_PROFILES_CALCULATORCASE_H
+#define TESTS_PROFILES_CALCULATORCASE_H
+
+#include <initializer_list>
+
+class ExpressionProfile;
+
+/// What a person types into an expression calculator, and what is shown then.
+struct CalculatorCase
+{
+    const char *tag;
+    const char *input;
+    int mode;
+    int chosenUnit;
+    const char *output;
+    int shownUnit;
+    /// The texts of the units that are offered, in the order of the selector; "none" is the plain
+    /// number's.
+    const char *offered;
+    /// Of the voltage calculator, in degrees.
+    double phase = 0.0;
+};
+
+/// Makes the columns of checkCalculatorCase() and "phase", and one row of each case.
+void addCalculatorCases(std::initializer_list<CalculatorCase> cases);
+
+/// Calculates the present row with a fresh @p calculator, whose units are all offered at first, and
+/// compares output, unit and offered units.
+void checkCalculatorCase(ExpressionProfile &calculator, int decimalPlaces);
+
+#endif

@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "dbmcalculatorprofile.h"
+#include "mainprofile.h"
+#include "powersteps.h"
+#include "testmain.h"
+#include "voltagecalculatorprofile.h"
+#include "voltagesteps.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class ExpressionProfileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void startsWithoutAResult();
+    void namesItsUnits();
+    void settersSignalARealChangeOnly();
+    void settersDoNotCalculate();
+    void calculationSignalsEachChangeOnce();
+    void calculationShowsUnitBeforeResult();
+    void aLoneValueIsAnErrorAtOnce();
+    void evaluatesWithoutPublishing();
+    void usesTheDecimalPlacesOfTheMoment();
+    void unknownUnitsAndModesDoNoHarm();
+    void isSavedFirst();
+};
+
+namespace {
+
+void calculate(ExpressionProfile &calculator, const char *input)
+{
+    calculator.setInput(QString::fromUtf8(input));
+    calculator.calculate();
+}
+
+const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
+
+} // namespace
+
+void ExpressionProfileTest::initTestCase()
+{
+    // Without it two variants with the same map do not compare as equal.
+    QMetaType::registerEqualsComparator<QMap<int, bool>>();
+}
+
+void ExpressionProfileTest::init()
+{
+    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
+}
+
+void ExpressionProfileTest::startsWithoutAResult()
+{
+    VoltageCalculatorProfile voltage;
+    DbmCalculatorProfile dbm;
+    for (ExpressionProfile *calculator :
+         {static_cast<ExpressionProfile *>(&voltage), static_cast<ExpressionProfile *>(&dbm)}) {
+        QCOMPARE(calculator->input(), QString());
+        QCOMPARE(calculator->output(), QStringLiteral("---"));
+        QCOMPARE(calculator->outputUnit(), 0);
+        QCOMPARE(calculator->mode(), 0);
+    }
+    QCOMPARE(voltage.phase(), 0.0);
+    QCOMPARE(voltage.validUnits(), kAllVoltages);
+    QCOMPARE(dbm.validUnits().size(), 7);
+    QVERIFY(!dbm.validUnits().values().contains(false));
+}
+
+void ExpressionProfileTest::namesItsUnits()
+{
+    DbmCalculatorProfile dbm;
+    QStringList texts;
+    for (int unit = -1; unit <= 7; ++unit)
+        texts += dbm.unitText(unit);
+    QCOMPARE(texts.join(QLatin1Char('|')), QStringLiteral("|dBm|mW|W|\u00B5W|dBW|dB||"));
+    QCOMPARE(dbm.plainUnit(), 6);
+
+    VoltageCalculatorProfile voltage;
+    texts.clear();
+    for (int unit = -1; unit <= 3; ++unit)
+        texts += voltage.unitText(unit);
+    QCOMPARE(texts.join(QLatin1Char('|')), QStringLiteral("|mV|V||"));
+    QCOMPARE(voltage.plainUnit(), 2);
+}
+
+void ExpressionProfileTest::settersSignalARealChangeOnly()
+{
+    VoltageCalculatorProfile calculator;
+    const QVariantMap values{
+        {QStringLiteral("input"), QStringLiteral("1V")},
+        {QStringLiteral("output"), QStringLiteral("5")},
+        {QStringLiteral("outputUnit"), 1},
+        {QStringLiteral("mode"), 2},
+        {QStringLiteral("phase"), 90.0},
+        {QStringLiteral("validUnits"), QVariant::fromValue(QMap<int, bool>{{0, false}})},
+    };
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        const QByteArray name = it.key().toLatin1();
+        QSignalSpy spy(&calculator, QByteArray("2" + name + "Changed()").constData());
+        QVERIFY2(calculator.setProperty(name.constData(), it.value()), name.constData());
+        QCOMPARE(calculator.property(name.constData()), it.value());
+        QCOMPARE(spy.count(), 1);
+        calculator.setProperty(name.constData(), it.value());
+        QCOMPARE(spy.count(), 1);
+    }
+}
+
+void ExpressionProfileTest::settersDoNotCalculate()
+{
+    VoltageCalculatorProfile calculator;
+    calculator.setInput(QStringLiteral("3mV+4mV"));
+    calculator.setMode(VoltageMode::Peak);
+    calculator.setOutputUnit(VoltageUnit::V);
+    calculator.setPhase(90);
+    QCOMPARE(calculator.output(), QStringLiteral("---"));
+    calculator.calculate();
+    QCOMPARE(calculator.output(), QStringLiteral("0.007"));
+}
+
+void ExpressionProfileTest::calculationSignalsEachChangeOnce()
+{
+    DbmCalculatorProfile calculator;
+    QSignalSpy output(&calculator, &DbmCalculatorProfile::outputChanged);
+    QSignalSpy unit(&calculator, &DbmCalculatorProfile::outputUnitChanged);
+    QSignalSpy valid(&calculator, &DbmCalculatorProfile::validUnitsChanged);
+    const auto counts = [&] {
+        return QList<int>{output.count(), unit.count(), valid.count()};
+    };
+
+    calculate(calculator, "10dBm+3dB"); // 13.00 dBm, all power units
+    QCOMPARE(counts(), (QList<int>{1, 0, 1}));
+    calculator.calculate();
+    QCOMPARE(counts(), (QList<int>{1, 0, 1}));
+    calculate(calculator, "10dBm+4dB"); // 14.00 dBm
+    QCOMPARE(counts(), (QList<int>{2, 0, 1}));
+    calculate(calculator, "(10dBm+1dB)+3dB"); // 14.00 dBm again
+    QCOMPARE(counts(), (QList<int>{2, 0, 1}));
+    calculate(calculator, "1+2"); // 3, plain only
+    QCOMPARE(counts(), (QList<int>{3, 1, 2}));
+    calculate(calculator, "(1+2"); // the units stay
+    QCOMPARE(counts(), (QList<int>{4, 1, 2}));
+    calculate(calculator, "10dBm"); // an error text keeps the plain unit
+    QCOMPARE(counts(), (QList<int>{5, 1, 2}));
+    calculate(calculator, "1mW-2mW"); // -1 mW, no level
+    QCOMPARE(counts(), (QList<int>{6, 2, 3}));
+}
+
+void ExpressionProfileTest::calculationShowsUnitBeforeResult()
+{
+    DbmCalculatorProfile calculator;
+    QStringList order;
+    connect(&calculator, &DbmCalculatorProfile::outputUnitChanged, this,
+            [&order] { order += QStringLiteral("unit"); });
+    connect(&calculator, &DbmCalculatorProfile::outputChanged, this,
+            [&order] { order += QStringLiteral("output"); });
+    connect(&calculator, &DbmCalculatorProfile::validUnitsChanged, this,
+            [&order] { order += QStringLiteral("valid"); });
+    calculate(calculator, "3dB+3dB");
+    QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("unit output valid"));
+}
+
+void ExpressionProfileTest::aLoneValueIsAnErrorAtOnce()
+{
+    DbmCalculatorProfile calculator;
+    QCOMPARE(calculator.evaluate(QStringLiteral("10dBm")), QStringLiteral("invalid input"));
+    QCOMPARE(calculator.output(), QStringLiteral("invalid input"));
+    QVERIFY(calculator.validUnits().value(PowerUnit::Db));
+}
+
+void ExpressionProfileTest::evaluatesWithoutPublishing()
+{
+    DbmCalculatorProfile dbm;
+    dbm.setMode(2);
+    const auto result = [&dbm](const char *text) {
+        return dbm.evaluate(QString::fromUtf8(text));
+    };
+    QCOMPARE(result("10dBm+10dBm"), QStringLiteral("20mW"));
+    QCOMPARE(result("10dBm+3dB"), QStringLiteral("13dBm"));
+    QCOMPARE(result("10dB+3dB"), QStringLiteral("13dB"));
+    QCOMPARE(result("10+3"), QStringLiteral("13"));
+    QCOMPARE(result("1GW+0W"), QStringLiteral("1E+12mW"));
+    QCOMPARE(result("1mW+0dBm+1dB"), QStringLiteral("4.01029995664dBm")); // 10 lg 2 + 1
+    QCOMPARE(result("1mW+1"), QStringLiteral("unit missing"));
+    QCOMPARE(result("1mW+x"), QStringLiteral("invalid input"));
+    QCOMPARE(dbm.output(), QStringLiteral("---"));
+
+    VoltageCalculatorProfile voltage;
+    QCOMPARE(voltage.evaluate(QStringLiteral("1V+1V")), QStringLiteral("1414.213562mV"));
+    QCOMPARE(voltage.output(), QStringLiteral("---"));
+}
+
+void ExpressionProfileTest::usesTheDecimalPlacesOfTheMoment()
+{
+    VoltageCalculatorProfile calculator;
+    calculate(calculator, "1mV+1mV");
+    QCOMPARE(calculator.output(), QStringLiteral("1.41"));
+    MainProfile::instance().setDecimalPlaces(5);
+    QCOMPARE(calculator.output(), QStringLiteral("1.41"));
+    calculator.calculate();
+    QCOMPARE(calculator.output(), QStringLiteral("1.4142"));
+}
+
+void ExpressionProfileTest::unknownUnitsAndModesDoNoHarm()
+{
+    DbmCalculatorProfile dbm;
+    VoltageCalculatorProfile voltage;
+    for (const int odd : {-1, 7, 100}) {
+        dbm.setOutputUnit(odd);
+        dbm.setMode(odd);
+        calculate(dbm, "1mW+x");
+        calculate(dbm, "10mW+10mW"); // 20 mW, 13.01 dBm
+        QCOMPARE(dbm.output(), QStringLiteral("20"));
+        QCOMPARE(dbm.outputUnit(), int(PowerUnit::Mw));
+        voltage.setOutputUnit(odd);
+        voltage.setMode(odd);
+        calculate(voltage, "3mV+4mV");
+        QCOMPARE(voltage.output(), QStringLiteral("7"));
+        QCOMPARE(voltage.outputUnit(), int(VoltageUnit::Mv));
+    }
+}
+
+void ExpressionProfileTest::isSavedFirst()
+{
+    MainProfile profile;
+    const std::vector<Profile *> modules = profile.modules();
+    QVERIFY(modules.size() > 2);
+    QCOMPARE(modules[0], static_cast<Profile *>(&profile.dbmCalculator()));
+    QCOMPARE(modules[1], static_cast<Profile *>(&profile.voltageCalculator()));
+}
+
+DEZIMO_TEST_MAIN(QCoreApplication, ExpressionProfileTest)
+
+#include "tst_expressionprofile.moc"

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "dbmcalculatorprofile.h"
+#include "mainprofile.h"
+#include "powersteps.h"
+#include "testmain.h"
+#include "voltagecalculatorprofile.h"
+#include "voltagesteps.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// How the expression calculators are kept in a settings store.
+class ExpressionStorageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void keepsTheDbmCalculator();
+    void keepsTheVoltageCalculator();
+    void writesTheKeysOfTheGroups();
+    void missingKeysAreDefaults();
+    void malformedKeysAreDefaults_data();
+    void malformedKeysAreDefaults();
+    void loadsTheValidUnitsAtOnce();
+
+private:
+    QString fileName() const { return m_folder->filePath(QStringLiteral("state.ini")); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+void save(ExpressionProfile &calculator, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    calculator.saveSettings(file);
+}
+
+void load(ExpressionProfile &calculator, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    calculator.loadSettings(file);
+}
+
+void calculate(ExpressionProfile &calculator, const char *input)
+{
+    calculator.setInput(QString::fromUtf8(input));
+    calculator.calculate();
+}
+
+const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
+
+} // namespace
+
+void ExpressionStorageTest::initTestCase()
+{
+    // Without it two variants with the same map do not compare as equal.
+    QMetaType::registerEqualsComparator<QMap<int, bool>>();
+}
+
+void ExpressionStorageTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void ExpressionStorageTest::keepsTheDbmCalculator()
+{
+    DbmCalculatorProfile written;
+    written.setMode(2);
+    written.setOutputUnit(PowerUnit::Uw);
+    calculate(written, " 1mW\u22122mW");
+    save(written, fileName());
+
+    DbmCalculatorProfile read;
+    load(read, fileName());
+    QCOMPARE(read.input(), QStringLiteral(" 1mW\u22122mW"));
+    QCOMPARE(read.output(), QStringLiteral("-1E+03"));
+    QCOMPARE(read.outputUnit(), int(PowerUnit::Uw));
+    QCOMPARE(read.mode(), 2);
+    QCOMPARE(read.validUnits(), written.validUnits());
+    QCOMPARE(read.validUnits().keys(true),
+             (QList<int>{PowerUnit::Mw, PowerUnit::W, PowerUnit::Uw}));
+}
+
+void ExpressionStorageTest::keepsTheVoltageCalculator()
+{
+    VoltageCalculatorProfile written;
+    written.setMode(VoltageMode::Correlated);
+    written.setPhase(-22.5);
+    written.setOutputUnit(VoltageUnit::V);
+    calculate(written, "1V+1V");
+    save(written, fileName());
+
+    VoltageCalculatorProfile read;
+    load(read, fileName());
+    QCOMPARE(read.input(), QStringLiteral("1V+1V"));
+    QCOMPARE(read.output(), QStringLiteral("1.96")); // sqrt(2 + 2 cos 22.5)
+    QCOMPARE(read.outputUnit(), int(VoltageUnit::V));
+    QCOMPARE(read.mode(), int(VoltageMode::Correlated));
+    QCOMPARE(read.phase(), -22.5);
+    QCOMPARE(read.validUnits().keys(true), (QList<int>{VoltageUnit::Mv, VoltageUnit::V}));
+}
+
+void ExpressionStorageTest::writesTheKeysOfTheGroups()
+{
+    DbmCalculatorProfile dbm;
+    calculate(dbm, "3dB+3dB"); // a ratio: dB only
+    save(dbm, fileName());
+    VoltageCalculatorProfile voltage;
+    calculate(voltage, "1+2"); // a plain number: no unit only
+    save(voltage, fileName());
+
+    QSettings file(fileName(), QSettings::IniFormat);
+    QCOMPARE(file.childGroups(), (QStringList{QStringLiteral("DbmCalculatorProfile"),
+                                              QStringLiteral("VoltageCalculatorProfile")}));
+    QStringList entries;
+    const QStringList keys = file.allKeys();
+    for (const QString &key : keys)
+        entries += key.section(QLatin1Char('/'), 1) + QLatin1Char('=') + file.value(key).toString();
+    QCOMPARE(entries.join(QLatin1Char(' ')),
+             QStringLiteral("DbValid=true DbmValid=false DbwValid=false MwValid=false "
+                            "NoneValid=false UwValid=false WValid=false "
+                            "input=3dB+3dB mode=0 output=6.00 outputUnit=5 "
+                            "MvValid=false NoneValid=true VValid=false "
+                            "input=1+2 mode=0 output=3 outputUnit=2 phase=0"));
+}
+
+void ExpressionStorageTest::missingKeysAreDefaults()
+{
+    VoltageCalculatorProfile voltage;
+    voltage.setMode(VoltageMode::Peak);
+    voltage.setPhase(90);
+    calculate(voltage, "1+2");
+    load(voltage, fileName());
+    QCOMPARE(voltage.input(), QString());
+    QCOMPARE(voltage.output(), QStringLiteral("---"));
+    QCOMPARE(voltage.outputUnit(), 0);
+    QCOMPARE(voltage.mode(), 0);
+    QCOMPARE(voltage.phase(), 0.0);
+    QCOMPARE(voltage.validUnits(), kAllVoltages);
+
+    DbmCalculatorProfile dbm;
+    calculate(dbm, "3dB+3dB");
+    load(dbm, fileName());
+    QCOMPARE(dbm.output(), QStringLiteral("---"));
+    QCOMPARE(dbm.outputUnit(), 0);
+    QCOMPARE(dbm.validUnits(), DbmCalculatorProfile().validUnits());
+}
+
+void ExpressionStorageTest::malformedKeysAreDefaults_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QVariant>("value");
+
+    const auto row = [](const char *tag, const char *key, const QVariant &stored,
+                        const char *property, const QVariant &value) {
+        QTest::newRow(tag) << QString::fromLatin1(key) << stored << QString::fromLatin1(property)
+                           << value;
+    };
+    const QVariant all = QVariant::fromValue(kAllVoltages);
+    row("a unit that is none", "outputUnit", 3, "outputUnit", 0);
+    row("a unit below the first", "outputUnit", -1, "outputUnit", 0);
+    row("the last unit is one", "outputUnit", 2, "outputUnit", 2);
+    row("a unit that is a word", "outputUnit", QStringLiteral("V"), "outputUnit", 0);
+    row("a mode that is none", "mode", 3, "mode", 0);
+    row("the last mode is one", "mode", 2, "mode", 2);
+    row("a phase that is a word", "phase", QStringLiteral("x"), "phase", 0.0);
+    row("a phase that is infinite", "phase", QStringLiteral("inf"), "phase", 0.0);
+    row("a phase beyond a turn", "phase", 360.5, "phase", 0.0);
+    row("a phase beyond a turn backwards", "phase", -361, "phase", 0.0);
+    row("a phase of a turn is one", "phase", 360, "phase", 360.0);
+    row("a phase of a turn backwards is one", "phase", -360, "phase", -360.0);
+    row("a list as the input", "input", QStringList{QString(), QString()}, "input", QString());
+    row("a list as the output", "output", QStringList{QString(), QString()}, "output",
+        QStringLiteral("---"));
+    row("an empty output is one", "output", QString(), "output", QString());
+    row("a validity that is a word", "VValid", QStringLiteral("maybe"), "validUnits", all);
+}
+
+void ExpressionStorageTest::malformedKeysAreDefaults()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, stored);
+    QFETCH(QString, property);
+    QFETCH(QVariant, value);
+
+    {
+        QSettings file(fileName(), QSettings::IniFormat);
+        file.setValue(QLatin1String("VoltageCalculatorProfile/") + key, stored);
+    }
+    VoltageCalculatorProfile calculator;
+    load(calculator, fileName());
+    QCOMPARE(calculator.property(property.toLatin1().constData()), value);
+}
+
+void ExpressionStorageTest::loadsTheValidUnitsAtOnce()
+{
+    DbmCalculatorProfile written;
+    calculate(written, "3dB+3dB");
+    save(written, fileName());
+
+    DbmCalculatorProfile read;
+    QSignalSpy valid(&read, &DbmCalculatorProfile::validUnitsChanged);
+    QSignalSpy output(&read, &DbmCalculatorProfile::outputChanged);
+    load(read, fileName());
+    QCOMPARE(valid.count(), 1);
+    QCOMPARE(output.count(), 1);
+    load(read, fileName());
+    QCOMPARE(valid.count(), 1);
+    QCOMPARE(output.count(), 1);
+}
+
+DEZIMO_TEST_MAIN(QCoreApplication, ExpressionStorageTest)
+
+#include "tst_expressionstorage.moc"

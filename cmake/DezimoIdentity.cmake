@@ -10,3 +10,9 @@ set(DEZIMO_PRODUCT_PAGE "https://www.vantrel.example/appnote" CACHE STRING
   "Web page of the maker's application notes; the note's number is appended as the last segment")
 set(DEZIMO_SUPPORT_MAIL "support@vantrel.example" CACHE STRING
   "Mail address for support requests")
+
+# The same domain with its parts turned round, as identifiers are made from it.
+string(REPLACE "." ";" domain_parts "${DEZIMO_ORGANIZATION_DOMAIN}")
+list(REVERSE domain_parts)
+list(JOIN domain_parts "." DEZIMO_REVERSED_DOMAIN)
+unset(domain_parts)

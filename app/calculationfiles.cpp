@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "calculationfiles.h"
+
+#include "mainprofile.h"
+
+#include <QDate>
+#include <QFileDialog>
+#include <QSettings>
+
+namespace {
+
+QString extension()
+{
+    return QStringLiteral("dezimo");
+}
+
+// "Calulation" is how the dialogs of the program have always spelled it.
+QString fileFilter()
+{
+    return QStringLiteral("dB Calulation (*.%1)").arg(extension());
+}
+
+QString chosenFile(QFileDialog &dialog)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0);
+}
+
+} // namespace
+
+QString CalculationFiles::askForFileToOpen(QWidget *parent)
+{
+    QFileDialog dialog(parent, QStringLiteral("Open dB Calulation ..."), QString(), fileFilter());
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return chosenFile(dialog);
+}
+
+QString CalculationFiles::askForFileToSave(QWidget *parent)
+{
+    const QString today = QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"));
+    QFileDialog dialog(parent, QStringLiteral("Save dB Calulation ..."), QString(), fileFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.selectNameFilter(fileFilter());
+    dialog.setDefaultSuffix(extension());
+    dialog.selectFile(today + QLatin1Char('.') + extension());
+    return chosenFile(dialog);
+}
+
+void CalculationFiles::open(MainProfile &profile, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    profile.loadModuleSettings(file);
+}
+
+void CalculationFiles::save(MainProfile &profile, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    profile.saveSettings(file);
+}
+
+void CalculationFiles::loadDefaults(MainProfile &profile)
+{
+    // A store of an organization that does not exist holds nothing, so every key takes its default.
+    QSettings nothing(QStringLiteral("none"), QString());
+    profile.loadModuleSettings(nothing);
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef APP_CALCULATIONFILES_H
+#define APP_CALCULATIONFILES_H
+
+#include <QString>
+
+class MainProfile;
+class QWidget;
+
+/**
+ * Calculation files are INI files with the groups and keys of the application settings. A file is
+ * written whole, window group included, but only its module groups are read back: opening one never
+ * moves the window or turns a page. What cannot be read takes its default; nothing is reported.
+ */
+namespace CalculationFiles {
+
+/// The file that the person chose, or an empty text if the dialog was cancelled.
+QString askForFileToOpen(QWidget *parent);
+/// The same for saving; the dialog adds the extension to a name that has none.
+QString askForFileToSave(QWidget *parent);
+
+void open(MainProfile &profile, const QString &fileName);
+void save(MainProfile &profile, const QString &fileName);
+
+/// Gives every module its default values.
+void loadDefaults(MainProfile &profile);
+
+} // namespace CalculationFiles
+
+#endif

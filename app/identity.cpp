@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "identity.h"
+
+#include <QCoreApplication>
+
+QString Identity::productName()
+{
+    return QStringLiteral("Dezimo");
+}
+
+QString Identity::version()
+{
+    return QStringLiteral(DEZIMO_VERSION);
+}
+
+void Identity::apply()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Vantrel"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral(DEZIMO_REVERSED_DOMAIN));
+    QCoreApplication::setApplicationName(productName());
+    QCoreApplication::setApplicationVersion(version());
+}

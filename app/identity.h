@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef APP_IDENTITY_H
+#define APP_IDENTITY_H
+
+#include <QString>
+
+/**
+ * Who the program is. The settings store is found by the organization and application names; the
+ * version and the maker's domain come from the build configuration.
+ */
+namespace Identity {
+
+QString productName();
+QString version();
+
+/// Gives the application object its names and version.
+void apply();
+
+} // namespace Identity
+
+#endif

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelapplication.h"
+
+#include "resources.h"
+#include "stylesheets.h"
+
+#include <QFontDatabase>
+#include <QLocale>
+
+namespace {
+
+/// The attributes are set although the application object exists already, which is meant; Qt's
+/// warning that this is late would be the only thing the program ever prints.
+void setHighDpiAttributes()
+{
+    const auto ignore = [](QtMsgType, const QMessageLogContext &, const QString &) {
+    };
+    const QtMessageHandler previous = qInstallMessageHandler(ignore);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    qInstallMessageHandler(previous);
+}
+
+void addApplicationFonts()
+{
+    for (const char *name : {"Tessan_v3_Bold_02", "Tessan_v3_Italic_02", "Tessan_v3_Light_02",
+                             "Tessan_v3_Regular_02", "TessanCd_v3_Bold_02", "TessanCd_v3_Italic_02",
+                             "TessanCd_v3_Light_02", "TessanCd_v3_Regular_02"}) {
+        QFontDatabase::addApplicationFont(
+            QStringLiteral(":/Global/Fonts/%1.ttf").arg(QLatin1String(name)));
+    }
+}
+
+} // namespace
+
+KelApplication::KelApplication(int &argc, char **argv, bool flag)
+    : QApplication(argc, argv),
+      m_flag(flag)
+{
+    initDezimoResources();
+    qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
+    setHighDpiAttributes();
+    addApplicationFonts();
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::AnyCountry));
+    installStyleSheet(Bright);
+}
+
+void KelApplication::installStyleSheet(ApplicationTheme theme)
+{
+    setStyleSheet(StyleSheets::combined(QStringLiteral(":/Global/Style/"), theme));
+}

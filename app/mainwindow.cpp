@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow.h"
+
+#include "animations.h"
+#include "calculationfiles.h"
+#include "identity.h"
+#include "mainprofile.h"
+#include "stylesheets.h"
+#include "ui_mainwindow.h"
+#include "windowplacement.h"
+
+#include <QLineEdit>
+#include <QMoveEvent>
+#include <QResizeEvent>
+#include <QScreen>
+#include <QSettings>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int kCompactListWidth = 40;
+constexpr int kExpandedListWidth = 160;
+constexpr int kHeaderHeight = 22;
+
+/// Icons of the module list in row order; %1 is the theme's word.
+constexpr std::array<const char *, 5> kModuleIcons = {
+    ":/dbmcalc_16_%1.svg", ":/voltagecalc_16_%1.svg", ":/unitconv_16_%1.svg",
+    ":/dbconv_16_%1.svg",  ":/vswrconv_16_%1.svg",
+};
+
+QVector<QRect> screenRects()
+{
+    QVector<QRect> rects;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens)
+        rects += screen->availableGeometry();
+    return rects;
+}
+
+} // namespace
+
+/// Where the parts of the window that depend on the list mode end up.
+struct MainWindow::Target
+{
+    int listWidth;
+    int headerHeight;
+    int placeholderHeight;
+};
+
+MainWindow::MainWindow(QWidget *parent)
+    : KelMainWindow(parent),
+      m_ui(std::make_unique<Ui::MainWindow>()),
+      m_profile(MainProfile::instance())
+{
+    m_ui->setupUi(this);
+    m_ui->menuPlaceholder->hide();
+    m_ui->headerWidget->hide();
+    onThemeChanged(Bright);
+
+    connect(&m_profile, &MainProfile::currentModuleChanged, this,
+            &MainWindow::onCurrentModuleChanged);
+    connect(m_ui->menuDecimal_Places, &QMenu::aboutToShow, this,
+            &MainWindow::onDecimalPlacesMenuAboutToShow);
+    QSettings settings;
+    m_profile.loadSettings(settings);
+
+    onThemeChanged(Bright);
+    applyWindowMode();
+    restoreGeometryFromProfile();
+    connect(&m_profile, &MainProfile::windowModeChanged, this, &MainWindow::onWindowModeChanged);
+    connect(m_ui->menuItemsWidget, &QListWidget::itemClicked, this, &MainWindow::focusPage);
+    onCurrentModuleChanged();
+}
+
+/// The form goes first: nothing that its widgets do while they are destroyed may reach the profile
+/// that is being saved.
+MainWindow::~MainWindow()
+{
+    m_ui.reset();
+    QSettings settings;
+    m_profile.saveSettings(settings);
+}
+
+void MainWindow::moveEvent(QMoveEvent *event)
+{
+    KelMainWindow::moveEvent(event);
+    m_profile.setWindowPosition(event->pos());
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    KelMainWindow::resizeEvent(event);
+    m_profile.setWindowSize(event->size());
+}
+
+void MainWindow::on_changeWindowModeButton_clicked()
+{
+    m_profile.setWindowMode(m_profile.windowMode() == 0 ? 1 : 0);
+}
+
+void MainWindow::onWindowModeChanged()
+{
+    updateModeButton(Bright);
+    const Target target = windowModeTarget();
+    const auto slide = [](QWidget *widget, const char *property, int to) {
+        makeAnimation(widget, property, widget->property(property), to)
+            ->start(QAbstractAnimation::DeleteWhenStopped);
+    };
+    slide(m_ui->menuWidget, "minimumWidth", target.listWidth);
+    slide(m_ui->headerWidget, "maximumHeight", target.headerHeight);
+    slide(m_ui->menuPlaceholder, "maximumHeight", target.placeholderHeight);
+}
+
+void MainWindow::onCurrentModuleChanged()
+{
+    m_ui->menuItemsWidget->setCurrentRow(m_profile.currentModule());
+    updateWindowTitle();
+    focusPage();
+}
+
+void MainWindow::on_actionLoad_Defaults_triggered()
+{
+    CalculationFiles::loadDefaults(m_profile);
+}
+
+void MainWindow::on_actionOpen_triggered()
+{
+    const QString fileName = CalculationFiles::askForFileToOpen(this);
+    if (!fileName.isEmpty())
+        CalculationFiles::open(m_profile, fileName);
+}
+
+void MainWindow::on_actionSave_triggered()
+{
+    const QString fileName = CalculationFiles::askForFileToSave(this);
+    if (!fileName.isEmpty())
+        CalculationFiles::save(m_profile, fileName);
+}
+
+/// The entries are made anew each time, so that exactly the present number is checked.
+void MainWindow::onDecimalPlacesMenuAboutToShow()
+{
+    m_ui->menuDecimal_Places->clear();
+    for (int places = 0; places <= MainProfile::kMaximumDecimalPlaces; ++places) {
+        QAction *action = m_ui->menuDecimal_Places->addAction(QString::number(places));
+        action->setShortcut(QKeySequence());
+        action->setCheckable(true);
+        action->setChecked(places == m_profile.decimalPlaces());
+        connect(action, &QAction::triggered, &m_profile,
+                [this, places] { m_profile.setDecimalPlaces(places); });
+    }
+}
+
+void MainWindow::on_menuItemsWidget_currentRowChanged(int currentRow)
+{
+    m_profile.setCurrentModule(currentRow);
+}
+
+void MainWindow::onThemeChanged(ApplicationTheme theme)
+{
+    const auto style = StyleSheets::read(theme == Dark ? QStringLiteral(":/main_dark.qss")
+                                                       : QStringLiteral(":/main_light.qss"));
+    if (style)
+        setStyleSheet(*style);
+    updateModeButton(theme);
+    for (int row = 0; row < int(kModuleIcons.size()); ++row) {
+        const QString icon = QString::fromLatin1(kModuleIcons.at(size_t(row)));
+        m_ui->menuItemsWidget->item(row)->setIcon(QIcon(icon.arg(themeWord(theme))));
+    }
+}
+
+MainWindow::Target MainWindow::windowModeTarget() const
+{
+    const int mode = m_profile.windowMode();
+    return {mode != 0 ? kExpandedListWidth : kCompactListWidth, mode != 0 ? 0 : kHeaderHeight,
+            mode > 0 ? kHeaderHeight : 0};
+}
+
+void MainWindow::applyWindowMode()
+{
+    const Target target = windowModeTarget();
+    m_ui->menuWidget->setMinimumWidth(target.listWidth);
+    m_ui->headerWidget->setMaximumHeight(target.headerHeight);
+    m_ui->menuPlaceholder->setMaximumHeight(target.placeholderHeight);
+    updateModeButton(Bright);
+}
+
+/// The stored position is that of the contents and places the frame, which is meant. A window that
+/// would lie on no screen, because one has gone since, is brought back.
+void MainWindow::restoreGeometryFromProfile()
+{
+    const QSize size = m_profile.windowSize();
+    move(m_profile.windowPosition());
+    if (size.isValid())
+        resize(size);
+    move(reachablePosition(geometry(), screenRects()));
+}
+
+/// The person can type at once on a page that was just chosen. A list that has the keyboard keeps
+/// it, so that the arrow keys walk through the modules.
+void MainWindow::focusPage()
+{
+    if (m_ui->menuItemsWidget->hasFocus())
+        return;
+    const QWidget *page = m_ui->stackedWidget->currentWidget();
+    const QList<QLineEdit *> edits = page->findChildren<QLineEdit *>();
+    const auto first = std::find_if(edits.begin(), edits.end(), [page](const QLineEdit *edit) {
+        return edit->isVisibleTo(page) && edit->isEnabled() && !edit->isReadOnly();
+    });
+    if (first != edits.end())
+        (*first)->setFocus();
+}
+
+void MainWindow::updateWindowTitle()
+{
+    const QListWidgetItem *module = m_ui->menuItemsWidget->currentItem();
+    setWindowTitle(module ? QStringLiteral("%1 [%2]").arg(Identity::productName(), module->text())
+                          : Identity::productName());
+}
+
+void MainWindow::updateModeButton(ApplicationTheme theme)
+{
+    const bool expanded = m_profile.windowMode() != 0;
+    m_ui->changeWindowModeButton->setIcon(QIcon(
+        QStringLiteral(":/Global/Icons_SVG/%1/Icon_%2_16_%1.svg")
+            .arg(themeWord(theme), expanded ? QStringLiteral("Minus") : QStringLiteral("Add"))));
+    const QString purpose = expanded ? tr("Hide module names") : tr("Show module names");
+    m_ui->changeWindowModeButton->setAccessibleName(purpose);
+    m_ui->changeWindowModeButton->setToolTip(purpose);
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef APP_MAINWINDOW_H
+#define APP_MAINWINDOW_H
+
+#include "applicationtheme.h"
+#include "kelmainwindow.h"
+
+#include <memory>
+
+class MainProfile;
+
+namespace Ui {
+class MainWindow;
+}
+
+/**
+ * The only top-level window: the list of modules at the left, the chosen module's page at the
+ * right, and the menus. Its geometry, list mode and module are mirrored into MainProfile, which is
+ * read from the application settings when the window is made and written when it is destroyed.
+ */
+class MainWindow final : public KelMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+protected:
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private Q_SLOTS:
+    void on_changeWindowModeButton_clicked();
+    void onWindowModeChanged();
+    void onCurrentModuleChanged();
+    void on_actionLoad_Defaults_triggered();
+    void on_actionOpen_triggered();
+    void on_actionSave_triggered();
+    void onDecimalPlacesMenuAboutToShow();
+    void on_menuItemsWidget_currentRowChanged(int currentRow);
+    void onThemeChanged(ApplicationTheme theme);
+
+private:
+    struct Target;
+
+    Target windowModeTarget() const;
+    void applyWindowMode();
+    void restoreGeometryFromProfile();
+    void focusPage();
+    void updateWindowTitle();
+    void updateModeButton(ApplicationTheme theme);
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    MainProfile &m_profile;
+};
+
+#endif

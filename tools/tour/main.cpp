@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "identity.h"
+#include "kelapplication.h"
+#include "mainwindow.h"
+#include "tour.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    KelApplication application(argc, argv, true);
+    Identity::apply();
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        std::fputs("usage: dezimo-tour <folder for the pictures>\n", stderr);
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+
+    MainWindow window;
+    window.show();
+    if (!QTest::qWaitForWindowActive(&window))
+        return 1;
+    for (const Tour::Example &example : Tour::examples()) {
+        std::printf("%s\n", qUtf8Printable(Tour::play(window, example)));
+        if (*example.picture == '\0')
+            continue;
+        const QString picture =
+            folder.filePath(QLatin1String(example.picture) + QLatin1String(".png"));
+        if (!window.grab().save(picture)) {
+            std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(picture));
+            return 1;
+        }
+    }
+    return 0;
+}

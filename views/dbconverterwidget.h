@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VIEWS_DBCONVERTERWIDGET_H
+#define VIEWS_DBCONVERTERWIDGET_H
+
+#include <QWidget>
+
+#include <memory>
+
+class DbConverterProfile;
+
+namespace Ui {
+class DbConverterWidget;
+}
+
+/**
+ * The page of the dB converter: a tab for powers and one for voltages, each reading as a fraction
+ * that equals a ratio and corresponds to a value in dB. Typing hands the text to the model, leaving
+ * a field or pressing Return starts the model's calculation from it, and what the model changes is
+ * written back. The page computes nothing.
+ */
+class DbConverterWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DbConverterWidget(QWidget *parent = nullptr);
+    ~DbConverterWidget() override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void on_mainTab_currentChanged(int index);
+
+    void on_p1LineEdit_editingFinished();
+    void on_p2LineEdit_editingFinished();
+    void on_pRatioLineEdit_editingFinished();
+    void on_pDbLineEdit_editingFinished();
+    void on_p1LineEdit_textEdited(const QString &arg1);
+    void on_p2LineEdit_textEdited(const QString &arg1);
+    void on_pRatioLineEdit_textEdited(const QString &arg1);
+    void on_pDbLineEdit_textEdited(const QString &arg1);
+
+    void on_v1LineEdit_editingFinished();
+    void on_v2LineEdit_editingFinished();
+    void on_vRatioLineEdit_editingFinished();
+    void on_vDbLineEdit_editingFinished();
+    void on_v1LineEdit_textEdited(const QString &arg1);
+    void on_v2LineEdit_textEdited(const QString &arg1);
+    void on_vRatioLineEdit_textEdited(const QString &arg1);
+    void on_vDbLineEdit_textEdited(const QString &arg1);
+
+    void onCurrentModeChanged();
+    void onP1Changed();
+    void onP2Changed();
+    void onPRatioChanged();
+    void onPDbChanged();
+    void onV1Changed();
+    void onV2Changed();
+    void onVRatioChanged();
+    void onVDbChanged();
+
+private:
+    void connectModel();
+    void showModel();
+
+    const std::unique_ptr<Ui::DbConverterWidget> m_ui;
+    DbConverterProfile *const m_profile;
+};
+
+#endif

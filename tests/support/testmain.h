@@ -41,13 +41,13 @@ public:
 int runTestStrictly(QObject &test, int argc, char **argv);
 
 /// The main function of a test: @p Application is QCoreApplication for logic, QApplication for
-/// widgets.
-template <typename Application, typename Test>
-int runTestMain(int argc, char **argv)
+/// widgets; @p rest is what its constructor takes beyond the command line.
+template <typename Application, typename Test, typename... Rest>
+int runTestMain(int argc, char **argv, Rest... rest)
 {
     const TestHome home;
     auto pause = std::make_unique<LeakCheckPause>();
-    Application application(argc, argv);
+    Application application(argc, argv, rest...);
     pause.reset();
     application.setApplicationName(QStringLiteral("Dezimo"));
     application.setOrganizationName(QStringLiteral("Vantrel"));

@@ -1,0 +1,270 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelapplication.h"
+#include "mainprofile.h"
+#include "mainwindow.h"
+#include "testmain.h"
+
+#include <QAction>
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+class CalculationFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void saveAsksWithTodaysDate();
+    void saveWritesAllGroups();
+    void saveAddsTheExtension();
+    void openAsksForAnExistingFile();
+    void openRestoresTheModulesAndLeavesTheWindow();
+    void aCancelledDialogDoesNothing_data();
+    void aCancelledDialogDoesNothing();
+    void aFileThatHoldsNothingGivesTheDefaults_data();
+    void aFileThatHoldsNothingGivesTheDefaults();
+    void aMalformedKeyLeavesItsNeighbors();
+    void loadDefaultsKeepsTheWindow();
+
+private:
+    using DialogAction = std::function<void(QFileDialog &)>;
+    /// Triggers the action, which opens a modal dialog, and does @p answer to that dialog.
+    void trigger(const char *action, const DialogAction &answer);
+    static void choose(QFileDialog &dialog, const QString &fileName);
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QString fieldText(const char *name) const;
+    void typeExample();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void CalculationFilesTest::init()
+{
+    QSettings settings;
+    settings.clear();
+    MainProfile::instance().loadSettings(settings);
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void CalculationFilesTest::cleanup()
+{
+    m_window.reset();
+}
+
+void CalculationFilesTest::trigger(const char *action, const DialogAction &answer)
+{
+    bool answered = false;
+    QTimer::singleShot(0, m_window.get(), [&answer, &answered] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        answered = true;
+        answer(*dialog);
+    });
+    m_window->findChild<QAction *>(QLatin1String(action))->trigger();
+    QVERIFY(answered);
+}
+
+void CalculationFilesTest::choose(QFileDialog &dialog, const QString &fileName)
+{
+    auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    name->setText(fileName);
+    static_cast<QDialog &>(dialog).accept();
+}
+
+QString CalculationFilesTest::fieldText(const char *name) const
+{
+    return m_window->findChild<QLineEdit *>(QLatin1String(name))->text();
+}
+
+void CalculationFilesTest::typeExample()
+{
+    DbConverterProfile &model = MainProfile::instance().dbConverter();
+    model.setP1(QStringLiteral("10dBm"));
+    model.setP2(QStringLiteral("0dBm"));
+    model.calculateFromP1();
+    model.setCurrentMode(1);
+}
+
+void CalculationFilesTest::saveAsksWithTodaysDate()
+{
+    const QString today = QDate::currentDate().toString(Qt::ISODate);
+    trigger("actionSave", [this, &today](QFileDialog &dialog) {
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Save dB Calulation ..."));
+        QCOMPARE(dialog.parentWidget(), m_window.get());
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("dB Calulation (*.dezimo)")));
+        QCOMPARE(dialog.selectedNameFilter(), QStringLiteral("dB Calulation (*.dezimo)"));
+        QCOMPARE(dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
+                 today + QStringLiteral(".dezimo"));
+        dialog.reject();
+    });
+}
+
+void CalculationFilesTest::saveWritesAllGroups()
+{
+    typeExample();
+    const QString name = path("a.dezimo");
+    trigger("actionSave", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    const QSettings file(name, QSettings::IniFormat);
+    QStringList groups = file.childGroups();
+    groups.sort();
+    QCOMPARE(
+        groups,
+        QStringList({QStringLiteral("DbConverterProfile"), QStringLiteral("DbmCalculatorProfile"),
+                     QStringLiteral("MainProfile"), QStringLiteral("UnitConverterProfile"),
+                     QStringLiteral("VoltageCalculatorProfile"),
+                     QStringLiteral("VswrConverterProfile")}));
+    QCOMPARE(file.value(QStringLiteral("DbConverterProfile/pDb")).toString(),
+             QStringLiteral("10.00"));
+}
+
+void CalculationFilesTest::saveAddsTheExtension()
+{
+    const QString name = path("chain");
+    trigger("actionSave", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    QVERIFY(QFileInfo::exists(path("chain.dezimo")));
+    QVERIFY(!QFileInfo::exists(name));
+}
+
+void CalculationFilesTest::openAsksForAnExistingFile()
+{
+    trigger("actionOpen", [this](QFileDialog &dialog) {
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Open dB Calulation ..."));
+        QCOMPARE(dialog.parentWidget(), m_window.get());
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("dB Calulation (*.dezimo)")));
+        dialog.reject();
+    });
+}
+
+void CalculationFilesTest::openRestoresTheModulesAndLeavesTheWindow()
+{
+    MainProfile &profile = MainProfile::instance();
+    typeExample();
+    profile.setDecimalPlaces(9);
+    profile.setCurrentModule(2);
+    const QString name = path("a.dezimo");
+    trigger("actionSave", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    {
+        QSettings file(name, QSettings::IniFormat);
+        file.setValue(QStringLiteral("MainProfile/windowPosition"), QPoint(77, 88));
+        file.setValue(QStringLiteral("MainProfile/windowMode"), 1);
+    }
+    m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
+    profile.setDecimalPlaces(4);
+    profile.setCurrentModule(3);
+    const QPoint position = m_window->pos();
+
+    trigger("actionOpen", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("10dBm"));
+    QCOMPARE(fieldText("p2LineEdit"), QStringLiteral("0dBm"));
+    QCOMPARE(fieldText("pRatioLineEdit"), QStringLiteral("10"));
+    QCOMPARE(fieldText("pDbLineEdit"), QStringLiteral("10.00"));
+    QCOMPARE(profile.dbConverter().currentMode(), 1);
+    QCOMPARE(profile.decimalPlaces(), 4);
+    QCOMPARE(profile.currentModule(), 3);
+    QCOMPARE(profile.windowMode(), 0);
+    QCOMPARE(m_window->pos(), position);
+}
+
+void CalculationFilesTest::aCancelledDialogDoesNothing_data()
+{
+    QTest::addColumn<QByteArray>("action");
+
+    QTest::newRow("Open...") << QByteArray("actionOpen");
+    QTest::newRow("Save...") << QByteArray("actionSave");
+}
+
+void CalculationFilesTest::aCancelledDialogDoesNothing()
+{
+    QFETCH(QByteArray, action);
+
+    typeExample();
+    trigger(action.constData(), [this](QFileDialog &dialog) {
+        dialog.setDirectory(m_folder->path());
+        dialog.reject();
+    });
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("10dBm"));
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void CalculationFilesTest::aFileThatHoldsNothingGivesTheDefaults_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::newRow("an empty file") << QByteArray();
+    QTest::newRow("binary noise") << QByteArray("\0\1\2\377\376[[[==\n\r\\x", 15);
+    QTest::newRow("a text that is no INI file") << QByteArray("Dear reader,\nthis is a letter.\n");
+    QTest::newRow("other groups") << QByteArray("[Other]\np1=5\n");
+}
+
+void CalculationFilesTest::aFileThatHoldsNothingGivesTheDefaults()
+{
+    QFETCH(QByteArray, bytes);
+
+    const QString name = path("a.dezimo");
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    typeExample();
+    trigger("actionOpen", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("pDbLineEdit"), QString());
+    QCOMPARE(MainProfile::instance().dbConverter().currentMode(), 0);
+}
+
+void CalculationFilesTest::aMalformedKeyLeavesItsNeighbors()
+{
+    const QString name = path("a.dezimo");
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[DbConverterProfile]\np1=@Point(1 2)\np2=7W\ncurrentMode=many\npRatio=1,2\n");
+    file.close();
+    typeExample();
+    trigger("actionOpen", [&name](QFileDialog &dialog) { choose(dialog, name); });
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("p2LineEdit"), QStringLiteral("7W"));
+    QCOMPARE(fieldText("pRatioLineEdit"), QString());
+    QCOMPARE(MainProfile::instance().dbConverter().currentMode(), 0);
+}
+
+void CalculationFilesTest::loadDefaultsKeepsTheWindow()
+{
+    MainProfile &profile = MainProfile::instance();
+    typeExample();
+    profile.setDecimalPlaces(8);
+    profile.setCurrentModule(3);
+    profile.setWindowMode(1);
+    m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("pDbLineEdit"), QString());
+    QCOMPARE(profile.dbConverter().pLatestRun(), 0);
+    QCOMPARE(profile.decimalPlaces(), 8);
+    QCOMPARE(profile.currentModule(), 3);
+    QCOMPARE(profile.windowMode(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    return runTestMain<KelApplication, CalculationFilesTest>(argc, argv, true);
+}
+
+#include "tst_calculationfiles.moc"

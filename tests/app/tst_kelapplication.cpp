@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelapplication.h"
+#include "stylesheets.h"
+#include "testmain.h"
+
+#include <QFontDatabase>
+#include <QLocale>
+#include <QTest>
+
+namespace {
+
+/// What was logged before the first test function ran.
+QStringList &startMessages()
+{
+    static QStringList messages;
+    return messages;
+}
+
+void collect(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    startMessages() += message;
+}
+
+} // namespace
+
+class KelApplicationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsInSilence();
+    void setsTheHighDpiEnvironmentAndAttributes();
+    void writesNumbersInEnglish();
+    void bringsBothFontFamilies_data();
+    void bringsBothFontFamilies();
+    void installsTheBrightStyleSheets();
+    void installsAnotherThemeOnRequest();
+    void hasEveryStyleSheet_data();
+    void hasEveryStyleSheet();
+    void thePanelHasNoDarkSheet();
+};
+
+void KelApplicationTest::startsInSilence()
+{
+    QCOMPARE(startMessages(), QStringList());
+}
+
+void KelApplicationTest::setsTheHighDpiEnvironmentAndAttributes()
+{
+    QCOMPARE(qgetenv("QT_AUTO_SCREEN_SCALE_FACTOR"), QByteArray("1"));
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+}
+
+void KelApplicationTest::writesNumbersInEnglish()
+{
+    QCOMPARE(QLocale().language(), QLocale::English);
+    QCOMPARE(QLocale().decimalPoint(), QLatin1Char('.'));
+}
+
+void KelApplicationTest::bringsBothFontFamilies_data()
+{
+    QTest::addColumn<QString>("family");
+
+    QTest::newRow("the family of most texts") << "Tessan";
+    QTest::newRow("the condensed family") << "TessanCd";
+}
+
+void KelApplicationTest::bringsBothFontFamilies()
+{
+    QFETCH(QString, family);
+
+    const QFontDatabase fonts;
+    QStringList styles = fonts.styles(family);
+    styles.sort();
+    QCOMPARE(styles, QStringList({QStringLiteral("Bold"), QStringLiteral("Italic"),
+                                  QStringLiteral("Light"), QStringLiteral("Regular")}));
+    QCOMPARE(QFontInfo(QFont(family)).family(), family);
+}
+
+void KelApplicationTest::installsTheBrightStyleSheets()
+{
+    QCOMPARE(qApp->styleSheet(), StyleSheets::combined(QStringLiteral(":/Global/Style/"), Bright));
+    QVERIFY(qApp->styleSheet().contains(QLatin1String("Tessan")));
+}
+
+void KelApplicationTest::installsAnotherThemeOnRequest()
+{
+    auto *application = qobject_cast<KelApplication *>(qApp);
+    application->installStyleSheet(Dark);
+    QCOMPARE(qApp->styleSheet(), StyleSheets::combined(QStringLiteral(":/Global/Style/"), Dark));
+    application->installStyleSheet(Bright);
+}
+
+void KelApplicationTest::hasEveryStyleSheet_data()
+{
+    QTest::addColumn<QString>("path");
+
+    for (const char *name : {"global", "qcheckbox", "qprogressbar", "kelmessagebox",
+                             "kelpanelwidget", "kelsettingsdialog", "keltogglebutton",
+                             "kelupdatedownloaddialog", "kelupdatenotifydialog"}) {
+        for (const char *suffix : {"", "_bright", "_dark"}) {
+            const QByteArray file = QByteArray(name) + suffix + ".qss";
+            if (file != "kelpanelwidget_dark.qss")
+                QTest::newRow(file.constData())
+                    << QLatin1String(":/Global/Style/") + QLatin1String(file);
+        }
+    }
+    QTest::newRow("main_light.qss") << ":/main_light.qss";
+    QTest::newRow("main_dark.qss") << ":/main_dark.qss";
+}
+
+void KelApplicationTest::hasEveryStyleSheet()
+{
+    QFETCH(QString, path);
+
+    const auto sheet = StyleSheets::read(path);
+    QVERIFY(sheet);
+    QVERIFY(!sheet->isEmpty());
+}
+
+void KelApplicationTest::thePanelHasNoDarkSheet()
+{
+    QVERIFY(!StyleSheets::read(QStringLiteral(":/Global/Style/kelpanelwidget_dark.qss")));
+}
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(collect);
+    return runTestMain<KelApplication, KelApplicationTest>(argc, argv, true);
+}
+
+#include "tst_kelapplication.moc"

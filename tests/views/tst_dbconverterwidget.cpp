@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "dbconverterwidget.h"
+#include "mainprofile.h"
+#include "testmain.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+
+class DbConverterWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void readsAsAFraction_data();
+    void readsAsAFraction();
+    void typingStoresTheTextAndForgetsTheLatestRun_data();
+    void typingStoresTheTextAndForgetsTheLatestRun();
+    void leavingAFieldCalculates_data();
+    void leavingAFieldCalculates();
+    void returnCalculates();
+    void leavingAFieldAgainCalculatesOnceOnly();
+    void leavingTheSecondOperandAgainCalculatesAgain();
+    void showsWhatTheModelHolds_data();
+    void showsWhatTheModelHolds();
+    void aNewPageShowsTheModelAtOnce();
+    void theTabIsKeptInTheModel();
+    void aLoadedModeTurnsTheTab();
+    void typingInTheMiddleKeepsTheCursor();
+    void tabWalksFromFieldToField();
+    void anErrorWordIsMarked();
+    void everyFieldHasANameForAScreenReader();
+    void aLanguageChangeKeepsTheFields();
+
+private:
+    QLineEdit *edit(const QString &name) const { return m_page->findChild<QLineEdit *>(name); }
+    QLineEdit *edit(const char *name) const { return edit(QLatin1String(name)); }
+    void show(int tab);
+
+    DbConverterProfile &m_model = MainProfile::instance().dbConverter();
+    std::unique_ptr<DbConverterWidget> m_page;
+};
+
+void DbConverterWidgetTest::init()
+{
+    QSettings none(QStringLiteral("none"), QString());
+    MainProfile::instance().loadModuleSettings(none);
+    m_page = std::make_unique<DbConverterWidget>();
+    show(0);
+}
+
+void DbConverterWidgetTest::cleanup()
+{
+    m_page.reset();
+}
+
+void DbConverterWidgetTest::show(int tab)
+{
+    m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->setCurrentIndex(tab);
+    m_page->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+}
+
+void DbConverterWidgetTest::readsAsAFraction_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("labels");
+
+    QTest::newRow("powers") << 0 << "Powers"
+                            << QStringList{QStringLiteral("P1"), QStringLiteral(" ="),
+                                           QStringLiteral("="), QStringLiteral("≙"),
+                                           QStringLiteral("P2")};
+    QTest::newRow("voltages") << 1 << "Voltages"
+                              << QStringList{QStringLiteral("V1"), QStringLiteral(" ="),
+                                             QStringLiteral("="), QStringLiteral("≙"),
+                                             QStringLiteral("V2")};
+}
+
+void DbConverterWidgetTest::readsAsAFraction()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, title);
+    QFETCH(QStringList, labels);
+
+    auto *tabs = m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"));
+    QCOMPARE(tabs->tabText(tab), title);
+    QStringList shown;
+    const QList<QLabel *> all = tabs->widget(tab)->findChildren<QLabel *>();
+    for (const QLabel *label : all) {
+        if (qobject_cast<QLineEdit *>(label->parentWidget()) == nullptr)
+            shown += label->text();
+    }
+    shown.sort();
+    labels.sort();
+    QCOMPARE(shown, labels);
+}
+
+void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun_data()
+{
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QByteArray>("latestRun");
+    QTest::addColumn<int>("tab");
+
+    for (const char *name : {"p1", "p2", "pRatio", "pDb"})
+        QTest::newRow(name) << QString::fromLatin1(name) << QByteArray("pLatestRun") << 0;
+    for (const char *name : {"v1", "v2", "vRatio", "vDb"})
+        QTest::newRow(name) << QString::fromLatin1(name) << QByteArray("vLatestRun") << 1;
+}
+
+void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun()
+{
+    QFETCH(QString, property);
+    QFETCH(QByteArray, latestRun);
+    QFETCH(int, tab);
+
+    show(tab);
+    m_model.setProperty(latestRun.constData(), 99);
+    QTest::keyClicks(edit(property + QLatin1String("LineEdit")), QStringLiteral("12"));
+    QCOMPARE(m_model.property(property.toLatin1().constData()).toString(), QStringLiteral("12"));
+    QCOMPARE(m_model.property(latestRun.constData()).toInt(), 0);
+    // Nothing is calculated before the field is left.
+    int filled = 0;
+    for (const char *name : {"p1", "p2", "pRatio", "pDb", "v1", "v2", "vRatio", "vDb"})
+        filled += m_model.property(name).toString().isEmpty() ? 0 : 1;
+    QCOMPARE(filled, 1);
+}
+
+void DbConverterWidgetTest::leavingAFieldCalculates_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("partner");
+    QTest::addColumn<QString>("partnerText");
+    QTest::addColumn<QString>("finished");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("resultText");
+
+    const auto row = [](const char *tag, int tab, const char *partner, const char *partnerText,
+                        const char *finished, const char *text, const char *result,
+                        const char *resultText) {
+        QTest::newRow(tag) << tab << QString::fromLatin1(partner)
+                           << QString::fromLatin1(partnerText) << QString::fromLatin1(finished)
+                           << QString::fromLatin1(text) << QString::fromLatin1(result)
+                           << QString::fromLatin1(resultText);
+    };
+    row("P1", 0, "p2", "0dBm", "p1", "10dBm", "pDb", "10.00");
+    row("P2", 0, "p1", "10dBm", "p2", "0dBm", "pRatio", "10");
+    row("power ratio", 0, "p2", "1W", "pRatio", "4", "p1", "4W");
+    row("power ratio in dB", 0, "p2", "1W", "pDb", "20", "p1", "100W");
+    row("V1", 1, "v2", "1", "v1", "10", "vDb", "20.00");
+    row("V2", 1, "v1", "10", "v2", "1", "vRatio", "10");
+    row("voltage ratio", 1, "v2", "2", "vRatio", "4", "v1", "8");
+    row("voltage ratio in dB", 1, "v2", "2", "vDb", "20", "v1", "20");
+}
+
+void DbConverterWidgetTest::leavingAFieldCalculates()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, partner);
+    QFETCH(QString, partnerText);
+    QFETCH(QString, finished);
+    QFETCH(QString, text);
+    QFETCH(QString, result);
+    QFETCH(QString, resultText);
+
+    show(tab);
+    const QString suffix = QStringLiteral("LineEdit");
+    m_model.setProperty(partner.toLatin1().constData(), partnerText);
+    edit(finished + suffix)->setFocus();
+    QTest::keyClicks(edit(finished + suffix), text);
+    QTest::keyClick(edit(finished + suffix), Qt::Key_Tab);
+    QCOMPARE(edit(result + suffix)->text(), resultText);
+}
+
+void DbConverterWidgetTest::returnCalculates()
+{
+    QTest::keyClicks(edit("pDbLineEdit"), QStringLiteral("3"));
+    QTest::keyClick(edit("pDbLineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("2"));
+}
+
+void DbConverterWidgetTest::leavingAFieldAgainCalculatesOnceOnly()
+{
+    m_model.setP2(QStringLiteral("1W"));
+    QTest::keyClicks(edit("p1LineEdit"), QStringLiteral("4W"));
+    QTest::keyClick(edit("p1LineEdit"), Qt::Key_Return);
+    m_model.setPRatio(QStringLiteral("changed"));
+    QTest::keyClick(edit("p1LineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("changed"));
+}
+
+void DbConverterWidgetTest::leavingTheSecondOperandAgainCalculatesAgain()
+{
+    m_model.setP1(QStringLiteral("4W"));
+    QTest::keyClicks(edit("p2LineEdit"), QStringLiteral("1W"));
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Return);
+    m_model.setPRatio(QStringLiteral("changed"));
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
+}
+
+void DbConverterWidgetTest::showsWhatTheModelHolds_data()
+{
+    QTest::addColumn<QByteArray>("property");
+
+    for (const char *name : {"p1", "p2", "pRatio", "pDb", "v1", "v2", "vRatio", "vDb"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+void DbConverterWidgetTest::showsWhatTheModelHolds()
+{
+    QFETCH(QByteArray, property);
+
+    QLineEdit *field = edit(QLatin1String(property) + QLatin1String("LineEdit"));
+    const QSignalSpy edited(field, &QLineEdit::textEdited);
+    m_model.setProperty(property.constData(), QStringLiteral("from the model"));
+    QCOMPARE(field->text(), QStringLiteral("from the model"));
+    QCOMPARE(edited.count(), 0);
+}
+
+void DbConverterWidgetTest::aNewPageShowsTheModelAtOnce()
+{
+    m_model.setV1(QStringLiteral("5"));
+    m_model.setCurrentMode(1);
+    const DbConverterWidget page;
+    QCOMPARE(page.findChild<QLineEdit *>(QStringLiteral("v1LineEdit"))->text(),
+             QStringLiteral("5"));
+    QCOMPARE(page.findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1);
+}
+
+void DbConverterWidgetTest::theTabIsKeptInTheModel()
+{
+    const QSignalSpy changed(&m_model, &DbConverterProfile::currentModeChanged);
+    show(1);
+    QCOMPARE(m_model.currentMode(), 1);
+    show(0);
+    QCOMPARE(m_model.currentMode(), 0);
+    QCOMPARE(changed.count(), 2);
+}
+
+void DbConverterWidgetTest::aLoadedModeTurnsTheTab()
+{
+    m_model.setCurrentMode(1);
+    QCOMPARE(m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1);
+    m_model.setCurrentMode(17); // no such tab: the page stays
+    QCOMPARE(m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1);
+}
+
+void DbConverterWidgetTest::typingInTheMiddleKeepsTheCursor()
+{
+    QLineEdit *field = edit("p1LineEdit");
+    QTest::keyClicks(field, QStringLiteral("15W"));
+    field->setCursorPosition(1);
+    QTest::keyClicks(field, QStringLiteral("23"));
+    QCOMPARE(field->text(), QStringLiteral("1235W"));
+    QCOMPARE(field->cursorPosition(), 3);
+}
+
+void DbConverterWidgetTest::tabWalksFromFieldToField()
+{
+    for (const auto &names : {QStringList{QStringLiteral("p1"), QStringLiteral("p2"),
+                                          QStringLiteral("pRatio"), QStringLiteral("pDb")},
+                              QStringList{QStringLiteral("v1"), QStringLiteral("v2"),
+                                          QStringLiteral("vRatio"), QStringLiteral("vDb")}}) {
+        show(names.first().startsWith(QLatin1Char('v')) ? 1 : 0);
+        edit(names.first() + QLatin1String("LineEdit"))->setFocus();
+        for (int i = 1; i < names.size(); ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget(), edit(names.at(i) + QLatin1String("LineEdit")));
+        }
+    }
+}
+
+void DbConverterWidgetTest::anErrorWordIsMarked()
+{
+    QTest::keyClicks(edit("p1LineEdit"), QStringLiteral("abc"));
+    QTest::keyClick(edit("p1LineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("p1LineEdit")->text(), QStringLiteral("invalid input"));
+    QCOMPARE(edit("p1LineEdit")->property("error").toBool(), true);
+    QCOMPARE(edit("p2LineEdit")->property("error").toBool(), false);
+}
+
+void DbConverterWidgetTest::everyFieldHasANameForAScreenReader()
+{
+    const QList<QLineEdit *> edits = m_page->findChildren<QLineEdit *>();
+    QCOMPARE(edits.size(), 8);
+    QStringList names;
+    for (const QLineEdit *field : edits) {
+        QVERIFY(!field->accessibleName().isEmpty());
+        names += field->accessibleName();
+    }
+    QCOMPARE(names.removeDuplicates(), 0);
+}
+
+void DbConverterWidgetTest::aLanguageChangeKeepsTheFields()
+{
+    m_model.setP1(QStringLiteral("1W"));
+    m_model.setVDb(QStringLiteral("6.02"));
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m_page.get(), &change);
+    QCOMPARE(edit("p1LineEdit")->text(), QStringLiteral("1W"));
+    QCOMPARE(edit("vDbLineEdit")->text(), QStringLiteral("6.02"));
+}
+
+DEZIMO_TEST_MAIN(QApplication, DbConverterWidgetTest)
+
+#include "tst_dbconverterwidget.moc"

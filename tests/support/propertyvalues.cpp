@@ -6,6 +6,8 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 
+#include <utility>
+
 namespace {
 
 QMetaProperty propertyNamed(const QObject &object, const QByteArray &name)
@@ -62,16 +64,14 @@ QStringList signalNames(const QMetaObject &type)
 ChangeLog::ChangeLog(const QObject &object) : m_object(object)
 {
     const QMetaObject *type = object.metaObject();
-    const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
+    const int slot = metaObject()->indexOfSlot("note()");
     for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
-        connect(&object, type->property(i).notifySignal(), this, slot);
+        QMetaObject::connect(&object, type->property(i).notifySignalIndex(), this, slot);
 }
 
 QStringList ChangeLog::take()
 {
-    const QStringList names = m_names;
-    m_names.clear();
-    return names;
+    return std::exchange(m_names, QStringList());
 }
 
 void ChangeLog::note()

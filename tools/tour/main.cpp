@@ -11,8 +11,23 @@
 
 #include <cstdio>
 
+namespace {
+
+/// Qt's offscreen platform says this of every window with a smallest size. All else is passed on.
+const char kOffscreenSizeHints[] = "This plugin does not support propagateSizeHints()";
+QtMessageHandler passOn = nullptr;
+
+void dropSizeHints(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message != QLatin1String(kOffscreenSizeHints))
+        passOn(type, context, message);
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    passOn = qInstallMessageHandler(dropSizeHints);
     KelApplication application(argc, argv, true);
     Identity::apply();
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {

@@ -1,0 +1,218 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "unitconverterwidget.h"
+
+#include "ui_unitconverterwidget.h"
+
+#include "errortexts.h"
+#include "fieldtext.h"
+#include "mainprofile.h"
+
+#include <QEvent>
+#include <QPushButton>
+
+UnitConverterWidget::UnitConverterWidget(QWidget *parent)
+    : QWidget(parent),
+      m_ui(std::make_unique<Ui::UnitConverterWidget>()),
+      m_profile(&MainProfile::instance().unitConverter())
+{
+    m_ui->setupUi(this);
+    m_ui->impedanceLineEdit->setSuffixText(QStringLiteral("Ω"));
+    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
+    for (KelLineEdit *field : fields)
+        field->setErrorTexts(ErrorText::all());
+    addVoltageModes();
+    showProfile();
+}
+
+UnitConverterWidget::~UnitConverterWidget() = default;
+
+void UnitConverterWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(this);
+}
+
+/// The buttons of the switch exist only now, so they take their place in the tab order here.
+void UnitConverterWidget::addVoltageModes()
+{
+    m_ui->vModeToggle->addItems(
+        {QStringLiteral("Vrms"), QStringLiteral("Vpp"), QStringLiteral("Vavg")});
+    m_ui->vModeToggle->setCurrentIndex(0);
+    connect(m_ui->vModeToggle, &KelToggleButton::currentIndexChanged, this,
+            &UnitConverterWidget::onVModeToggle_currentIndexChanged);
+
+    QWidget *previous = m_ui->impedanceLineEdit;
+    const QList<QPushButton *> buttons = m_ui->vModeToggle->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        setTabOrder(previous, button);
+        previous = button;
+    }
+}
+
+/// Shows every value of the model, now and whenever it changes.
+void UnitConverterWidget::showProfile()
+{
+    using Model = UnitConverterProfile;
+    using View = UnitConverterWidget;
+    const struct
+    {
+        void (Model::*changed)();
+        void (View::*show)();
+    } values[] = {
+        {&Model::logPowerChanged, &View::onLogPowerChanged},
+        {&Model::linPowerChanged, &View::onLinPowerChanged},
+        {&Model::logVoltageChanged, &View::onLogVoltageChanged},
+        {&Model::linVoltageChanged, &View::onLinVoltageChanged},
+        {&Model::logPowerUnitChanged, &View::onLogPowerUnitChanged},
+        {&Model::linPowerUnitChanged, &View::onLinPowerUnitChanged},
+        {&Model::logVoltageUnitChanged, &View::onLogVoltageUnitChanged},
+        {&Model::linVoltageUnitChanged, &View::onLinVoltageUnitChanged},
+        {&Model::impedanceChanged, &View::onImpedanceChanged},
+        {&Model::voltageModeChanged, &View::onVoltageModeChanged},
+    };
+    for (const auto &value : values) {
+        connect(m_profile, value.changed, this, value.show);
+        (this->*value.show)();
+    }
+}
+
+void UnitConverterWidget::on_dbmLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setLogPower(arg1);
+}
+
+void UnitConverterWidget::on_wattLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setLinPower(arg1);
+}
+
+void UnitConverterWidget::on_voltLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setLinVoltage(arg1);
+}
+
+void UnitConverterWidget::on_dbvLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setLogVoltage(arg1);
+}
+
+void UnitConverterWidget::on_impedanceLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setImpedance(arg1);
+}
+
+void UnitConverterWidget::on_dbmLineEdit_editingFinished()
+{
+    m_profile->calculateFromLogPower();
+}
+
+void UnitConverterWidget::on_wattLineEdit_editingFinished()
+{
+    m_profile->calculateFromLinPower();
+}
+
+void UnitConverterWidget::on_voltLineEdit_editingFinished()
+{
+    m_profile->calculateFromLinVoltage();
+}
+
+void UnitConverterWidget::on_dbvLineEdit_editingFinished()
+{
+    m_profile->calculateFromLogVoltage();
+}
+
+void UnitConverterWidget::on_impedanceLineEdit_editingFinished()
+{
+    m_profile->clearAll();
+}
+
+void UnitConverterWidget::on_dbmUnitComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile->logPowerUnit())
+        return;
+    m_profile->setLogPowerUnit(index);
+    m_profile->rescaleLogPower();
+}
+
+void UnitConverterWidget::on_wattUnitComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile->linPowerUnit())
+        return;
+    m_profile->setLinPowerUnit(index);
+    m_profile->rescaleLinPower();
+}
+
+void UnitConverterWidget::on_voltUnitComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile->linVoltageUnit())
+        return;
+    m_profile->setLinVoltageUnit(index);
+    m_profile->rescaleLinVoltage();
+}
+
+void UnitConverterWidget::on_dbvUnitComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile->logVoltageUnit())
+        return;
+    m_profile->setLogVoltageUnit(index);
+    m_profile->rescaleLogVoltage();
+}
+
+void UnitConverterWidget::onVModeToggle_currentIndexChanged(int index)
+{
+    m_profile->setVoltageMode(index);
+    m_profile->calculateFromLinPower();
+}
+
+void UnitConverterWidget::onLogPowerChanged()
+{
+    showFieldText(m_ui->dbmLineEdit, m_profile->logPower());
+}
+
+void UnitConverterWidget::onLinPowerChanged()
+{
+    showFieldText(m_ui->wattLineEdit, m_profile->linPower());
+}
+
+void UnitConverterWidget::onLogVoltageChanged()
+{
+    showFieldText(m_ui->dbvLineEdit, m_profile->logVoltage());
+}
+
+void UnitConverterWidget::onLinVoltageChanged()
+{
+    showFieldText(m_ui->voltLineEdit, m_profile->linVoltage());
+}
+
+void UnitConverterWidget::onLogPowerUnitChanged()
+{
+    m_ui->dbmUnitComboBox->setCurrentIndex(m_profile->logPowerUnit());
+}
+
+void UnitConverterWidget::onLinPowerUnitChanged()
+{
+    m_ui->wattUnitComboBox->setCurrentIndex(m_profile->linPowerUnit());
+}
+
+void UnitConverterWidget::onLogVoltageUnitChanged()
+{
+    m_ui->dbvUnitComboBox->setCurrentIndex(m_profile->logVoltageUnit());
+}
+
+void UnitConverterWidget::onLinVoltageUnitChanged()
+{
+    m_ui->voltUnitComboBox->setCurrentIndex(m_profile->linVoltageUnit());
+}
+
+void UnitConverterWidget::onImpedanceChanged()
+{
+    showFieldText(m_ui->impedanceLineEdit, m_profile->impedance());
+}
+
+void UnitConverterWidget::onVoltageModeChanged()
+{
+    m_ui->vModeToggle->setCurrentIndex(m_profile->voltageMode());
+}

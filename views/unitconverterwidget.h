@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VIEWS_UNITCONVERTERWIDGET_H
+#define VIEWS_UNITCONVERTERWIDGET_H
+
+#include <QWidget>
+
+#include <memory>
+
+class UnitConverterProfile;
+
+namespace Ui {
+class UnitConverterWidget;
+}
+
+/**
+ * The page of the unit converter: the four linked values with their units, the load impedance and
+ * the voltage mode. Typing stores a text in the model; leaving a field calculates from it. The page
+ * computes nothing itself and shows whatever the model holds.
+ *
+ * A finished impedance empties the four values instead of converting them; that is meant. A unit
+ * that the model changed by itself, as after loading, is only shown: its text stands in it already.
+ */
+class UnitConverterWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit UnitConverterWidget(QWidget *parent = nullptr);
+    ~UnitConverterWidget() override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void on_dbmLineEdit_textEdited(const QString &arg1);
+    void on_wattLineEdit_textEdited(const QString &arg1);
+    void on_voltLineEdit_textEdited(const QString &arg1);
+    void on_dbvLineEdit_textEdited(const QString &arg1);
+    void on_impedanceLineEdit_textEdited(const QString &arg1);
+
+    void on_dbmLineEdit_editingFinished();
+    void on_wattLineEdit_editingFinished();
+    void on_voltLineEdit_editingFinished();
+    void on_dbvLineEdit_editingFinished();
+    void on_impedanceLineEdit_editingFinished();
+
+    void on_dbmUnitComboBox_currentIndexChanged(int index);
+    void on_wattUnitComboBox_currentIndexChanged(int index);
+    void on_voltUnitComboBox_currentIndexChanged(int index);
+    void on_dbvUnitComboBox_currentIndexChanged(int index);
+    void onVModeToggle_currentIndexChanged(int index);
+
+    void onLogPowerChanged();
+    void onLinPowerChanged();
+    void onLogVoltageChanged();
+    void onLinVoltageChanged();
+    void onLogPowerUnitChanged();
+    void onLinPowerUnitChanged();
+    void onLogVoltageUnitChanged();
+    void onLinVoltageUnitChanged();
+    void onImpedanceChanged();
+    void onVoltageModeChanged();
+
+private:
+    void addVoltageModes();
+    void showProfile();
+
+    const std::unique_ptr<Ui::UnitConverterWidget> m_ui;
+    UnitConverterProfile *const m_profile;
+};
+
+#endif

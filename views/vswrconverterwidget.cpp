@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "vswrconverterwidget.h"
+
+#include "ui_vswrconverterwidget.h"
+
+#include "errortexts.h"
+#include "fieldtext.h"
+#include "mainprofile.h"
+
+#include <QEvent>
+
+VswrConverterWidget::VswrConverterWidget(QWidget *parent)
+    : QWidget(parent),
+      m_ui(std::make_unique<Ui::VswrConverterWidget>()),
+      m_profile(&MainProfile::instance().vswrConverter())
+{
+    m_ui->setupUi(this);
+    setUpFields();
+    connectCalculations();
+    showProfile();
+}
+
+VswrConverterWidget::~VswrConverterWidget() = default;
+
+void VswrConverterWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(this);
+}
+
+void VswrConverterWidget::setUpFields()
+{
+    m_ui->vswrLineEdit->setPrefixText(QStringLiteral("1 : "));
+    m_ui->r2LineEdit->setSuffixText(QStringLiteral("%"));
+    m_ui->arLineEdit->setSuffixText(QStringLiteral("dB"));
+    m_ui->amLineEdit->setSuffixText(QStringLiteral("dB"));
+    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
+    for (KelLineEdit *field : fields)
+        field->setErrorTexts(ErrorText::all());
+}
+
+/// Leaving a field, or Enter in it, calculates from its row.
+void VswrConverterWidget::connectCalculations()
+{
+    using Model = VswrConverterProfile;
+    const struct
+    {
+        const KelLineEdit *field;
+        void (Model::*calculate)();
+    } rows[] = {
+        {m_ui->vswrLineEdit, &Model::calculateFromVswr},
+        {m_ui->rLineEdit, &Model::calculateFromR},
+        {m_ui->r2LineEdit, &Model::calculateFromR2},
+        {m_ui->arLineEdit, &Model::calculateFromAr},
+        {m_ui->amLineEdit, &Model::calculateFromAm},
+        {m_ui->forwardPowerLineEdit, &Model::calculateFromPForward},
+        {m_ui->reflectedPowerLineEdit, &Model::calculateFromPReflected},
+        {m_ui->absorbedPowerLineEdit, &Model::calculateFromPAbsorbed},
+        {m_ui->forwardVoltageLineEdit, &Model::calculateFromVForward},
+        {m_ui->reflectedVoltageLineEdit, &Model::calculateFromVReflected},
+        {m_ui->absorbedVoltageLineEdit, &Model::calculateFromVAbsorbed},
+    };
+    for (const auto &row : rows)
+        connect(row.field, &KelLineEdit::editingFinished, m_profile, row.calculate);
+}
+
+/// Shows every value of the model, now and whenever it changes.
+void VswrConverterWidget::showProfile()
+{
+    using Model = VswrConverterProfile;
+    using View = VswrConverterWidget;
+    const struct
+    {
+        void (Model::*changed)();
+        void (View::*show)();
+    } values[] = {
+        {&Model::vswrChanged, &View::onVswrChanged},
+        {&Model::rChanged, &View::onRChanged},
+        {&Model::r2Changed, &View::onR2Changed},
+        {&Model::arChanged, &View::onArChanged},
+        {&Model::amChanged, &View::onAmChanged},
+        {&Model::pForwardChanged, &View::onPForwardChanged},
+        {&Model::pReflectedChanged, &View::onPReflectedChanged},
+        {&Model::pAbsorbedChanged, &View::onPAbsorbedChanged},
+        {&Model::vForwardChanged, &View::onVForwardChanged},
+        {&Model::vReflectedChanged, &View::onVReflectedChanged},
+        {&Model::vAbsorbedChanged, &View::onVAbsorbedChanged},
+        {&Model::pForwardUnitChanged, &View::onPForwardUnitChanged},
+        {&Model::pReflectedUnitChanged, &View::onPReflectedUnitChanged},
+        {&Model::pAbsorbedUnitChanged, &View::onPAbsorbedUnitChanged},
+        {&Model::vForwardUnitChanged, &View::onVForwardUnitChanged},
+        {&Model::vReflectedUnitChanged, &View::onVReflectedUnitChanged},
+        {&Model::vAbsorbedUnitChanged, &View::onVAbsorbedUnitChanged},
+        {&Model::currentModeChanged, &View::onCurrentModeChanged},
+    };
+    for (const auto &value : values) {
+        connect(m_profile, value.changed, this, value.show);
+        (this->*value.show)();
+    }
+}
+
+void VswrConverterWidget::on_vswrLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setVswr(arg1);
+}
+
+void VswrConverterWidget::on_rLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setR(arg1);
+}
+
+void VswrConverterWidget::on_r2LineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setR2(arg1);
+}
+
+void VswrConverterWidget::on_arLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setAr(arg1);
+}
+
+void VswrConverterWidget::on_amLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setAm(arg1);
+}
+
+void VswrConverterWidget::on_forwardPowerLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setPForward(arg1);
+}
+
+void VswrConverterWidget::on_reflectedPowerLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setPReflected(arg1);
+}
+
+void VswrConverterWidget::on_absorbedPowerLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setPAbsorbed(arg1);
+}
+
+void VswrConverterWidget::on_forwardVoltageLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setVForward(arg1);
+}
+
+void VswrConverterWidget::on_reflectedVoltageLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setVReflected(arg1);
+}
+
+void VswrConverterWidget::on_absorbedVoltageLineEdit_textEdited(const QString &arg1)
+{
+    m_profile->setVAbsorbed(arg1);
+}
+
+void VswrConverterWidget::on_forwardPowerUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setPForwardUnit(index);
+}
+
+void VswrConverterWidget::on_reflectedPowerUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setPReflectedUnit(index);
+}
+
+void VswrConverterWidget::on_absorbedPowerUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setPAbsorbedUnit(index);
+}
+
+void VswrConverterWidget::on_forwardVoltageUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setVForwardUnit(index);
+}
+
+void VswrConverterWidget::on_reflectedVoltageUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setVReflectedUnit(index);
+}
+
+void VswrConverterWidget::on_absorbedVoltageUnitComboBox_currentIndexChanged(int index)
+{
+    m_profile->setVAbsorbedUnit(index);
+}
+
+void VswrConverterWidget::on_mainTab_currentChanged(int index)
+{
+    m_profile->setCurrentMode(index);
+}
+
+void VswrConverterWidget::onVswrChanged()
+{
+    showFieldText(m_ui->vswrLineEdit, m_profile->vswr());
+}
+
+void VswrConverterWidget::onRChanged()
+{
+    showFieldText(m_ui->rLineEdit, m_profile->r());
+}
+
+void VswrConverterWidget::onR2Changed()
+{
+    showFieldText(m_ui->r2LineEdit, m_profile->r2());
+}
+
+void VswrConverterWidget::onArChanged()
+{
+    showFieldText(m_ui->arLineEdit, m_profile->ar());
+}
+
+void VswrConverterWidget::onAmChanged()
+{
+    showFieldText(m_ui->amLineEdit, m_profile->am());
+}
+
+void VswrConverterWidget::onPForwardChanged()
+{
+    showFieldText(m_ui->forwardPowerLineEdit, m_profile->pForward());
+}
+
+void VswrConverterWidget::onPReflectedChanged()
+{
+    showFieldText(m_ui->reflectedPowerLineEdit, m_profile->pReflected());
+}
+
+void VswrConverterWidget::onPAbsorbedChanged()
+{
+    showFieldText(m_ui->absorbedPowerLineEdit, m_profile->pAbsorbed());
+}
+
+void VswrConverterWidget::onVForwardChanged()
+{
+    showFieldText(m_ui->forwardVoltageLineEdit, m_profile->vForward());
+}
+
+void VswrConverterWidget::onVReflectedChanged()
+{
+    showFieldText(m_ui->reflectedVoltageLineEdit, m_profile->vReflected());
+}
+
+void VswrConverterWidget::onVAbsorbedChanged()
+{
+    showFieldText(m_ui->absorbedVoltageLineEdit, m_profile->vAbsorbed());
+}
+
+void VswrConverterWidget::onPForwardUnitChanged()
+{
+    m_ui->forwardPowerUnitComboBox->setCurrentIndex(m_profile->pForwardUnit());
+}
+
+void VswrConverterWidget::onPReflectedUnitChanged()
+{
+    m_ui->reflectedPowerUnitComboBox->setCurrentIndex(m_profile->pReflectedUnit());
+}
+
+void VswrConverterWidget::onPAbsorbedUnitChanged()
+{
+    m_ui->absorbedPowerUnitComboBox->setCurrentIndex(m_profile->pAbsorbedUnit());
+}
+
+void VswrConverterWidget::onVForwardUnitChanged()
+{
+    m_ui->forwardVoltageUnitComboBox->setCurrentIndex(m_profile->vForwardUnit());
+}
+
+void VswrConverterWidget::onVReflectedUnitChanged()
+{
+    m_ui->reflectedVoltageUnitComboBox->setCurrentIndex(m_profile->vReflectedUnit());
+}
+
+void VswrConverterWidget::onVAbsorbedUnitChanged()
+{
+    m_ui->absorbedVoltageUnitComboBox->setCurrentIndex(m_profile->vAbsorbedUnit());
+}
+
+void VswrConverterWidget::onCurrentModeChanged()
+{
+    m_ui->mainTab->setCurrentIndex(m_profile->currentMode());
+}

@@ -26,7 +26,12 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     showProfile();
 }
 
-UnitConverterWidget::~UnitConverterWidget() = default;
+/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
+/// happen while form and slots are still there.
+UnitConverterWidget::~UnitConverterWidget()
+{
+    hide();
+}
 
 void UnitConverterWidget::changeEvent(QEvent *event)
 {

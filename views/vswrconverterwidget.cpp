@@ -22,7 +22,12 @@ VswrConverterWidget::VswrConverterWidget(QWidget *parent)
     showProfile();
 }
 
-VswrConverterWidget::~VswrConverterWidget() = default;
+/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
+/// happen while form and slots are still there.
+VswrConverterWidget::~VswrConverterWidget()
+{
+    hide();
+}
 
 void VswrConverterWidget::changeEvent(QEvent *event)
 {

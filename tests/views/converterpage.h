@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTS_VIEWS_CONVERTERPAGE_H
+#define TESTS_VIEWS_CONVERTERPAGE_H
+
+#include <QStringList>
+#include <QWidget>
+
+class KelLineEdit;
+class QComboBox;
+class QLabel;
+
+/**
+ * A converter's page as a person meets it: shown, active, and operated by keys. Widgets are found
+ * by their object name; a name that is missing, or that stands for another kind of widget, ends the
+ * test.
+ */
+class ConverterPage
+{
+public:
+    /// Shows @p page at the size that the main window gives it at first.
+    explicit ConverterPage(QWidget &page);
+
+    template <typename Widget>
+    Widget &child(const QString &name) const
+    {
+        auto *found = m_page.findChild<Widget *>(name);
+        if (!found)
+            qFatal("no such widget: %s", qPrintable(name));
+        return *found;
+    }
+    KelLineEdit &field(const QString &name) const;
+    QComboBox &combo(const QString &name) const;
+    QLabel &label(const QString &name) const;
+
+    void focus(const QString &name) const;
+    /// Replaces the text of the field by typing, and stays in it.
+    void type(const QString &name, const QString &text) const;
+    /// Goes to the selector and presses @p key there @p times times.
+    void press(const QString &name, Qt::Key key, int times = 1) const;
+
+    /// What the Tab key visits from the widget @p first until it is back there: object names, or
+    /// the text of a button that has none.
+    QStringList tabStops(const QString &first) const;
+    QStringList items(const QString &combo) const;
+    /// The texts of all fields in tab order, hidden ones too, with " | " between them.
+    QString fieldTexts() const;
+
+private:
+    QWidget &m_page;
+};
+
+/// Brings all models back to what they hold at the first start.
+void loadDefaults();
+/// Loads all modules from a calculation file with these lines.
+void loadFile(const QStringList &lines);
+/// Gives the application the fonts and the style sheets of the bright theme.
+void useProgramStyle();
+
+#endif

@@ -1,0 +1,413 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "converterpage.h"
+#include "kellineedit.h"
+#include "keltogglebutton.h"
+#include "mainprofile.h"
+#include "propertyvalues.h"
+#include "testmain.h"
+#include "unitconverterwidget.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+class UnitConverterWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void startsWithTheDefaults();
+    void showsWhatTheModelHeldBefore();
+
+    void typingOnlyStores_data();
+    void typingOnlyStores();
+    void typingKeepsTheCursor();
+    void finishingCalculates_data();
+    void finishingCalculates();
+    void aWrongNumberLooksLikeAnError();
+    void finishingTheImpedanceEmptiesTheValues_data();
+    void finishingTheImpedanceEmptiesTheValues();
+
+    void aChosenUnitRewritesItsFieldOnly_data();
+    void aChosenUnitRewritesItsFieldOnly();
+    void aMirroredUnitRewritesNothing_data();
+    void aMirroredUnitRewritesNothing();
+    void aChosenModeCalculatesFromTheLinearPower_data();
+    void aChosenModeCalculatesFromTheLinearPower();
+    void aMirroredModeCalculatesNothing();
+    void aLoadedFileIsShownAsItIs();
+    void aChangeOfLanguageKeepsEveryField();
+    void finishesTheEditWhenItGoes();
+
+private:
+    ConverterPage open();
+    void focusMode(const QString &text) const;
+    QStringList lines(const PropertyValues &changes = {}) const
+    {
+        return propertyLines(m_model, changes);
+    }
+
+    UnitConverterProfile &m_model = MainProfile::instance().unitConverter();
+    std::unique_ptr<UnitConverterWidget> m_page;
+};
+
+namespace {
+
+const QString kFirstField = QStringLiteral("dbmLineEdit");
+
+/// 10 mW, 500 mV and 0 dBV do not belong together, so that a calculation would be seen.
+const PropertyValues kUnrelatedValues{
+    {"logPower", "10.00"}, {"linPower", "1"}, {"linVoltage", "500"}, {"logVoltage", "0.00"}};
+
+const PropertyValues kLoadedValues{
+    {"logPower", "1.234"}, {"linPower", "2.345"}, {"logVoltage", "3.456"}, {"linVoltage", "4.567"},
+    {"logPowerUnit", 1},   {"linPowerUnit", 1},   {"logVoltageUnit", 2},   {"linVoltageUnit", 1},
+    {"impedance", "75"},   {"voltageMode", 1}};
+
+const PropertyValues kOtherSelections{{"logPowerUnit", 1},   {"linPowerUnit", 1},
+                                      {"logVoltageUnit", 2}, {"linVoltageUnit", 1},
+                                      {"impedance", "75"},   {"voltageMode", 2}};
+
+} // namespace
+
+void UnitConverterWidgetTest::init()
+{
+    loadDefaults();
+}
+
+void UnitConverterWidgetTest::cleanup()
+{
+    m_page.reset();
+}
+
+ConverterPage UnitConverterWidgetTest::open()
+{
+    m_page = std::make_unique<UnitConverterWidget>();
+    return ConverterPage(*m_page);
+}
+
+void UnitConverterWidgetTest::focusMode(const QString &text) const
+{
+    const QList<QPushButton *> buttons =
+        m_page->findChild<KelToggleButton *>()->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text() == text)
+            button->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void UnitConverterWidgetTest::startsWithTheDefaults()
+{
+    const ConverterPage page = open();
+    const auto &suffix = page.field(QStringLiteral("impedanceLineEdit"));
+    QCOMPARE(suffix.findChild<QLabel *>(QStringLiteral("suffixLabel"))->text(),
+             QStringLiteral("Ω"));
+    QCOMPARE(page.fieldTexts(), QStringLiteral(" |  | 50 |  | "));
+}
+
+void UnitConverterWidgetTest::showsWhatTheModelHeldBefore()
+{
+    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, kOtherSelections);
+    const QStringList before = lines();
+    const ConverterPage page = open();
+    QCOMPARE(lines(), before);
+    QCOMPARE(page.fieldTexts(), QStringLiteral("10.00 | 1 | 75 | 0.00 | 500"));
+    QCOMPARE(page.combo(QStringLiteral("dbmUnitComboBox")).currentIndex(), 1);
+    QCOMPARE(page.combo(QStringLiteral("wattUnitComboBox")).currentIndex(), 1);
+    QCOMPARE(page.combo(QStringLiteral("dbvUnitComboBox")).currentIndex(), 2);
+    QCOMPARE(page.combo(QStringLiteral("voltUnitComboBox")).currentIndex(), 1);
+    QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 2);
+}
+
+void UnitConverterWidgetTest::typingOnlyStores_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QByteArray>("property");
+
+    QTest::newRow("the power level") << "dbmLineEdit" << QByteArray("logPower");
+    QTest::newRow("the power") << "wattLineEdit" << QByteArray("linPower");
+    QTest::newRow("the voltage") << "voltLineEdit" << QByteArray("linVoltage");
+    QTest::newRow("the voltage level") << "dbvLineEdit" << QByteArray("logVoltage");
+    QTest::newRow("the impedance") << "impedanceLineEdit" << QByteArray("impedance");
+}
+
+void UnitConverterWidgetTest::typingOnlyStores()
+{
+    QFETCH(QString, field);
+    QFETCH(QByteArray, property);
+
+    const ConverterPage page = open();
+    page.focus(field);
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines({{property, "75x"}});
+    page.type(field, QStringLiteral("75x"));
+    QCOMPARE(lines(), expected);
+}
+
+void UnitConverterWidgetTest::typingKeepsTheCursor()
+{
+    const ConverterPage page = open();
+    page.type(kFirstField, QStringLiteral("19"));
+    QTest::keyClick(&page.field(kFirstField), Qt::Key_Left);
+    QTest::keyClicks(&page.field(kFirstField), QStringLiteral("23"));
+    QCOMPARE(page.field(kFirstField).text(), QStringLiteral("1239"));
+    QCOMPARE(m_model.logPower(), QStringLiteral("1239"));
+}
+
+void UnitConverterWidgetTest::finishingCalculates_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<PropertyValues>("results");
+
+    // 10^1.3 = 19.9526 mW, sqrt(0.0199526 * 50) = 0.998815 V
+    QTest::newRow("the power level")
+        << "dbmLineEdit"
+        << "13"
+        << PropertyValues{{"linPower", "20"}, {"linVoltage", "999"}, {"logVoltage", "-0.01"}};
+    // sqrt(0.001 * 50) = 0.223607 V
+    QTest::newRow("the power") << "wattLineEdit"
+                               << "1"
+                               << PropertyValues{{"logPower", "0.00"},
+                                                 {"linVoltage", "224"},
+                                                 {"logVoltage", "-13.01"}};
+    // 1 / 50 = 0.02 W
+    QTest::newRow("the voltage") << "voltLineEdit"
+                                 << "1k"
+                                 << PropertyValues{{"logPower", "13.01"},
+                                                   {"linPower", "20"},
+                                                   {"logVoltage", "0.00"}};
+    QTest::newRow("the voltage level")
+        << "dbvLineEdit"
+        << "0"
+        << PropertyValues{{"logPower", "13.01"}, {"linPower", "20"}, {"linVoltage", "1E+03"}};
+}
+
+void UnitConverterWidgetTest::finishingCalculates()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, typed);
+    QFETCH(PropertyValues, results);
+
+    const ConverterPage page = open();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}) {
+        loadDefaults();
+        page.type(field, typed);
+        const QStringList expected = lines(results);
+        QTest::keyClick(&page.field(field), key);
+        QCOMPARE(lines(), expected);
+        QCOMPARE(page.fieldTexts(),
+                 QStringList({m_model.logPower(), m_model.linPower(), QStringLiteral("50"),
+                              m_model.logVoltage(), m_model.linVoltage()})
+                     .join(QStringLiteral(" | ")));
+    }
+}
+
+void UnitConverterWidgetTest::aWrongNumberLooksLikeAnError()
+{
+    const ConverterPage page = open();
+    for (const char *name : {"dbmLineEdit", "wattLineEdit", "dbvLineEdit", "voltLineEdit"}) {
+        const QString field = QString::fromLatin1(name);
+        page.type(field, QStringLiteral("x"));
+        QVERIFY2(!page.field(field).hasError(), name);
+        QTest::keyClick(&page.field(field), Qt::Key_Return);
+        QCOMPARE(page.field(field).text(), QStringLiteral("invalid input"));
+        QVERIFY2(page.field(field).hasError(), name);
+    }
+    m_model.setImpedance(QStringLiteral("invalid"));
+    QVERIFY(page.field(QStringLiteral("impedanceLineEdit")).hasError());
+}
+
+void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues_data()
+{
+    QTest::addColumn<int>("key");
+
+    QTest::newRow("by Return") << int(Qt::Key_Return);
+    QTest::newRow("by leaving it") << int(Qt::Key_Tab);
+}
+
+void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues()
+{
+    QFETCH(int, key);
+
+    const QString field = QStringLiteral("impedanceLineEdit");
+    const ConverterPage page = open();
+    page.focus(field);
+    setProperties(m_model, kUnrelatedValues);
+    page.type(field, QStringLiteral("75"));
+    QTest::keyClick(&page.field(field), Qt::Key(key));
+    QCOMPARE(page.fieldTexts(), QStringLiteral(" |  | 75 |  | "));
+    QCOMPARE(m_model.impedance(), QStringLiteral("75"));
+}
+
+void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly_data()
+{
+    QTest::addColumn<QString>("combo");
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<PropertyValues>("changes");
+
+    QTest::newRow("dBm to dBW") << "dbmUnitComboBox" << 1
+                                << PropertyValues{{"logPowerUnit", 1}, {"logPower", "-20.00"}};
+    QTest::newRow("mW to W") << "wattUnitComboBox" << 1
+                             << PropertyValues{{"linPowerUnit", 1}, {"linPower", "0.001"}};
+    QTest::newRow("mV to V") << "voltUnitComboBox" << 1
+                             << PropertyValues{{"linVoltageUnit", 1}, {"linVoltage", "0.5"}};
+    QTest::newRow("dBV to dBµV") << "dbvUnitComboBox" << 1
+                                 << PropertyValues{{"logVoltageUnit", 1}, {"logVoltage", "120.00"}};
+    // 20 log10(1000 / 775) = 2.21
+    QTest::newRow("dBV over dBµV to dBu")
+        << "dbvUnitComboBox" << 2 << PropertyValues{{"logVoltageUnit", 2}, {"logVoltage", "2.21"}};
+}
+
+void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly()
+{
+    QFETCH(QString, combo);
+    QFETCH(int, steps);
+    QFETCH(PropertyValues, changes);
+
+    const ConverterPage page = open();
+    page.focus(combo);
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines(changes);
+    page.press(combo, Qt::Key_Down, steps);
+    QCOMPARE(lines(), expected);
+
+    // And back again: the quantity has stayed the same.
+    page.press(combo, Qt::Key_Up, steps);
+    QCOMPARE(lines(), lines(kUnrelatedValues));
+}
+
+void UnitConverterWidgetTest::aMirroredUnitRewritesNothing_data()
+{
+    QTest::addColumn<QString>("combo");
+    QTest::addColumn<QByteArray>("property");
+
+    QTest::newRow("of the power level") << "dbmUnitComboBox" << QByteArray("logPowerUnit");
+    QTest::newRow("of the power") << "wattUnitComboBox" << QByteArray("linPowerUnit");
+    QTest::newRow("of the voltage") << "voltUnitComboBox" << QByteArray("linVoltageUnit");
+    QTest::newRow("of the voltage level") << "dbvUnitComboBox" << QByteArray("logVoltageUnit");
+}
+
+void UnitConverterWidgetTest::aMirroredUnitRewritesNothing()
+{
+    QFETCH(QString, combo);
+    QFETCH(QByteArray, property);
+
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines({{property, 1}});
+    setProperties(m_model, {{property, 1}});
+    QCOMPARE(page.combo(combo).currentIndex(), 1);
+    QCOMPARE(lines(), expected);
+}
+
+void UnitConverterWidgetTest::aChosenModeCalculatesFromTheLinearPower_data()
+{
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<PropertyValues>("results");
+
+    // 1 mW at 50 ohm: 223.607 mV RMS. Times 2.82842714: 632.456 mV, -3.98 dBV.
+    QTest::newRow("peak to peak") << 1
+                                  << PropertyValues{{"voltageMode", 1},
+                                                    {"logPower", "0.00"},
+                                                    {"linVoltage", "632"},
+                                                    {"logVoltage", "-3.98"}};
+    // 632.456 mV / pi = 201.317 mV
+    QTest::newRow("average") << 2
+                             << PropertyValues{{"voltageMode", 2},
+                                               {"logPower", "0.00"},
+                                               {"linVoltage", "201"},
+                                               {"logVoltage", "-13.92"}};
+}
+
+void UnitConverterWidgetTest::aChosenModeCalculatesFromTheLinearPower()
+{
+    QFETCH(int, steps);
+    QFETCH(PropertyValues, results);
+
+    const ConverterPage page = open();
+    focusMode(QStringLiteral("Vrms"));
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines(results);
+    for (int i = 0; i < steps; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    QCOMPARE(lines(), expected);
+    QCOMPARE(page.field(QStringLiteral("voltLineEdit")).text(), m_model.linVoltage());
+}
+
+void UnitConverterWidgetTest::aMirroredModeCalculatesNothing()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines({{"voltageMode", 2}});
+    m_model.setVoltageMode(2);
+    QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 2);
+    QCOMPARE(lines(), expected);
+}
+
+void UnitConverterWidgetTest::aLoadedFileIsShownAsItIs()
+{
+    const QString chosen = QStringLiteral("dbvUnitComboBox");
+    const ConverterPage page = open();
+    page.focus(chosen);
+    setProperties(m_model, kUnrelatedValues);
+    const QStringList expected = lines(kLoadedValues);
+    QStringList file;
+    for (const PropertyValue &value : kLoadedValues) {
+        file.append(QStringLiteral("UnitConverterProfile/") + QString::fromLatin1(value.name) +
+                    QLatin1Char('=') + value.value.toString());
+    }
+    loadFile(file);
+    QCOMPARE(page.fieldTexts(), QStringLiteral("1.234 | 2.345 | 75 | 3.456 | 4.567"));
+    QCOMPARE(lines(), expected);
+    QCOMPARE(page.combo(chosen).currentText(), QStringLiteral("dBu"));
+    QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 1);
+
+    // The new unit is the one that the text stands in: 3.456 dBu = 0.775 V * 10^(3.456 / 20),
+    // 20 log10 of 1153.74 mV / 0.001 mV = 121.24 dBµV.
+    page.press(chosen, Qt::Key_Up);
+    QCOMPARE(m_model.logVoltage(), QStringLiteral("121.24"));
+}
+
+void UnitConverterWidgetTest::aChangeOfLanguageKeepsEveryField()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, kOtherSelections);
+    const QStringList before = lines();
+    const QString texts = page.fieldTexts();
+    page.label(QStringLiteral("linPowerLabel")).setText(QStringLiteral("Lineare Leistung"));
+
+    QEvent change(QEvent::LanguageChange);
+    QApplication::sendEvent(m_page.get(), &change);
+    QCOMPARE(page.label(QStringLiteral("linPowerLabel")).text(), QStringLiteral("Linear Power"));
+    QCOMPARE(page.fieldTexts(), texts);
+    QCOMPARE(lines(), before);
+    QCOMPARE(page.combo(QStringLiteral("dbmUnitComboBox")).currentText(), QStringLiteral("dBW"));
+    QCOMPARE(page.combo(QStringLiteral("wattUnitComboBox")).currentText(), QStringLiteral("W"));
+    QCOMPARE(page.combo(QStringLiteral("dbvUnitComboBox")).currentText(), QStringLiteral("dBu"));
+    QCOMPARE(page.combo(QStringLiteral("voltUnitComboBox")).currentText(), QStringLiteral("V"));
+    QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 2);
+}
+
+void UnitConverterWidgetTest::finishesTheEditWhenItGoes()
+{
+    const ConverterPage page = open();
+    page.type(kFirstField, QStringLiteral("13"));
+    m_page.reset();
+    QCOMPARE(m_model.linPower(), QStringLiteral("20"));
+}
+
+DEZIMO_TEST_MAIN(QApplication, UnitConverterWidgetTest)
+
+#include "tst_unitconverterwidget.moc"

@@ -1,0 +1,390 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "converterpage.h"
+#include "kellineedit.h"
+#include "mainprofile.h"
+#include "propertyvalues.h"
+#include "testmain.h"
+#include "vswrconverterwidget.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTest>
+
+#include <memory>
+
+class VswrConverterWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void showsWhatTheModelHeldBefore();
+    void typingOnlyStores_data();
+    void typingOnlyStores();
+    void typingKeepsTheCursor();
+    void finishingChecksItsOwnRow_data();
+    void finishingChecksItsOwnRow();
+    void leavingTheVswrFillsTheReflectionGroup_data();
+    void leavingTheVswrFillsTheReflectionGroup();
+    void aForwardPowerFillsTheOtherPowers();
+    void aForwardVoltageFillsTheOtherVoltages();
+
+    void aChosenUnitRewritesItsRowOnly_data();
+    void aChosenUnitRewritesItsRowOnly();
+    void aMirroredUnitIsShown_data();
+    void aMirroredUnitIsShown();
+    void aChosenTabIsStored();
+    void aMirroredTabIsShown();
+    void aLoadedFileIsShownAsItIs();
+    void aChangeOfLanguageEmptiesTheVswrFieldOnly();
+    void finishesTheEditWhenItGoes();
+
+private:
+    ConverterPage open();
+    void addRows() const;
+    void addUnits() const;
+    QStringList lines(const PropertyValues &changes = {}) const
+    {
+        return propertyLines(m_model, changes);
+    }
+
+    VswrConverterProfile &m_model = MainProfile::instance().vswrConverter();
+    std::unique_ptr<VswrConverterWidget> m_page;
+};
+
+namespace {
+
+const QString kVswr = QStringLiteral("vswrLineEdit");
+const QString kTabs = QStringLiteral("mainTab");
+
+/// Texts that do not belong together, so that a calculation would be seen.
+const PropertyValues kUnrelatedTexts{
+    {"vswr", "1.01"},     {"r", "0.02"},          {"r2", "3.03"},         {"ar", "4.04"},
+    {"am", "5.05"},       {"pForward", "6.06"},   {"pReflected", "7.07"}, {"pAbsorbed", "8.08"},
+    {"vForward", "9.09"}, {"vReflected", "10.1"}, {"vAbsorbed", "11.1"}};
+
+const PropertyValues kOtherSelections{
+    {"currentMode", 1},  {"pForwardUnit", 1},   {"pReflectedUnit", 2}, {"pAbsorbedUnit", 3},
+    {"vForwardUnit", 3}, {"vReflectedUnit", 2}, {"vAbsorbedUnit", 1}};
+
+const QString kUnrelatedFields =
+    QStringLiteral("1.01 | 0.02 | 3.03 | 4.04 | 5.05 | 6.06 | 7.07 | 8.08 | 9.09 | 10.1 | 11.1");
+
+} // namespace
+
+void VswrConverterWidgetTest::init()
+{
+    loadDefaults();
+}
+
+void VswrConverterWidgetTest::cleanup()
+{
+    m_page.reset();
+}
+
+ConverterPage VswrConverterWidgetTest::open()
+{
+    m_page = std::make_unique<VswrConverterWidget>();
+    return ConverterPage(*m_page);
+}
+
+void VswrConverterWidgetTest::addRows() const
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<int>("tab");
+
+    QTest::newRow("VSWR") << "vswrLineEdit" << QByteArray("vswr") << 0;
+    QTest::newRow("reflection coefficient") << "rLineEdit" << QByteArray("r") << 0;
+    QTest::newRow("its square") << "r2LineEdit" << QByteArray("r2") << 0;
+    QTest::newRow("return loss") << "arLineEdit" << QByteArray("ar") << 0;
+    QTest::newRow("mismatch loss") << "amLineEdit" << QByteArray("am") << 0;
+    QTest::newRow("forward power") << "forwardPowerLineEdit" << QByteArray("pForward") << 0;
+    QTest::newRow("reflected power") << "reflectedPowerLineEdit" << QByteArray("pReflected") << 0;
+    QTest::newRow("absorbed power") << "absorbedPowerLineEdit" << QByteArray("pAbsorbed") << 0;
+    QTest::newRow("forward voltage") << "forwardVoltageLineEdit" << QByteArray("vForward") << 1;
+    QTest::newRow("reflected voltage")
+        << "reflectedVoltageLineEdit" << QByteArray("vReflected") << 1;
+    QTest::newRow("absorbed voltage") << "absorbedVoltageLineEdit" << QByteArray("vAbsorbed") << 1;
+}
+
+void VswrConverterWidgetTest::addUnits() const
+{
+    QTest::addColumn<QString>("combo");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<int>("tab");
+
+    QTest::newRow("forward power")
+        << "forwardPowerUnitComboBox" << QByteArray("pForward") << QByteArray("pForwardUnit") << 0;
+    QTest::newRow("reflected power") << "reflectedPowerUnitComboBox" << QByteArray("pReflected")
+                                     << QByteArray("pReflectedUnit") << 0;
+    QTest::newRow("absorbed power") << "absorbedPowerUnitComboBox" << QByteArray("pAbsorbed")
+                                    << QByteArray("pAbsorbedUnit") << 0;
+    QTest::newRow("forward voltage") << "forwardVoltageUnitComboBox" << QByteArray("vForward")
+                                     << QByteArray("vForwardUnit") << 1;
+    QTest::newRow("reflected voltage") << "reflectedVoltageUnitComboBox" << QByteArray("vReflected")
+                                       << QByteArray("vReflectedUnit") << 1;
+    QTest::newRow("absorbed voltage") << "absorbedVoltageUnitComboBox" << QByteArray("vAbsorbed")
+                                      << QByteArray("vAbsorbedUnit") << 1;
+}
+
+void VswrConverterWidgetTest::showsWhatTheModelHeldBefore()
+{
+    setProperties(m_model, kOtherSelections);
+    setProperties(m_model, kUnrelatedTexts);
+    const QStringList before = lines();
+    const ConverterPage page = open();
+    QCOMPARE(page.fieldTexts(), kUnrelatedFields);
+    QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
+    QCOMPARE(page.combo(QStringLiteral("absorbedPowerUnitComboBox")).currentIndex(), 3);
+    QCOMPARE(page.combo(QStringLiteral("absorbedVoltageUnitComboBox")).currentIndex(), 1);
+    QCOMPARE(lines(), before);
+}
+
+void VswrConverterWidgetTest::typingOnlyStores_data()
+{
+    addRows();
+}
+
+void VswrConverterWidgetTest::typingOnlyStores()
+{
+    QFETCH(QString, field);
+    QFETCH(QByteArray, property);
+    QFETCH(int, tab);
+
+    const ConverterPage page = open();
+    m_model.setCurrentMode(tab);
+    page.focus(field);
+    setProperties(m_model, kUnrelatedTexts);
+    const QStringList expected = lines({{property, "0.5x"}});
+    page.type(field, QStringLiteral("0.5x"));
+    QCOMPARE(lines(), expected);
+}
+
+void VswrConverterWidgetTest::typingKeepsTheCursor()
+{
+    const ConverterPage page = open();
+    page.type(kVswr, QStringLiteral("19"));
+    QTest::keyClick(&page.field(kVswr), Qt::Key_Left);
+    QTest::keyClicks(&page.field(kVswr), QStringLiteral("23"));
+    QCOMPARE(page.field(kVswr).text(), QStringLiteral("1239"));
+    QCOMPARE(m_model.vswr(), QStringLiteral("1239"));
+}
+
+void VswrConverterWidgetTest::finishingChecksItsOwnRow_data()
+{
+    addRows();
+}
+
+void VswrConverterWidgetTest::finishingChecksItsOwnRow()
+{
+    QFETCH(QString, field);
+    QFETCH(QByteArray, property);
+    QFETCH(int, tab);
+
+    const ConverterPage page = open();
+    m_model.setCurrentMode(tab);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}) {
+        page.type(field, QStringLiteral("x"));
+        QVERIFY(!page.field(field).hasError());
+        QTest::keyClick(&page.field(field), key);
+        QCOMPARE(page.field(field).text(), QStringLiteral("invalid input"));
+        QVERIFY(page.field(field).hasError());
+        QCOMPARE(lines().filter(QStringLiteral("invalid input")),
+                 QStringList{QString::fromLatin1(property) + QStringLiteral(" = invalid input")});
+    }
+}
+
+void VswrConverterWidgetTest::leavingTheVswrFillsTheReflectionGroup_data()
+{
+    QTest::addColumn<int>("key");
+
+    QTest::newRow("with Tab") << int(Qt::Key_Tab);
+    QTest::newRow("with Return, without leaving it") << int(Qt::Key_Return);
+}
+
+void VswrConverterWidgetTest::leavingTheVswrFillsTheReflectionGroup()
+{
+    QFETCH(int, key);
+
+    const ConverterPage page = open();
+    page.type(kVswr, QStringLiteral("2"));
+    QCOMPARE(page.fieldTexts(), QStringLiteral("2 |  |  |  |  |  |  |  |  |  | "));
+    QTest::keyClick(&page.field(kVswr), Qt::Key(key));
+    // Γ = (2 - 1) / (2 + 1), Γ² = 11.1 %, -10 log10(1 - Γ²) = 0.51 dB; no return loss but for 1.
+    QCOMPARE(page.fieldTexts(), QStringLiteral("2 | 0.333 | 11.1 |  | 0.51 |  |  |  |  |  | "));
+}
+
+void VswrConverterWidgetTest::aForwardPowerFillsTheOtherPowers()
+{
+    const QString field = QStringLiteral("forwardPowerLineEdit");
+    const ConverterPage page = open();
+    page.type(QStringLiteral("rLineEdit"), QStringLiteral("0.5"));
+    page.type(field, QStringLiteral("40"));
+    QTest::keyClick(&page.field(field), Qt::Key_Return);
+    // VSWR 1.5 / 0.5 = 3. Of 10 W, 2.5 W = 33.98 dBm come back and 7.5 W = 38.75 dBm stay.
+    QCOMPARE(page.fieldTexts(),
+             QStringLiteral("3 | 0.5 | 25 | 6.02 | 1.25 | 40 | 34 | 38.8 |  |  | "));
+}
+
+void VswrConverterWidgetTest::aForwardVoltageFillsTheOtherVoltages()
+{
+    const QString field = QStringLiteral("forwardVoltageLineEdit");
+    const ConverterPage page = open();
+    m_model.setCurrentMode(1);
+    page.type(QStringLiteral("rLineEdit"), QStringLiteral("0.5"));
+    page.press(QStringLiteral("forwardVoltageUnitComboBox"), Qt::Key_End);
+    page.press(QStringLiteral("reflectedVoltageUnitComboBox"), Qt::Key_End);
+    page.press(QStringLiteral("absorbedVoltageUnitComboBox"), Qt::Key_End);
+    page.type(field, QStringLiteral("100"));
+    QTest::keyClick(&page.field(field), Qt::Key_Return);
+    // A quarter of 100 mV comes back.
+    QCOMPARE(page.fieldTexts(),
+             QStringLiteral("3 | 0.5 | 25 | 6.02 | 1.25 |  |  |  | 100 | 25 | 75"));
+}
+
+void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly_data()
+{
+    addUnits();
+}
+
+void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly()
+{
+    QFETCH(QString, combo);
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, unit);
+    QFETCH(int, tab);
+
+    const ConverterPage page = open();
+    m_model.setCurrentMode(tab);
+    page.focus(combo);
+    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, {{text, "10"}});
+    // 10 dBm = 0.01 W; 10 dBV = 10^0.5 V = 3.16 V
+    const QStringList expected = lines({{unit, 2}, {text, tab == 0 ? "0.01" : "3.16"}});
+    page.press(combo, Qt::Key_Down, 2);
+    QCOMPARE(page.combo(combo).currentIndex(), 2);
+    QCOMPARE(lines(), expected);
+}
+
+void VswrConverterWidgetTest::aMirroredUnitIsShown_data()
+{
+    addUnits();
+}
+
+/// The model re-expresses the text by itself, once, as for a chosen unit.
+void VswrConverterWidgetTest::aMirroredUnitIsShown()
+{
+    QFETCH(QString, combo);
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, unit);
+
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, {{text, "x"}});
+    const QStringList others = lines({{unit, 3}, {text, ""}});
+    ChangeLog changes(m_model);
+    setProperties(m_model, {{unit, 3}});
+    QCOMPARE(page.combo(combo).currentIndex(), 3);
+    QCOMPARE(changes.take().filter(QStringLiteral("Unit")), QStringList{QString::fromLatin1(unit)});
+    QCOMPARE(lines({{text, ""}}), others);
+}
+
+void VswrConverterWidgetTest::aChosenTabIsStored()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedTexts);
+    page.focus(kTabs);
+    const QStringList expected = lines({{"currentMode", 1}});
+    ChangeLog changes(m_model);
+    page.press(kTabs, Qt::Key_Right);
+    QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
+    QCOMPARE(lines(), expected);
+    QCOMPARE(changes.take(), QStringList{QStringLiteral("currentMode")});
+
+    page.press(kTabs, Qt::Key_Left);
+    QCOMPARE(m_model.currentMode(), 0);
+}
+
+void VswrConverterWidgetTest::aMirroredTabIsShown()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, kUnrelatedTexts);
+    const QStringList expected = lines({{"currentMode", 1}});
+    m_model.setCurrentMode(1);
+    QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
+    QVERIFY(page.field(QStringLiteral("forwardVoltageLineEdit")).isVisible());
+    QCOMPARE(lines(), expected);
+}
+
+void VswrConverterWidgetTest::aLoadedFileIsShownAsItIs()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, {{"vswr", "2"}, {"pForward", "10"}, {"vForward", "20"}});
+    QStringList file;
+    for (const PropertyValues &values : {kUnrelatedTexts, kOtherSelections}) {
+        for (const PropertyValue &value : values) {
+            file.append(QStringLiteral("VswrConverterProfile/") + QString::fromLatin1(value.name) +
+                        QLatin1Char('=') + value.value.toString());
+        }
+    }
+    loadFile(file);
+    QCOMPARE(page.fieldTexts(), kUnrelatedFields);
+    QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
+    QCOMPARE(page.combo(QStringLiteral("forwardPowerUnitComboBox")).currentText(),
+             QStringLiteral("dBW"));
+    QCOMPARE(page.combo(QStringLiteral("reflectedPowerUnitComboBox")).currentText(),
+             QStringLiteral("W"));
+    QCOMPARE(page.combo(QStringLiteral("absorbedPowerUnitComboBox")).currentText(),
+             QStringLiteral("mW"));
+    QCOMPARE(page.combo(QStringLiteral("forwardVoltageUnitComboBox")).currentText(),
+             QStringLiteral("mV"));
+    QCOMPARE(page.combo(QStringLiteral("reflectedVoltageUnitComboBox")).currentText(),
+             QStringLiteral("V"));
+    QCOMPARE(page.combo(QStringLiteral("absorbedVoltageUnitComboBox")).currentText(),
+             QStringLiteral("dBµV"));
+    QCOMPARE(lines(kUnrelatedTexts), lines());
+    QCOMPARE(lines(kOtherSelections), lines());
+}
+
+void VswrConverterWidgetTest::aChangeOfLanguageEmptiesTheVswrFieldOnly()
+{
+    const ConverterPage page = open();
+    setProperties(m_model, kOtherSelections);
+    setProperties(m_model, kUnrelatedTexts);
+    const QStringList before = lines();
+    page.label(QStringLiteral("amLabel")).setText(QStringLiteral("Fehlanpassung"));
+
+    QEvent change(QEvent::LanguageChange);
+    QApplication::sendEvent(m_page.get(), &change);
+    QCOMPARE(page.label(QStringLiteral("amLabel")).text(), QStringLiteral("Mismatch Loss"));
+    QCOMPARE(page.field(kVswr).text(), QString());
+    QCOMPARE(page.fieldTexts(), kUnrelatedFields.mid(QStringLiteral("1.01").size()));
+    QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
+    QCOMPARE(page.combo(QStringLiteral("absorbedPowerUnitComboBox")).currentText(),
+             QStringLiteral("mW"));
+    QCOMPARE(page.combo(QStringLiteral("absorbedVoltageUnitComboBox")).currentText(),
+             QStringLiteral("dBµV"));
+    QCOMPARE(page.field(kVswr).findChild<QLabel *>(QStringLiteral("prefixLabel"))->text(),
+             QStringLiteral("1 : "));
+    QCOMPARE(lines(), before);
+}
+
+void VswrConverterWidgetTest::finishesTheEditWhenItGoes()
+{
+    const ConverterPage page = open();
+    page.type(kVswr, QStringLiteral("2"));
+    m_page.reset();
+    QCOMPARE(m_model.r(), QStringLiteral("0.333"));
+}
+
+DEZIMO_TEST_MAIN(QApplication, VswrConverterWidgetTest)
+
+#include "tst_vswrconverterwidget.moc"

@@ -3,11 +3,10 @@
 
 #include "unitconverterwidget.h"
 
-#include "ui_unitconverterwidget.h"
-
 #include "errortexts.h"
-#include "fieldtext.h"
 #include "mainprofile.h"
+#include "mirroredtext.h"
+#include "ui_unitconverterwidget.h"
 
 #include <QEvent>
 #include <QPushButton>
@@ -23,7 +22,7 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     for (KelLineEdit *field : fields)
         field->setErrorTexts(ErrorText::all());
     addVoltageModes();
-    showProfile();
+    showModel();
 }
 
 /// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
@@ -35,9 +34,9 @@ UnitConverterWidget::~UnitConverterWidget()
 
 void UnitConverterWidget::changeEvent(QEvent *event)
 {
-    QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         m_ui->retranslateUi(this);
+    QWidget::changeEvent(event);
 }
 
 /// The buttons of the switch exist only now, so they take their place in the tab order here.
@@ -58,7 +57,7 @@ void UnitConverterWidget::addVoltageModes()
 }
 
 /// Shows every value of the model, now and whenever it changes.
-void UnitConverterWidget::showProfile()
+void UnitConverterWidget::showModel()
 {
     using Model = UnitConverterProfile;
     using View = UnitConverterWidget;
@@ -174,22 +173,22 @@ void UnitConverterWidget::onVModeToggle_currentIndexChanged(int index)
 
 void UnitConverterWidget::onLogPowerChanged()
 {
-    showFieldText(m_ui->dbmLineEdit, m_profile->logPower());
+    mirrorText(m_ui->dbmLineEdit, m_profile->logPower());
 }
 
 void UnitConverterWidget::onLinPowerChanged()
 {
-    showFieldText(m_ui->wattLineEdit, m_profile->linPower());
+    mirrorText(m_ui->wattLineEdit, m_profile->linPower());
 }
 
 void UnitConverterWidget::onLogVoltageChanged()
 {
-    showFieldText(m_ui->dbvLineEdit, m_profile->logVoltage());
+    mirrorText(m_ui->dbvLineEdit, m_profile->logVoltage());
 }
 
 void UnitConverterWidget::onLinVoltageChanged()
 {
-    showFieldText(m_ui->voltLineEdit, m_profile->linVoltage());
+    mirrorText(m_ui->voltLineEdit, m_profile->linVoltage());
 }
 
 void UnitConverterWidget::onLogPowerUnitChanged()
@@ -214,7 +213,7 @@ void UnitConverterWidget::onLinVoltageUnitChanged()
 
 void UnitConverterWidget::onImpedanceChanged()
 {
-    showFieldText(m_ui->impedanceLineEdit, m_profile->impedance());
+    mirrorText(m_ui->impedanceLineEdit, m_profile->impedance());
 }
 
 void UnitConverterWidget::onVoltageModeChanged()

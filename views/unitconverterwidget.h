@@ -65,7 +65,7 @@ private Q_SLOTS:
 
 private:
     void addVoltageModes();
-    void showProfile();
+    void showModel();
 
     const std::unique_ptr<Ui::UnitConverterWidget> m_ui;
     UnitConverterProfile *const m_profile;

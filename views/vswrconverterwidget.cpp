@@ -3,11 +3,10 @@
 
 #include "vswrconverterwidget.h"
 
-#include "ui_vswrconverterwidget.h"
-
 #include "errortexts.h"
-#include "fieldtext.h"
 #include "mainprofile.h"
+#include "mirroredtext.h"
+#include "ui_vswrconverterwidget.h"
 
 #include <QEvent>
 
@@ -19,7 +18,7 @@ VswrConverterWidget::VswrConverterWidget(QWidget *parent)
     m_ui->setupUi(this);
     setUpFields();
     connectCalculations();
-    showProfile();
+    showModel();
 }
 
 /// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
@@ -31,9 +30,9 @@ VswrConverterWidget::~VswrConverterWidget()
 
 void VswrConverterWidget::changeEvent(QEvent *event)
 {
-    QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         m_ui->retranslateUi(this);
+    QWidget::changeEvent(event);
 }
 
 void VswrConverterWidget::setUpFields()
@@ -73,7 +72,7 @@ void VswrConverterWidget::connectCalculations()
 }
 
 /// Shows every value of the model, now and whenever it changes.
-void VswrConverterWidget::showProfile()
+void VswrConverterWidget::showModel()
 {
     using Model = VswrConverterProfile;
     using View = VswrConverterWidget;
@@ -199,57 +198,57 @@ void VswrConverterWidget::on_mainTab_currentChanged(int index)
 
 void VswrConverterWidget::onVswrChanged()
 {
-    showFieldText(m_ui->vswrLineEdit, m_profile->vswr());
+    mirrorText(m_ui->vswrLineEdit, m_profile->vswr());
 }
 
 void VswrConverterWidget::onRChanged()
 {
-    showFieldText(m_ui->rLineEdit, m_profile->r());
+    mirrorText(m_ui->rLineEdit, m_profile->r());
 }
 
 void VswrConverterWidget::onR2Changed()
 {
-    showFieldText(m_ui->r2LineEdit, m_profile->r2());
+    mirrorText(m_ui->r2LineEdit, m_profile->r2());
 }
 
 void VswrConverterWidget::onArChanged()
 {
-    showFieldText(m_ui->arLineEdit, m_profile->ar());
+    mirrorText(m_ui->arLineEdit, m_profile->ar());
 }
 
 void VswrConverterWidget::onAmChanged()
 {
-    showFieldText(m_ui->amLineEdit, m_profile->am());
+    mirrorText(m_ui->amLineEdit, m_profile->am());
 }
 
 void VswrConverterWidget::onPForwardChanged()
 {
-    showFieldText(m_ui->forwardPowerLineEdit, m_profile->pForward());
+    mirrorText(m_ui->forwardPowerLineEdit, m_profile->pForward());
 }
 
 void VswrConverterWidget::onPReflectedChanged()
 {
-    showFieldText(m_ui->reflectedPowerLineEdit, m_profile->pReflected());
+    mirrorText(m_ui->reflectedPowerLineEdit, m_profile->pReflected());
 }
 
 void VswrConverterWidget::onPAbsorbedChanged()
 {
-    showFieldText(m_ui->absorbedPowerLineEdit, m_profile->pAbsorbed());
+    mirrorText(m_ui->absorbedPowerLineEdit, m_profile->pAbsorbed());
 }
 
 void VswrConverterWidget::onVForwardChanged()
 {
-    showFieldText(m_ui->forwardVoltageLineEdit, m_profile->vForward());
+    mirrorText(m_ui->forwardVoltageLineEdit, m_profile->vForward());
 }
 
 void VswrConverterWidget::onVReflectedChanged()
 {
-    showFieldText(m_ui->reflectedVoltageLineEdit, m_profile->vReflected());
+    mirrorText(m_ui->reflectedVoltageLineEdit, m_profile->vReflected());
 }
 
 void VswrConverterWidget::onVAbsorbedChanged()
 {
-    showFieldText(m_ui->absorbedVoltageLineEdit, m_profile->vAbsorbed());
+    mirrorText(m_ui->absorbedVoltageLineEdit, m_profile->vAbsorbed());
 }
 
 void VswrConverterWidget::onPForwardUnitChanged()

@@ -76,7 +76,7 @@ private Q_SLOTS:
 private:
     void setUpFields();
     void connectCalculations();
-    void showProfile();
+    void showModel();
 
     const std::unique_ptr<Ui::VswrConverterWidget> m_ui;
     VswrConverterProfile *const m_profile;

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void offersTheUnits_data();
     void offersTheUnits();
     void offersTheVoltageModes();
+    void startsWithTheDefaults();
     void tabGoesFromTopToBottom();
     void fitsItsPage_data();
     void fitsItsPage();
@@ -174,6 +175,15 @@ void UnitConverterFormTest::offersTheVoltageModes()
     QCOMPARE(texts,
              (QStringList{QStringLiteral("Vrms"), QStringLiteral("Vpp"), QStringLiteral("Vavg")}));
     QCOMPARE(modes.currentIndex(), 0);
+}
+
+void UnitConverterFormTest::startsWithTheDefaults()
+{
+    const ConverterPage page = open();
+    const auto &suffix = page.field(QStringLiteral("impedanceLineEdit"));
+    QCOMPARE(suffix.findChild<QLabel *>(QStringLiteral("suffixLabel"))->text(),
+             QStringLiteral("Ω"));
+    QCOMPARE(page.fieldTexts(), QStringLiteral(" |  | 50 |  | "));
 }
 
 void UnitConverterFormTest::tabGoesFromTopToBottom()

@@ -14,6 +14,8 @@ KelMessageBox::KelMessageBox(State state, const QString &title, const QString &t
       m_ui(std::make_unique<Ui::KelMessageBox>()),
       m_state(state)
 {
+    // A property of an enumeration that is not registered is a bare number to a style sheet.
+    qRegisterMetaType<State>();
     m_ui->setupUi(this);
     auto *label = new QLabel(text, m_ui->content);
     label->setObjectName(QStringLiteral("messageLabel"));

@@ -14,21 +14,31 @@ KelIconWidget::KelIconWidget(QWidget *parent) : QWidget(parent)
 
 void KelIconWidget::setIcon(const QIcon &icon)
 {
+    // Icons cannot be compared; copies of one icon share its key.
+    if (m_icon.cacheKey() == icon.cacheKey())
+        return;
     m_icon = icon;
     update();
+    Q_EMIT iconChanged();
 }
 
 void KelIconWidget::setRotation(int degrees)
 {
+    if (m_rotation == degrees)
+        return;
     m_rotation = degrees;
     update();
+    Q_EMIT rotationChanged();
 }
 
 void KelIconWidget::setIconSize(const QSize &size)
 {
+    if (m_iconSize == size)
+        return;
     m_iconSize = size;
     updateGeometry();
     update();
+    Q_EMIT iconSizeChanged();
 }
 
 void KelIconWidget::paintEvent(QPaintEvent *event)

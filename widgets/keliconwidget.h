@@ -16,9 +16,9 @@
 class KelIconWidget final : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QIcon icon READ icon WRITE setIcon)
-    Q_PROPERTY(int rotation READ rotation WRITE setRotation)
-    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
+    Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY iconChanged)
+    Q_PROPERTY(int rotation READ rotation WRITE setRotation NOTIFY rotationChanged)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize NOTIFY iconSizeChanged)
 
 public:
     explicit KelIconWidget(QWidget *parent = nullptr);
@@ -31,6 +31,11 @@ public:
     void setIcon(const QIcon &icon);
     void setRotation(int degrees);
     void setIconSize(const QSize &size);
+
+Q_SIGNALS:
+    void iconChanged();
+    void rotationChanged();
+    void iconSizeChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QPainter>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
 
     void startsEmpty();
     void keepsItsProperties();
+    void everyChangeIsAnnouncedOnce();
     void drawsTheIconCentered_data();
     void drawsTheIconCentered();
     void turnsTheIconAboutTheCenter_data();
@@ -97,6 +99,26 @@ void KelIconWidgetTest::keepsItsProperties()
     QCOMPARE(m_widget->rotation(), -45);
     QCOMPARE(m_widget->iconSize(), QSize(32, 24));
     QCOMPARE(m_widget->sizeHint(), QSize(32, 24));
+}
+
+void KelIconWidgetTest::everyChangeIsAnnouncedOnce()
+{
+    QSignalSpy icons(m_widget.get(), &KelIconWidget::iconChanged);
+    QSignalSpy rotations(m_widget.get(), &KelIconWidget::rotationChanged);
+    QSignalSpy sizes(m_widget.get(), &KelIconWidget::iconSizeChanged);
+    const QIcon icon = makeIcon(16);
+    for (int i = 0; i < 2; ++i) {
+        m_widget->setIcon(icon);
+        m_widget->setRotation(90);
+        m_widget->setIconSize(QSize(32, 24));
+        QCOMPARE(icons.count(), 1);
+        QCOMPARE(rotations.count(), 1);
+        QCOMPARE(sizes.count(), 1);
+    }
+    m_widget->setIcon(makeIcon(16));
+    QCOMPARE(icons.count(), 2);
+    m_widget->setIcon(QIcon());
+    QCOMPARE(icons.count(), 3);
 }
 
 void KelIconWidgetTest::drawsTheIconCentered_data()

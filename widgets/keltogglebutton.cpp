@@ -20,12 +20,6 @@ constexpr int kSpacing = 2;
 /// What the size hint adds once for the frame, and again for every button.
 constexpr int kHintPadding = 4;
 
-// Deprecated since Qt 5.15 in favor of idClicked(int), which says the same; kept on purpose.
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-constexpr auto kGroupClicked = QOverload<int>::of(&QButtonGroup::buttonClicked);
-QT_WARNING_POP
-
 } // namespace
 
 KelToggleButton::KelToggleButton(QWidget *parent)
@@ -57,7 +51,7 @@ QSize KelToggleButton::sizeHint() const
 
 void KelToggleButton::setCurrentIndex(int index)
 {
-    disconnect(m_group, kGroupClicked, this, &KelToggleButton::onCurrentIndexChanged);
+    disconnect(m_groupClicks);
     if (index >= 0 && index < m_group->buttons().size())
         m_group->button(index)->click();
     connectGroup();
@@ -103,5 +97,10 @@ void KelToggleButton::paintEvent(QPaintEvent *)
 
 void KelToggleButton::connectGroup()
 {
-    connect(m_group, kGroupClicked, this, &KelToggleButton::onCurrentIndexChanged);
+    // Deprecated since Qt 5.15 in favor of idClicked(int), which says the same; kept on purpose.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    m_groupClicks = connect(m_group, QOverload<int>::of(&QButtonGroup::buttonClicked), this,
+                            &KelToggleButton::onCurrentIndexChanged);
+    QT_WARNING_POP
 }

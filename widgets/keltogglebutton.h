@@ -44,6 +44,7 @@ private:
 
     QHBoxLayout *const m_layout;
     QButtonGroup *const m_group;
+    QMetaObject::Connection m_groupClicks;
     int m_nextId = 0;
 };
 

@@ -7,38 +7,34 @@
 
 namespace {
 
+ExpectedMessages *current = nullptr;
 QtMessageHandler previousHandler = nullptr;
-QStringList expectedBeginnings;
-int takenMessages = 0;
-
-void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    const bool isExpected =
-        std::any_of(expectedBeginnings.cbegin(), expectedBeginnings.cend(),
-                    [&](const QString &beginning) { return message.startsWith(beginning); });
-    if (isExpected)
-        ++takenMessages;
-    else
-        previousHandler(type, context, message);
-}
 
 } // namespace
 
-ExpectedMessages::ExpectedMessages(const QStringList &beginnings)
+ExpectedMessages::ExpectedMessages(const QStringList &beginnings) : m_beginnings(beginnings)
 {
-    expectedBeginnings = beginnings;
-    takenMessages = 0;
-    previousHandler = qInstallMessageHandler(handleMessage);
+    current = this;
+    previousHandler = qInstallMessageHandler(handle);
 }
 
 ExpectedMessages::~ExpectedMessages()
 {
     qInstallMessageHandler(previousHandler);
+    current = nullptr;
 }
 
-int ExpectedMessages::count() const
+void ExpectedMessages::handle(QtMsgType type, const QMessageLogContext &context,
+                              const QString &message)
 {
-    return takenMessages;
+    const QStringList &beginnings = current->m_beginnings;
+    const bool isExpected =
+        std::any_of(beginnings.cbegin(), beginnings.cend(),
+                    [&](const QString &beginning) { return message.startsWith(beginning); });
+    if (isExpected)
+        ++current->m_count;
+    else
+        previousHandler(type, context, message);
 }
 
 QStringList offscreenPopupMessages()

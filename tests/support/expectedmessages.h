@@ -21,7 +21,13 @@ public:
     ExpectedMessages &operator=(const ExpectedMessages &) = delete;
 
     /// How many messages were taken so far.
-    int count() const;
+    int count() const { return m_count; }
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);
+
+    const QStringList m_beginnings;
+    int m_count = 0;
 };
 
 /// What Qt's offscreen platform logs when a popup opens.

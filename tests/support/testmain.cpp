@@ -54,21 +54,19 @@ TestHome::TestHome()
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-#if defined(__SANITIZE_ADDRESS__)
 LeakCheckPause::LeakCheckPause()
 {
+#if defined(__SANITIZE_ADDRESS__)
     __lsan_disable();
+#endif
 }
 
 LeakCheckPause::~LeakCheckPause()
 {
+#if defined(__SANITIZE_ADDRESS__)
     __lsan_enable();
-}
-#else
-LeakCheckPause::LeakCheckPause() = default;
-
-LeakCheckPause::~LeakCheckPause() = default;
 #endif
+}
 
 int runTestStrictly(QObject &test, int argc, char **argv)
 {

@@ -180,7 +180,7 @@ void KelAutoResizeLineEditTest::emitsOnlyWhenTheSizeChanges()
 
     m_edit->setText(QString(200, QLatin1Char('8')));
     QCOMPARE(sizes.count(), 1);
-    QCOMPARE(sizes.takeFirst().first().toInt(), 10);
+    QCOMPARE(sizes.takeFirst().constFirst().toInt(), 10);
     m_edit->setText(QString(201, QLatin1Char('8')));
     QCOMPARE(sizes.count(), 0);
     m_edit->clear();

@@ -42,7 +42,10 @@ public:
     }
 };
 
-const QStringList kUnits{QStringLiteral("dBm"), QStringLiteral("mW"), QStringLiteral("W")};
+QStringList units()
+{
+    return {QStringLiteral("dBm"), QStringLiteral("mW"), QStringLiteral("W")};
+}
 
 } // namespace
 
@@ -111,7 +114,7 @@ void KelComboBoxTest::opensBelowTheBox()
     QWidget window;
     window.setGeometry(100, 50, 400, 200);
     KelComboBox box(&window);
-    box.addItems(kUnits);
+    box.addItems(units());
     box.setGeometry(30, 20, 250, 28);
     box.setCurrentIndex(2);
     window.show();
@@ -138,7 +141,7 @@ void KelComboBoxTest::choosesByKeyboard()
 {
     const ExpectedMessages messages(offscreenPopupMessages());
     KelComboBox box;
-    box.addItems(kUnits);
+    box.addItems(units());
     box.show();
     QVERIFY(QTest::qWaitForWindowExposed(&box));
 

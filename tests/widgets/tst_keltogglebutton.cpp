@@ -94,7 +94,7 @@ void KelToggleButtonTest::countsOnAfterMoreItems()
     m_switch->addItems({});
     QSignalSpy indexes(m_switch.get(), &KelToggleButton::currentIndexChanged);
     buttons().at(3)->click();
-    QCOMPARE(indexes.takeFirst().first().toInt(), 3);
+    QCOMPARE(indexes.takeFirst().constFirst().toInt(), 3);
 }
 
 void KelToggleButtonTest::sizeHintFollowsTheButtons()
@@ -117,13 +117,13 @@ void KelToggleButtonTest::aClickEmitsItsIndex()
 
     QTest::mouseClick(buttons().at(1), Qt::LeftButton);
     QCOMPARE(indexes.count(), 1);
-    QCOMPARE(indexes.takeFirst().first().toInt(), 1);
+    QCOMPARE(indexes.takeFirst().constFirst().toInt(), 1);
     QCOMPARE(m_switch->currentIndex(), 1);
     QVERIFY(buttons().at(1)->isChecked());
 
     QTest::mouseClick(buttons().at(2), Qt::LeftButton);
     QCOMPARE(indexes.count(), 1);
-    QCOMPARE(indexes.takeFirst().first().toInt(), 2);
+    QCOMPARE(indexes.takeFirst().constFirst().toInt(), 2);
     QVERIFY(!buttons().at(1)->isChecked());
     QVERIFY(buttons().at(2)->isChecked());
 }
@@ -187,7 +187,7 @@ void KelToggleButtonTest::clearRemovesEveryButton()
     addModes();
     QSignalSpy indexes(m_switch.get(), &KelToggleButton::currentIndexChanged);
     buttons().at(0)->click();
-    QCOMPARE(indexes.takeFirst().first().toInt(), 0);
+    QCOMPARE(indexes.takeFirst().constFirst().toInt(), 0);
 }
 
 void KelToggleButtonTest::canBeClearedByItsOwnClick()

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "aboutwindowcase.h"
+
+#include "kelmessagebox.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTimer>
+
+void AboutWindowCase::init()
+{
+    m_product = {QStringLiteral("Dezimo"), QStringLiteral("calculates levels"),
+                 QStringLiteral("3.2.1.0"), QStringLiteral("2022"), QStringLiteral("7TK31")};
+    m_host.system = {
+        {QStringLiteral("Operating System"),
+         {{QStringLiteral("Product name"), QStringLiteral("Debian GNU/Linux 12")},
+          {QStringLiteral("Admin rights"), QStringLiteral("No")}}},
+        {QStringLiteral("VISA"), {{QStringLiteral("Version"), QStringLiteral("---")}}}};
+    m_host.drivers = {
+        {QStringLiteral("VXI drivers"),
+         {{QString(), QStringLiteral("kela.dll (Version 1.0)")},
+          {QString(), QStringLiteral("kelb.dll (Version 2.0)")}}},
+        {QStringLiteral("USB drivers"), {{QString(), QStringLiteral("No USB driver found")}}}};
+}
+
+void AboutWindowCase::cleanup()
+{
+    delete m_window;
+    QGuiApplication::clipboard()->clear();
+    qApp->setStyleSheet(QString());
+}
+
+void AboutWindowCase::open()
+{
+    m_window = new KelAboutWindow(m_product, std::make_unique<FakeOsInfo>(m_host));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+QLabel *AboutWindowCase::cell(int row, int column) const
+{
+    auto *grid = qobject_cast<QGridLayout *>(child<QWidget>("scroll_content")->layout());
+    return qobject_cast<QLabel *>(grid->itemAtPosition(row, column)->widget());
+}
+
+QStringList AboutWindowCase::pressCopy() const
+{
+    QStringList messages;
+    QTimer watcher;
+    connect(&watcher, &QTimer::timeout, m_window, [&messages] {
+        auto *box = qobject_cast<KelMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        messages << box->windowTitle()
+                 << box->findChild<QLabel *>(QStringLiteral("messageLabel"))->text();
+        const auto *buttons = box->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+        QCOMPARE(buttons->standardButtons(), QDialogButtonBox::Ok);
+        QCOMPARE(box->state(), KelMessageBox::StateNormal);
+        QVERIFY(!box->parentWidget());
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    watcher.start(0);
+    child<QWidget>("scroll_content")->findChild<QPushButton *>()->click();
+    return messages;
+}
+
+QTextCharFormat markupFormat(const QLabel *label)
+{
+    QTextDocument document;
+    document.setHtml(label->text());
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::NextCharacter);
+    return cursor.charFormat();
+}
+
+QString plainText(const QLabel *label)
+{
+    QTextDocument document;
+    document.setHtml(label->text());
+    return document.toPlainText();
+}

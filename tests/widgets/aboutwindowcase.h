@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTS_WIDGETS_ABOUTWINDOWCASE_H
+#define TESTS_WIDGETS_ABOUTWINDOWCASE_H
+
+#include "fakeosinfo.h"
+#include "kelaboutwindow.h"
+
+#include <QPointer>
+#include <QTextCharFormat>
+
+class QLabel;
+
+/**
+ * A test of the About window. Before each test function product and host are reset to plain values,
+ * with drivers found; after it the window is gone, and so are clipboard and style sheet.
+ */
+class AboutWindowCase : public QObject
+{
+    Q_OBJECT
+
+protected:
+    template <typename Widget>
+    Widget *child(const char *name) const
+    {
+        return m_window->findChild<Widget *>(QLatin1String(name));
+    }
+    void open();
+    /// The label in a cell of the system information.
+    QLabel *cell(int row, int column) const;
+    /// Presses the copy button and accepts what is then shown: title and text of each message.
+    QStringList pressCopy() const;
+
+    KelAboutWindow::Product m_product;
+    FakeHost m_host;
+    QPointer<KelAboutWindow> m_window;
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+};
+
+/// The format of a label's text, which is one link or one span.
+QTextCharFormat markupFormat(const QLabel *label);
+/// What a label shows of its markup.
+QString plainText(const QLabel *label);
+
+#endif

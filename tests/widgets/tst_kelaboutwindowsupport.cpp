@@ -10,6 +10,8 @@
 #include <QDesktopServices>
 #include <QLabel>
 #include <QMimeData>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QUrl>
 
@@ -101,6 +103,11 @@ void KelAboutWindowSupportTest::copyReplacesAllFormats()
 void KelAboutWindowSupportTest::onlyTheButtonItselfCopies()
 {
     open();
+    child<QTabWidget>("tabs")->setCurrentIndex(2);
+    const auto *button = child<QWidget>("scroll_content")->findChild<QPushButton *>();
+    QVERIFY(button->isVisible());
+    // A dialog's default button would take Return from everywhere.
+    QVERIFY(!button->isDefault());
     QTest::keyClick(m_window, Qt::Key_Return);
     QVERIFY(QGuiApplication::clipboard()->text().isEmpty());
     QVERIFY(m_window->isVisible());

@@ -6,6 +6,7 @@
 #include "animations.h"
 #include "calculationfiles.h"
 #include "identity.h"
+#include "kelaboutwindow.h"
 #include "mainprofile.h"
 #include "stylesheets.h"
 #include "ui_mainwindow.h"
@@ -171,6 +172,17 @@ void MainWindow::onThemeChanged(ApplicationTheme theme)
         const QString icon = QString::fromLatin1(kModuleIcons.at(size_t(row)));
         m_ui->menuItemsWidget->item(row)->setIcon(QIcon(icon.arg(themeWord(theme))));
     }
+}
+
+/// The window deletes itself when it is closed.
+void MainWindow::on_actionAbout_triggered()
+{
+    auto *about = new KelAboutWindow(
+        Identity::productName(),
+        QStringLiteral("application for calculating with logarithmic and linear power and voltage "
+                       "values"),
+        Identity::version(), QStringLiteral("2022"), QStringLiteral("7TK31"), this);
+    about->show();
 }
 
 MainWindow::Target MainWindow::windowModeTarget() const

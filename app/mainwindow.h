@@ -42,6 +42,7 @@ private Q_SLOTS:
     void onDecimalPlacesMenuAboutToShow();
     void on_menuItemsWidget_currentRowChanged(int currentRow);
     void onThemeChanged(ApplicationTheme theme);
+    void on_actionAbout_triggered();
 
 private:
     struct Target;

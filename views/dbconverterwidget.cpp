@@ -25,7 +25,12 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     showModel();
 }
 
-DbConverterWidget::~DbConverterWidget() = default;
+/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
+/// happen while form and slots are still there.
+DbConverterWidget::~DbConverterWidget()
+{
+    hide();
+}
 
 void DbConverterWidget::changeEvent(QEvent *event)
 {

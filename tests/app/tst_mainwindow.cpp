@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "kelaboutwindow.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
@@ -57,6 +58,8 @@ private Q_SLOTS:
 
     void appliesBothThemes_data();
     void appliesBothThemes();
+
+    void aboutOpensANewWindowEachTime();
 
     void mirrorsItsGeometry();
     void restoresItsGeometry();
@@ -403,6 +406,30 @@ void MainWindowTest::appliesBothThemes()
     const QIcon expected(
         QStringLiteral(":/vswrconv_16_%1.svg").arg(themeWord(ApplicationTheme(theme))));
     QCOMPARE(list->item(4)->icon().pixmap(16, 16).toImage(), expected.pixmap(16, 16).toImage());
+}
+
+void MainWindowTest::aboutOpensANewWindowEachTime()
+{
+    openWindow();
+    child<QAction>("actionAbout")->trigger();
+    child<QAction>("actionAbout")->trigger();
+    const QList<KelAboutWindow *> windows = m_window->findChildren<KelAboutWindow *>();
+    QCOMPARE(windows.size(), 2);
+    for (KelAboutWindow *about : windows) {
+        const auto text = [about](const char *name) {
+            return about->findChild<QLabel *>(QLatin1String(name))->text();
+        };
+        QVERIFY(about->isVisible());
+        QCOMPARE(about->windowTitle(), QStringLiteral("Information about Dezimo"));
+        QCOMPARE(text("title"), QStringLiteral("Dezimo"));
+        QCOMPARE(text("subtitle"),
+                 QStringLiteral("application for calculating with logarithmic and linear power and "
+                                "voltage values"));
+        QCOMPARE(text("version"), QStringLiteral("Version 3.2.1.0 64 bit (2022)"));
+        QVERIFY(text("product_page").contains(QStringLiteral("/7TK31")));
+        about->close();
+    }
+    QTRY_VERIFY(m_window->findChildren<KelAboutWindow *>().isEmpty());
 }
 
 void MainWindowTest::mirrorsItsGeometry()

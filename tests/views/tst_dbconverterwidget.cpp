@@ -40,6 +40,7 @@ private Q_SLOTS:
     void anErrorWordIsMarked();
     void everyFieldHasANameForAScreenReader();
     void aLanguageChangeKeepsTheFields();
+    void goingAwayFinishesTheEdit();
 
 private:
     QLineEdit *edit(const QString &name) const { return m_page->findChild<QLineEdit *>(name); }
@@ -310,6 +311,15 @@ void DbConverterWidgetTest::aLanguageChangeKeepsTheFields()
     QCoreApplication::sendEvent(m_page.get(), &change);
     QCOMPARE(edit("p1LineEdit")->text(), QStringLiteral("1W"));
     QCOMPARE(edit("vDbLineEdit")->text(), QStringLiteral("6.02"));
+}
+
+void DbConverterWidgetTest::goingAwayFinishesTheEdit()
+{
+    m_model.setP2(QStringLiteral("1W"));
+    edit("p1LineEdit")->setFocus();
+    QTest::keyClicks(edit("p1LineEdit"), QStringLiteral("4W"));
+    m_page.reset();
+    QCOMPARE(m_model.pRatio(), QStringLiteral("4"));
 }
 
 DEZIMO_TEST_MAIN(QApplication, DbConverterWidgetTest)

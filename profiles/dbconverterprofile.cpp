@@ -27,7 +27,7 @@ struct Operand
     double watt = 0.0;
 };
 
-/// Below this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm, which
+/// Up to this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm, which
 /// is meant: only finishing the second operand tests for exact zero.
 constexpr double kZeroTolerance = 1e-12;
 
@@ -111,9 +111,10 @@ bool isUnitMismatch(const Operand &first, const Operand &second)
     return (first.unit == Unit::None) != (second.unit == Unit::None);
 }
 
+/// What is no number counts as zero too, so that neither a ratio nor an operand is made of it.
 bool isZero(double value)
 {
-    return std::abs(value) <= kZeroTolerance;
+    return !(std::abs(value) > kZeroTolerance);
 }
 
 } // namespace

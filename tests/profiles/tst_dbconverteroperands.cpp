@@ -96,6 +96,7 @@ void DbConverterOperandsTest::fromFirst_data()
     operands("1 pico below counts as zero", "1", "1p", "NAN", "", "");
     operands("-1 pico below counts as zero", "1", "-1p", "NAN", "", "");
     operands("-90 dBm below, that is 1e-12 W, count as zero", "1W", "-90dBm", "NAN", "", "");
+    operands("NAN below counts as zero", "1", "NAN", "NAN", "", "");
     // 10 lg 9.0909e11 = 119.586
     operands("1.1 pico below is a number", "1", "1.1p", "9.09E+11", "119.59", "239.17");
     operands("-1.1 pico below is a number", "1", "-1.1p", "-9.09E+11", "", "");
@@ -155,6 +156,7 @@ void DbConverterOperandsTest::derivesTheSecond_data()
     derived("a ratio of zero", "8", "0", "");
     derived("a ratio of 1e-12 counts as zero", "8", "1e-12", "");
     derived("a ratio of -1 pico counts as zero", "8", "-1p", "");
+    derived("a ratio of NAN counts as zero", "8", "NAN", "");
 }
 
 void DbConverterOperandsTest::derivesTheSecond()

@@ -50,6 +50,7 @@ void DbConverterRatiosTest::fromRatio_data()
     decibels("a word as the first operand derives nothing", "abc", "", "2", "3.01", "6.02");
     decibels("zero derives no second operand", "1", "", "0", "", "");
     decibels("1 pico counts as zero", "1", "", "1p", "-120.00", "-240.00");
+    decibels("NAN counts as zero", "1", "", "NAN", "nan", "nan");
 
     const auto first = [](const char *tag, const char *present, const char *ratio,
                           const char *powerDb, const char *voltageDb, const char *derived,
@@ -117,6 +118,7 @@ void DbConverterRatiosTest::fromDb_data()
     ratios("nothing derives no second operand", "2W", "", "", "", "");
     ratios("a word as the second operand derives nothing", "", "abc", "3", "2", "1.41");
     ratios("a word as the first operand derives nothing", "abc", "", "3", "2", "1.41");
+    ratios("NAN derives no second operand", "1", "", "NAN", "NAN", "NAN");
     // 10^(-240/20) = 1e-12, and 10^(-240/10) = 1e-24
     ratios("-240 dB count as a ratio of zero", "1", "", "-240", "1E-24", "1E-12");
 

@@ -4,7 +4,6 @@
 #include "propertyvalues.h"
 
 #include <QMetaMethod>
-#include <QMetaProperty>
 
 #include <utility>
 
@@ -31,6 +30,15 @@ QVariant valueAfter(const PropertyValues &changes, const QMetaProperty &property
 
 } // namespace
 
+std::vector<QMetaProperty> declaredProperties(const QObject &object)
+{
+    std::vector<QMetaProperty> properties;
+    const QMetaObject *type = object.metaObject();
+    for (int i = QObject::staticMetaObject.propertyCount(); i < type->propertyCount(); ++i)
+        properties.push_back(type->property(i));
+    return properties;
+}
+
 void setProperties(QObject &object, const PropertyValues &values)
 {
     for (const PropertyValue &value : values)
@@ -42,9 +50,7 @@ QStringList propertyLines(const QObject &object, const PropertyValues &changes)
     for (const PropertyValue &change : changes)
         propertyNamed(object, change.name);
     QStringList lines;
-    const QMetaObject *type = object.metaObject();
-    for (int i = type->propertyOffset(); i < type->propertyCount(); ++i) {
-        const QMetaProperty property = type->property(i);
+    for (const QMetaProperty &property : declaredProperties(object)) {
         lines += QString::fromLatin1(property.name()) + QStringLiteral(" = ") +
                  valueAfter(changes, property, object).toString();
     }
@@ -63,10 +69,9 @@ QStringList signalNames(const QMetaObject &type)
 
 ChangeLog::ChangeLog(const QObject &object) : m_object(object)
 {
-    const QMetaObject *type = object.metaObject();
     const int slot = metaObject()->indexOfSlot("note()");
-    for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
-        QMetaObject::connect(&object, type->property(i).notifySignalIndex(), this, slot);
+    for (const QMetaProperty &property : declaredProperties(object))
+        QMetaObject::connect(&object, property.notifySignalIndex(), this, slot);
 }
 
 QStringList ChangeLog::take()
@@ -76,9 +81,8 @@ QStringList ChangeLog::take()
 
 void ChangeLog::note()
 {
-    const QMetaObject *type = m_object.metaObject();
-    for (int i = type->propertyOffset(); i < type->propertyCount(); ++i) {
-        if (type->property(i).notifySignalIndex() == senderSignalIndex())
-            m_names += QString::fromLatin1(type->property(i).name());
+    for (const QMetaProperty &property : declaredProperties(m_object)) {
+        if (property.notifySignalIndex() == senderSignalIndex())
+            m_names += QString::fromLatin1(property.name());
     }
 }

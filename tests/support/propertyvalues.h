@@ -5,6 +5,7 @@
 #define TESTS_SUPPORT_PROPERTYVALUES_H
 
 #include <QByteArray>
+#include <QMetaProperty>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -27,12 +28,16 @@ struct PropertyValue
 using PropertyValues = std::vector<PropertyValue>;
 Q_DECLARE_METATYPE(PropertyValues)
 
+/// The properties that the class of @p object and its bases declare, in the order of declaration,
+/// without QObject's own.
+std::vector<QMetaProperty> declaredProperties(const QObject &object);
+
 /// Sets @p values one after the other. A name that is no property ends the test.
 void setProperties(QObject &object, const PropertyValues &values);
 
-/// Every property that the class of @p object declares as a line "name = value", in the order of
-/// declaration, with the values in @p changes in place of the real ones. Two such lists are equal
-/// exactly if the objects are, so nothing that changed unexpectedly is missed.
+/// Every declared property as a line "name = value", with the values in @p changes in place of the
+/// real ones. Two such lists are equal exactly if the objects are, so nothing that changed
+/// unexpectedly is missed. For properties that have a text: numbers and texts.
 QStringList propertyLines(const QObject &object, const PropertyValues &changes = {});
 
 /// The signals that a class declares, in the order of declaration.

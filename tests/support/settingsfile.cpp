@@ -5,18 +5,39 @@
 
 #include <QFile>
 
-SettingsFile::SettingsFile()
-    : m_settings(m_folder.filePath(QStringLiteral("store.dezimo")), QSettings::IniFormat)
+namespace {
+
+QString storeIn(const QTemporaryDir &folder)
+{
+    return folder.filePath(QStringLiteral("store.dezimo"));
+}
+
+} // namespace
+
+SettingsFile::SettingsFile() : m_settings(storeIn(m_folder), QSettings::IniFormat) {}
+
+SettingsFile::SettingsFile(const QByteArray &text) : m_settings(written(text), QSettings::IniFormat)
 {}
 
-QStringList SettingsFile::lines()
+QByteArray SettingsFile::text()
 {
     m_settings.sync();
     QFile file(m_settings.fileName());
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QStringList lines =
-        QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList SettingsFile::lines()
+{
+    QStringList lines = QString::fromUtf8(text()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     lines.sort();
     return lines;
+}
+
+/// The name of the store's file, which is made with @p text.
+QString SettingsFile::written(const QByteArray &text) const
+{
+    QFile file(storeIn(m_folder));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
 }

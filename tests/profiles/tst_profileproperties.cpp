@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "everyprofile.h"
+#include "mainprofile.h"
+#include "propertyvalues.h"
+#include "testmain.h"
+
+#include <QMetaMethod>
+#include <QTest>
+
+/// What holds for each property of each profile.
+class ProfilePropertiesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isReadWrittenAndAnnounced_data();
+    void isReadWrittenAndAnnounced();
+    void settersSignalOnce_data();
+    void settersSignalOnce();
+    void everySignalAnnouncesAProperty_data();
+    void everySignalAnnouncesAProperty();
+};
+
+namespace {
+
+/// Fresh profiles, of which the present row's one is looked at.
+class Profiles
+{
+public:
+    Profile &at(int index) { return *everyProfile(m_root).at(std::size_t(index)); }
+
+private:
+    MainProfile m_root;
+};
+
+constexpr int kProfiles = 6;
+
+void addProperties()
+{
+    QTest::addColumn<int>("profileIndex");
+    QTest::addColumn<QByteArray>("name");
+
+    Profiles profiles;
+    for (int i = 0; i < kProfiles; ++i) {
+        const Profile &profile = profiles.at(i);
+        for (const QMetaProperty &property : declaredProperties(profile))
+            QTest::addRow("%s.%s", profile.metaObject()->className(), property.name())
+                << i << QByteArray(property.name());
+    }
+}
+
+QMetaProperty propertyNamed(const Profile &profile, const QByteArray &name)
+{
+    const QMetaObject *type = profile.metaObject();
+    return type->property(type->indexOfProperty(name.constData()));
+}
+
+} // namespace
+
+void ProfilePropertiesTest::isReadWrittenAndAnnounced_data()
+{
+    addProperties();
+}
+
+void ProfilePropertiesTest::isReadWrittenAndAnnounced()
+{
+    QFETCH(int, profileIndex);
+    QFETCH(QByteArray, name);
+
+    Profiles profiles;
+    const QMetaProperty property = propertyNamed(profiles.at(profileIndex), name);
+    QVERIFY(property.isReadable());
+    QVERIFY(property.isWritable());
+    QVERIFY(property.hasNotifySignal());
+    QCOMPARE(property.notifySignal().methodSignature(), QByteArray(name + "Changed()"));
+}
+
+void ProfilePropertiesTest::settersSignalOnce_data()
+{
+    addProperties();
+}
+
+void ProfilePropertiesTest::settersSignalOnce()
+{
+    QFETCH(int, profileIndex);
+    QFETCH(QByteArray, name);
+
+    Profiles profiles;
+    Profile &profile = profiles.at(profileIndex);
+    const QMetaProperty property = propertyNamed(profile, name);
+    const QVariant before = property.read(&profile);
+    const QVariant other = otherValue(before);
+    ChangeLog log(profile);
+    QVERIFY(property.write(&profile, before));
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(property.write(&profile, other));
+    QCOMPARE(property.read(&profile), other);
+    QCOMPARE(log.take(), QStringList{QString::fromLatin1(name)});
+    QVERIFY(property.write(&profile, other));
+    QCOMPARE(log.take(), QStringList());
+}
+
+void ProfilePropertiesTest::everySignalAnnouncesAProperty_data()
+{
+    QTest::addColumn<int>("profileIndex");
+
+    Profiles profiles;
+    for (int i = 0; i < kProfiles; ++i)
+        QTest::newRow(profiles.at(i).metaObject()->className()) << i;
+}
+
+void ProfilePropertiesTest::everySignalAnnouncesAProperty()
+{
+    QFETCH(int, profileIndex);
+
+    Profiles profiles;
+    const Profile &profile = profiles.at(profileIndex);
+    QStringList announced;
+    for (const QMetaProperty &property : declaredProperties(profile))
+        announced += QString::fromLatin1(property.notifySignal().name());
+    announced.sort();
+
+    QStringList declared;
+    for (const QMetaObject *type = profile.metaObject(); type != &QObject::staticMetaObject;
+         type = type->superClass())
+        declared += signalNames(*type);
+    declared.sort();
+    QCOMPARE(declared, announced);
+}
+
+DEZIMO_TEST_MAIN(QCoreApplication, ProfilePropertiesTest)
+
+#include "tst_profileproperties.moc"

@@ -41,10 +41,11 @@ QVariant textOrNothing(const QVariant &stored)
     return stored;
 }
 
+/// Read as a text whatever its type, since a variant cuts a number that is no int down to one.
 QVariant integerOrNothing(const QVariant &stored)
 {
     bool ok = false;
-    const int value = isNumberOrText(stored) ? stored.toInt(&ok) : 0;
+    const int value = isNumberOrText(stored) ? stored.toString().toInt(&ok) : 0;
     return ok ? QVariant(value) : QVariant();
 }
 

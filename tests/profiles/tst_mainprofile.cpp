@@ -295,6 +295,7 @@ void MainProfileTest::readsTheWindowGroup_data()
     row("decimal places that are a word", "decimalPlaces=many", 3);
     row("decimal places that are empty", "decimalPlaces=", 3);
     row("decimal places with a fraction", "decimalPlaces=4.5", 3);
+    row("decimal places beyond all integers", "decimalPlaces=4294967300", 3);
     row("any module is kept", "currentModule=7", 7);
     row("a module that is a word", "currentModule=dB", 0);
     row("any mode is kept", "windowMode=-2", -2);

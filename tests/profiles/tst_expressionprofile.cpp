@@ -16,12 +16,10 @@ class ExpressionProfileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
 
     void startsWithoutAResult();
     void namesItsUnits();
-    void settersSignalARealChangeOnly();
     void settersDoNotCalculate();
     void calculationSignalsEachChangeOnce();
     void calculationShowsUnitBeforeResult();
@@ -29,7 +27,6 @@ private Q_SLOTS:
     void evaluatesWithoutPublishing();
     void usesTheDecimalPlacesOfTheMoment();
     void unknownUnitsAndModesDoNoHarm();
-    void isSavedFirst();
 };
 
 namespace {
@@ -43,12 +40,6 @@ void calculate(ExpressionProfile &calculator, const char *input)
 const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
 
 } // namespace
-
-void ExpressionProfileTest::initTestCase()
-{
-    // Without it two variants with the same map do not compare as equal.
-    QMetaType::registerEqualsComparator<QMap<int, bool>>();
-}
 
 void ExpressionProfileTest::init()
 {
@@ -87,28 +78,6 @@ void ExpressionProfileTest::namesItsUnits()
         texts += voltage.unitText(unit);
     QCOMPARE(texts.join(QLatin1Char('|')), QStringLiteral("|mV|V||"));
     QCOMPARE(voltage.plainUnit(), 2);
-}
-
-void ExpressionProfileTest::settersSignalARealChangeOnly()
-{
-    VoltageCalculatorProfile calculator;
-    const QVariantMap values{
-        {QStringLiteral("input"), QStringLiteral("1V")},
-        {QStringLiteral("output"), QStringLiteral("5")},
-        {QStringLiteral("outputUnit"), 1},
-        {QStringLiteral("mode"), 2},
-        {QStringLiteral("phase"), 90.0},
-        {QStringLiteral("validUnits"), QVariant::fromValue(QMap<int, bool>{{0, false}})},
-    };
-    for (auto it = values.begin(); it != values.end(); ++it) {
-        const QByteArray name = it.key().toLatin1();
-        QSignalSpy spy(&calculator, QByteArray("2" + name + "Changed()").constData());
-        QVERIFY2(calculator.setProperty(name.constData(), it.value()), name.constData());
-        QCOMPARE(calculator.property(name.constData()), it.value());
-        QCOMPARE(spy.count(), 1);
-        calculator.setProperty(name.constData(), it.value());
-        QCOMPARE(spy.count(), 1);
-    }
 }
 
 void ExpressionProfileTest::settersDoNotCalculate()
@@ -223,15 +192,6 @@ void ExpressionProfileTest::unknownUnitsAndModesDoNoHarm()
         QCOMPARE(voltage.output(), QStringLiteral("7"));
         QCOMPARE(voltage.outputUnit(), int(VoltageUnit::Mv));
     }
-}
-
-void ExpressionProfileTest::isSavedFirst()
-{
-    MainProfile profile;
-    const std::vector<Profile *> modules = profile.modules();
-    QVERIFY(modules.size() > 2);
-    QCOMPARE(modules[0], static_cast<Profile *>(&profile.dbmCalculator()));
-    QCOMPARE(modules[1], static_cast<Profile *>(&profile.voltageCalculator()));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, ExpressionProfileTest)

@@ -18,15 +18,12 @@ private Q_SLOTS:
     void cleanup();
     void startsEmptyAt50Ohm();
     void declaresItsSignalsInOrder();
-    void settersSignalOnce_data();
-    void settersSignalOnce();
     void rescales_data();
     void rescales();
     void aUnitSetterOnlyStores();
     void thePreviousUnitFollows_data();
     void thePreviousUnitFollows();
     void savesEveryKey();
-    void loadsWhatWasSaved();
     void loadsDefaults();
     void malformedKeysTakeTheirDefaults();
     void loadingNeverRewrites();
@@ -76,28 +73,6 @@ void UnitConverterProfileTest::declaresItsSignalsInOrder()
                        "linVoltageUnitChanged impedanceChanged voltageModeChanged")
             .split(QLatin1Char(' '));
     QCOMPARE(signalNames(UnitConverterProfile::staticMetaObject), expected);
-}
-
-void UnitConverterProfileTest::settersSignalOnce_data()
-{
-    QTest::addColumn<PropertyValues>("value");
-
-    for (const PropertyValue &value : everythingChanged())
-        QTest::newRow(value.name.constData()) << PropertyValues{value};
-}
-
-void UnitConverterProfileTest::settersSignalOnce()
-{
-    QFETCH(PropertyValues, value);
-
-    UnitConverterProfile profile;
-    const QStringList expected = propertyLines(profile, value);
-    ChangeLog log(profile);
-    setProperties(profile, value);
-    QCOMPARE(propertyLines(profile), expected);
-    QCOMPARE(log.take(), QStringList{QString::fromLatin1(value.front().name)});
-    setProperties(profile, value);
-    QCOMPARE(log.take(), QStringList());
 }
 
 void UnitConverterProfileTest::rescales_data()
@@ -253,17 +228,6 @@ void UnitConverterProfileTest::savesEveryKey()
                                QStringLiteral("logVoltageUnit=2"),
                                QStringLiteral("voltageMode=2")};
     QCOMPARE(file.lines(), expected);
-}
-
-void UnitConverterProfileTest::loadsWhatWasSaved()
-{
-    UnitConverterProfile saved;
-    setProperties(saved, everythingChanged());
-    SettingsFile file;
-    saved.saveSettings(file.settings());
-    UnitConverterProfile loaded;
-    loaded.loadSettings(file.settings());
-    QCOMPARE(propertyLines(loaded), propertyLines(saved));
 }
 
 void UnitConverterProfileTest::loadsDefaults()

@@ -9,8 +9,6 @@
 
 #include <QTest>
 
-#include <algorithm>
-
 /// State, units and storage of the VSWR converter.
 class VswrConverterProfileTest : public QObject
 {
@@ -20,18 +18,14 @@ private Q_SLOTS:
     void cleanup();
     void startsEmpty();
     void declaresItsSignalsInOrder();
-    void settersSignalOnce_data();
-    void settersSignalOnce();
     void unitSetterRewrites_data();
     void unitSetterRewrites();
     void unitSetterWritesTheTextFirst();
     void savesEveryKey();
-    void loadsWhatWasSaved();
     void loadsDefaults();
     void malformedKeysTakeTheirDefaults();
     void loadsSelectionsBeforeTexts();
     void loadedTextsAreTheStoredOnes();
-    void isSavedAfterTheOtherConverters();
 };
 
 namespace {
@@ -97,28 +91,6 @@ void VswrConverterProfileTest::declaresItsSignalsInOrder()
             "vReflectedUnitChanged vAbsorbedUnitChanged currentModeChanged")
             .split(QLatin1Char(' '));
     QCOMPARE(signalNames(VswrConverterProfile::staticMetaObject), expected);
-}
-
-void VswrConverterProfileTest::settersSignalOnce_data()
-{
-    QTest::addColumn<PropertyValues>("value");
-
-    for (const PropertyValue &value : everythingChanged())
-        QTest::newRow(value.name.constData()) << PropertyValues{value};
-}
-
-void VswrConverterProfileTest::settersSignalOnce()
-{
-    QFETCH(PropertyValues, value);
-
-    VswrConverterProfile profile;
-    const QStringList expected = propertyLines(profile, value);
-    ChangeLog log(profile);
-    setProperties(profile, value);
-    QCOMPARE(propertyLines(profile), expected);
-    QCOMPARE(log.take(), namesOf(value));
-    setProperties(profile, value);
-    QCOMPARE(log.take(), QStringList());
 }
 
 void VswrConverterProfileTest::unitSetterRewrites_data()
@@ -232,17 +204,6 @@ void VswrConverterProfileTest::savesEveryKey()
     QCOMPARE(file.lines(), expected);
 }
 
-void VswrConverterProfileTest::loadsWhatWasSaved()
-{
-    VswrConverterProfile saved;
-    setProperties(saved, everythingChanged());
-    SettingsFile file;
-    saved.saveSettings(file.settings());
-    VswrConverterProfile loaded;
-    loaded.loadSettings(file.settings());
-    QCOMPARE(propertyLines(loaded), propertyLines(saved));
-}
-
 void VswrConverterProfileTest::loadsDefaults()
 {
     VswrConverterProfile profile;
@@ -306,16 +267,6 @@ void VswrConverterProfileTest::loadedTextsAreTheStoredOnes()
             [&] { seen += profile.pForward(); });
     profile.loadSettings(file.settings());
     QCOMPARE(seen, (QStringList{QStringLiteral("0.01"), QStringLiteral("0.0100")}));
-}
-
-void VswrConverterProfileTest::isSavedAfterTheOtherConverters()
-{
-    MainProfile &root = MainProfile::instance();
-    const std::vector<Profile *> modules = root.modules();
-    const std::vector<Profile *> converters{&root.dbConverter(), &root.unitConverter(),
-                                            &root.vswrConverter()};
-    QVERIFY(modules.size() >= converters.size());
-    QVERIFY(std::equal(converters.rbegin(), converters.rend(), modules.rbegin()));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, VswrConverterProfileTest)

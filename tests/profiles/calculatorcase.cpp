@@ -24,6 +24,12 @@ QString offeredUnits(const ExpressionProfile &calculator)
 
 } // namespace
 
+void calculate(ExpressionProfile &calculator, const char *input)
+{
+    calculator.setInput(QString::fromUtf8(input));
+    calculator.calculate();
+}
+
 void addCalculatorCases(std::initializer_list<CalculatorCase> cases)
 {
     QTest::addColumn<QString>("input");

@@ -24,6 +24,9 @@ struct CalculatorCase
     double phase = 0.0;
 };
 
+/// What a person does: types @p input and asks for the result.
+void calculate(ExpressionProfile &calculator, const char *input);
+
 /// Makes the columns of checkCalculatorCase() and "phase", and one row of each case.
 void addCalculatorCases(std::initializer_list<CalculatorCase> cases);
 

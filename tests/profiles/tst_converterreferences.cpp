@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainprofile.h"
+#include "shownnumber.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
 #include "vswrconverterprofile.h"
@@ -35,13 +36,6 @@ constexpr double kInputRounding = 1e-11;
 /// The same where the input is a level of 12 digits: 5e-10 dB.
 constexpr double kLevelInputRounding = 2e-10;
 
-double number(const QString &text)
-{
-    bool ok = false;
-    const double value = text.toDouble(&ok);
-    return ok ? value : std::nan("");
-}
-
 /// Half a unit of the last digit that is shown.
 double displayRounding(double value)
 {
@@ -51,12 +45,12 @@ double displayRounding(double value)
 bool showsLinear(const QString &text, double reference, double inputRounding = kInputRounding)
 {
     const double tolerance = displayRounding(reference) + inputRounding * reference;
-    return std::abs(number(text) - reference) <= tolerance;
+    return std::abs(shownNumber(text) - reference) <= tolerance;
 }
 
 bool showsLevel(const QString &text, double reference)
 {
-    return std::abs(number(text) - reference) <= kLevelRounding + 1e-9;
+    return std::abs(shownNumber(text) - reference) <= kLevelRounding + 1e-9;
 }
 
 QString typed(double reference)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainprofile.h"
+#include "shownnumber.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
 #include "vswrconverterprofile.h"
@@ -52,16 +53,9 @@ constexpr double kSlack = 1e-9;
 /// A relative change of a voltage by x is one by 8.69 x in dB.
 constexpr double kDbPerNeper = 8.685889638;
 
-double number(const QString &text)
-{
-    bool ok = false;
-    const double value = text.toDouble(&ok);
-    return ok ? value : std::nan("");
-}
-
 bool isNear(const QString &after, const QString &before, double tolerance)
 {
-    return std::abs(number(after) - number(before)) <= tolerance;
+    return std::abs(shownNumber(after) - shownNumber(before)) <= tolerance;
 }
 
 } // namespace
@@ -104,7 +98,7 @@ void ConverterRoundTripsTest::powerToVoltage()
         profile.calculateFromLinPower();
         profile.calculateFromLinVoltage();
         // The square doubles what the voltage lost; then the power is rounded once more.
-        QVERIFY2(isNear(profile.linPower(), before, 3.1 * kDigitLoss * number(before)),
+        QVERIFY2(isNear(profile.linPower(), before, 3.1 * kDigitLoss * shownNumber(before)),
                  qPrintable(before));
     }
 }
@@ -130,10 +124,10 @@ void ConverterRoundTripsTest::vswrToReflectionCoefficient()
     for (int run = 0; run < kRuns; ++run) {
         VswrConverterProfile profile;
         const QString before = text(1 + std::pow(10, uniform(-3, 3)));
-        const double s = number(before);
+        const double s = shownNumber(before);
         profile.setVswr(before);
         profile.calculateFromVswr();
-        const double r = number(profile.r());
+        const double r = shownNumber(profile.r());
         profile.calculateFromR();
         // ds = 2 dr / (1 - r)^2 = dr (s + 1)^2 / 2
         const double tolerance = kDigitLoss * (r * (s + 1) * (s + 1) / 2 + s) * 1.01;
@@ -151,7 +145,7 @@ void ConverterRoundTripsTest::reflectionCoefficientToReturnLoss()
         profile.calculateFromR();
         const QString before = profile.r();
         profile.calculateFromAr();
-        const double tolerance = number(before) * (kLevelLoss / kDbPerNeper * 1.01);
+        const double tolerance = shownNumber(before) * (kLevelLoss / kDbPerNeper * 1.01);
         QVERIFY2(isNear(profile.r(), before, tolerance), qPrintable(vswr));
         profile.calculateFromR();
         profile.calculateFromR2();
@@ -176,8 +170,10 @@ void ConverterRoundTripsTest::rescaledLinearUnits()
             profile.rescaleLinVoltage();
         }
         // A factor of 1000 moves the point only.
-        QVERIFY2(isNear(profile.linPower(), before, 1e-15 * number(before)), qPrintable(before));
-        QVERIFY2(isNear(profile.linVoltage(), before, 1e-15 * number(before)), qPrintable(before));
+        QVERIFY2(isNear(profile.linPower(), before, 1e-15 * shownNumber(before)),
+                 qPrintable(before));
+        QVERIFY2(isNear(profile.linVoltage(), before, 1e-15 * shownNumber(before)),
+                 qPrintable(before));
     }
 }
 
@@ -223,7 +219,7 @@ void ConverterRoundTripsTest::unitThereAndBack(const QByteArray &field)
         // A level on the way costs a linear value 5e-8 dB * 0.23 for a power, half of it for a
         // voltage; a linear value costs a level 5e-10 * 8.69 dB at most.
         const double tolerance =
-            isLevel ? 2.1 * kLevelDigitLoss : number(before) * (0.25 * kLevelDigitLoss);
+            isLevel ? 2.1 * kLevelDigitLoss : shownNumber(before) * (0.25 * kLevelDigitLoss);
         const QString after = profile.property(field.constData()).toString();
         QVERIFY2(isNear(after, before, tolerance), qPrintable(before));
     }

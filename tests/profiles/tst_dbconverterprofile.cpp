@@ -5,6 +5,7 @@
 #include "dbconverterprofile.h"
 #include "settingsfile.h"
 #include "testmain.h"
+#include "words.h"
 
 #include <QTest>
 
@@ -39,11 +40,6 @@ const PropertyValues &everythingChanged()
     return values;
 }
 
-QStringList names(const char *list)
-{
-    return QString::fromLatin1(list).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 /// Makes one row of each field of both halves.
 template <typename AddRow>
 void forEachField(const AddRow &addRow)
@@ -72,7 +68,7 @@ void DbConverterProfileTest::startsEmpty()
 void DbConverterProfileTest::declaresItsSignalsInOrder()
 {
     QCOMPARE(signalNames(DbConverterProfile::staticMetaObject),
-             names("p1Changed p2Changed v1Changed v2Changed pRatioChanged pDbChanged vRatioChanged "
+             words("p1Changed p2Changed v1Changed v2Changed pRatioChanged pDbChanged vRatioChanged "
                    "vDbChanged currentModeChanged pLatestRunChanged vLatestRunChanged"));
 }
 
@@ -164,10 +160,10 @@ void DbConverterProfileTest::writesInOrder_data()
                         const char *powerNames, const char *voltageNames) {
         QTest::addRow("powers: %s", tag)
             << valuesOf(kPowerHalf, given) << QByteArray(kPowerHalf.calculations.*field)
-            << names(powerNames);
+            << words(powerNames);
         QTest::addRow("voltages: %s", tag)
             << valuesOf(kVoltageHalf, given) << QByteArray(kVoltageHalf.calculations.*field)
-            << names(voltageNames);
+            << words(voltageNames);
     };
     row("first", &DbFields::first, {"8", "2", "7", "1"}, "pRatio pDb pLatestRun",
         "vRatio vDb vLatestRun");
@@ -243,7 +239,7 @@ void DbConverterProfileTest::loadsInOrderAndSignalsEachChangeOnce()
     ChangeLog log(loaded);
     loaded.loadSettings(file.settings());
     QCOMPARE(propertyLines(loaded), propertyLines(saved));
-    QCOMPARE(log.take(), names("p1 p2 v1 v2 pRatio pDb vRatio vDb pLatestRun vLatestRun "
+    QCOMPARE(log.take(), words("p1 p2 v1 v2 pRatio pDb vRatio vDb pLatestRun vLatestRun "
                                "currentMode"));
     loaded.loadSettings(file.settings());
     QCOMPARE(log.take(), QStringList());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
 #include "powersteps.h"
@@ -30,12 +31,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-void calculate(ExpressionProfile &calculator, const char *input)
-{
-    calculator.setInput(QString::fromUtf8(input));
-    calculator.calculate();
-}
 
 const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
 

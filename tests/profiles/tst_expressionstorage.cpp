@@ -1,19 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
 #include "powersteps.h"
+#include "settingsfile.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
 #include "voltagesteps.h"
 
-#include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 /// How the expression calculators are kept in a settings store.
 class ExpressionStorageTest : public QObject
@@ -22,7 +20,6 @@ class ExpressionStorageTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
 
     void keepsTheDbmCalculator();
     void keepsTheVoltageCalculator();
@@ -31,32 +28,9 @@ private Q_SLOTS:
     void malformedKeysAreDefaults_data();
     void malformedKeysAreDefaults();
     void loadsTheValidUnitsAtOnce();
-
-private:
-    QString fileName() const { return m_folder->filePath(QStringLiteral("state.ini")); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 namespace {
-
-void save(ExpressionProfile &calculator, const QString &fileName)
-{
-    QSettings file(fileName, QSettings::IniFormat);
-    calculator.saveSettings(file);
-}
-
-void load(ExpressionProfile &calculator, const QString &fileName)
-{
-    QSettings file(fileName, QSettings::IniFormat);
-    calculator.loadSettings(file);
-}
-
-void calculate(ExpressionProfile &calculator, const char *input)
-{
-    calculator.setInput(QString::fromUtf8(input));
-    calculator.calculate();
-}
 
 const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
 
@@ -68,21 +42,18 @@ void ExpressionStorageTest::initTestCase()
     QMetaType::registerEqualsComparator<QMap<int, bool>>();
 }
 
-void ExpressionStorageTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
 void ExpressionStorageTest::keepsTheDbmCalculator()
 {
     DbmCalculatorProfile written;
     written.setMode(2);
     written.setOutputUnit(PowerUnit::Uw);
     calculate(written, " 1mW\u22122mW");
-    save(written, fileName());
+    SettingsFile file;
+    written.saveSettings(file.settings());
 
+    SettingsFile copy(file.text());
     DbmCalculatorProfile read;
-    load(read, fileName());
+    read.loadSettings(copy.settings());
     QCOMPARE(read.input(), QStringLiteral(" 1mW\u22122mW"));
     QCOMPARE(read.output(), QStringLiteral("-1E+03"));
     QCOMPARE(read.outputUnit(), int(PowerUnit::Uw));
@@ -99,10 +70,12 @@ void ExpressionStorageTest::keepsTheVoltageCalculator()
     written.setPhase(-22.5);
     written.setOutputUnit(VoltageUnit::V);
     calculate(written, "1V+1V");
-    save(written, fileName());
+    SettingsFile file;
+    written.saveSettings(file.settings());
 
+    SettingsFile copy(file.text());
     VoltageCalculatorProfile read;
-    load(read, fileName());
+    read.loadSettings(copy.settings());
     QCOMPARE(read.input(), QStringLiteral("1V+1V"));
     QCOMPARE(read.output(), QStringLiteral("1.96")); // sqrt(2 + 2 cos 22.5)
     QCOMPARE(read.outputUnit(), int(VoltageUnit::V));
@@ -113,20 +86,23 @@ void ExpressionStorageTest::keepsTheVoltageCalculator()
 
 void ExpressionStorageTest::writesTheKeysOfTheGroups()
 {
+    SettingsFile file;
     DbmCalculatorProfile dbm;
     calculate(dbm, "3dB+3dB"); // a ratio: dB only
-    save(dbm, fileName());
+    dbm.saveSettings(file.settings());
     VoltageCalculatorProfile voltage;
     calculate(voltage, "1+2"); // a plain number: no unit only
-    save(voltage, fileName());
+    voltage.saveSettings(file.settings());
 
-    QSettings file(fileName(), QSettings::IniFormat);
-    QCOMPARE(file.childGroups(), (QStringList{QStringLiteral("DbmCalculatorProfile"),
-                                              QStringLiteral("VoltageCalculatorProfile")}));
+    SettingsFile copy(file.text());
+    QCOMPARE(copy.settings().childGroups(),
+             (QStringList{QStringLiteral("DbmCalculatorProfile"),
+                          QStringLiteral("VoltageCalculatorProfile")}));
     QStringList entries;
-    const QStringList keys = file.allKeys();
+    const QStringList keys = copy.settings().allKeys();
     for (const QString &key : keys)
-        entries += key.section(QLatin1Char('/'), 1) + QLatin1Char('=') + file.value(key).toString();
+        entries += key.section(QLatin1Char('/'), 1) + QLatin1Char('=') +
+                   copy.settings().value(key).toString();
     QCOMPARE(entries.join(QLatin1Char(' ')),
              QStringLiteral("DbValid=true DbmValid=false DbwValid=false MwValid=false "
                             "NoneValid=false UwValid=false WValid=false "
@@ -137,11 +113,12 @@ void ExpressionStorageTest::writesTheKeysOfTheGroups()
 
 void ExpressionStorageTest::missingKeysAreDefaults()
 {
+    SettingsFile file;
     VoltageCalculatorProfile voltage;
     voltage.setMode(VoltageMode::Peak);
     voltage.setPhase(90);
     calculate(voltage, "1+2");
-    load(voltage, fileName());
+    voltage.loadSettings(file.settings());
     QCOMPARE(voltage.input(), QString());
     QCOMPARE(voltage.output(), QStringLiteral("---"));
     QCOMPARE(voltage.outputUnit(), 0);
@@ -151,7 +128,7 @@ void ExpressionStorageTest::missingKeysAreDefaults()
 
     DbmCalculatorProfile dbm;
     calculate(dbm, "3dB+3dB");
-    load(dbm, fileName());
+    dbm.loadSettings(file.settings());
     QCOMPARE(dbm.output(), QStringLiteral("---"));
     QCOMPARE(dbm.outputUnit(), 0);
     QCOMPARE(dbm.validUnits(), DbmCalculatorProfile().validUnits());
@@ -196,12 +173,10 @@ void ExpressionStorageTest::malformedKeysAreDefaults()
     QFETCH(QString, property);
     QFETCH(QVariant, value);
 
-    {
-        QSettings file(fileName(), QSettings::IniFormat);
-        file.setValue(QLatin1String("VoltageCalculatorProfile/") + key, stored);
-    }
+    SettingsFile file;
+    file.settings().setValue(QLatin1String("VoltageCalculatorProfile/") + key, stored);
     VoltageCalculatorProfile calculator;
-    load(calculator, fileName());
+    calculator.loadSettings(file.settings());
     QCOMPARE(calculator.property(property.toLatin1().constData()), value);
 }
 
@@ -209,15 +184,16 @@ void ExpressionStorageTest::loadsTheValidUnitsAtOnce()
 {
     DbmCalculatorProfile written;
     calculate(written, "3dB+3dB");
-    save(written, fileName());
+    SettingsFile file;
+    written.saveSettings(file.settings());
 
     DbmCalculatorProfile read;
     QSignalSpy valid(&read, &DbmCalculatorProfile::validUnitsChanged);
     QSignalSpy output(&read, &DbmCalculatorProfile::outputChanged);
-    load(read, fileName());
+    read.loadSettings(file.settings());
     QCOMPARE(valid.count(), 1);
     QCOMPARE(output.count(), 1);
-    load(read, fileName());
+    read.loadSettings(file.settings());
     QCOMPARE(valid.count(), 1);
     QCOMPARE(output.count(), 1);
 }

@@ -6,6 +6,7 @@
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
+#include "words.h"
 
 #include <QSettings>
 #include <QTest>
@@ -39,11 +40,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QStringList words(const char *list)
-{
-    return QString::fromLatin1(list).split(QLatin1Char(' '));
-}
 
 const QStringList &windowProperties()
 {

@@ -5,6 +5,7 @@
 #include "propertyvalues.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
+#include "words.h"
 
 #include <QTest>
 
@@ -333,8 +334,7 @@ void UnitConverterCalculationsTest::writesInOrder_data()
 
     const auto order = [](const char *tag, const char *slot, const PropertyValues &given,
                           const char *names) {
-        QTest::newRow(tag) << QByteArray(slot) << given
-                           << QString::fromLatin1(names).split(QLatin1Char(' '));
+        QTest::newRow(tag) << QByteArray(slot) << given << words(names);
     };
     order("from the power", "calculateFromLinPower", filledExcept("linPower", "1"),
           "logPower linVoltage logVoltage");

@@ -6,6 +6,7 @@
 #include "settingsfile.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
+#include "words.h"
 
 #include <QTest>
 
@@ -68,10 +69,9 @@ void UnitConverterProfileTest::startsEmptyAt50Ohm()
 void UnitConverterProfileTest::declaresItsSignalsInOrder()
 {
     const QStringList expected =
-        QStringLiteral("logPowerChanged linPowerChanged logVoltageChanged linVoltageChanged "
-                       "logPowerUnitChanged linPowerUnitChanged logVoltageUnitChanged "
-                       "linVoltageUnitChanged impedanceChanged voltageModeChanged")
-            .split(QLatin1Char(' '));
+        words("logPowerChanged linPowerChanged logVoltageChanged linVoltageChanged "
+              "logPowerUnitChanged linPowerUnitChanged logVoltageUnitChanged "
+              "linVoltageUnitChanged impedanceChanged voltageModeChanged");
     QCOMPARE(signalNames(UnitConverterProfile::staticMetaObject), expected);
 }
 

@@ -6,6 +6,7 @@
 #include "settingsfile.h"
 #include "testmain.h"
 #include "vswrconverterprofile.h"
+#include "words.h"
 
 #include <QTest>
 
@@ -83,13 +84,11 @@ void VswrConverterProfileTest::startsEmpty()
 
 void VswrConverterProfileTest::declaresItsSignalsInOrder()
 {
-    const QStringList expected =
-        QStringLiteral(
-            "vswrChanged rChanged r2Changed arChanged amChanged pForwardChanged pReflectedChanged "
-            "pAbsorbedChanged pForwardUnitChanged pReflectedUnitChanged pAbsorbedUnitChanged "
-            "vForwardChanged vReflectedChanged vAbsorbedChanged vForwardUnitChanged "
-            "vReflectedUnitChanged vAbsorbedUnitChanged currentModeChanged")
-            .split(QLatin1Char(' '));
+    const QStringList expected = words(
+        "vswrChanged rChanged r2Changed arChanged amChanged pForwardChanged pReflectedChanged "
+        "pAbsorbedChanged pForwardUnitChanged pReflectedUnitChanged pAbsorbedUnitChanged "
+        "vForwardChanged vReflectedChanged vAbsorbedChanged vForwardUnitChanged "
+        "vReflectedUnitChanged vAbsorbedUnitChanged currentModeChanged");
     QCOMPARE(signalNames(VswrConverterProfile::staticMetaObject), expected);
 }
 

@@ -24,6 +24,11 @@ QString offeredUnits(const ExpressionProfile &calculator)
 
 } // namespace
 
+QMap<int, bool> allVoltageUnits()
+{
+    return {{0, true}, {1, true}, {2, true}};
+}
+
 void calculate(ExpressionProfile &calculator, const char *input)
 {
     calculator.setInput(QString::fromUtf8(input));

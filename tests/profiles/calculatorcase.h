@@ -4,6 +4,8 @@
 #ifndef TESTS_PROFILES_CALCULATORCASE_H
 #define TESTS_PROFILES_CALCULATORCASE_H
 
+#include <QMap>
+
 #include <initializer_list>
 
 class ExpressionProfile;
@@ -23,6 +25,9 @@ struct CalculatorCase
     /// Of the voltage calculator, in degrees.
     double phase = 0.0;
 };
+
+/// The valid units of a voltage calculator that offers them all.
+QMap<int, bool> allVoltageUnits();
 
 /// What a person does: types @p input and asks for the result.
 void calculate(ExpressionProfile &calculator, const char *input);

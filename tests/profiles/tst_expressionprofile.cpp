@@ -30,12 +30,6 @@ private Q_SLOTS:
     void unknownUnitsAndModesDoNoHarm();
 };
 
-namespace {
-
-const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
-
-} // namespace
-
 void ExpressionProfileTest::init()
 {
     MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
@@ -53,7 +47,7 @@ void ExpressionProfileTest::startsWithoutAResult()
         QCOMPARE(calculator->mode(), 0);
     }
     QCOMPARE(voltage.phase(), 0.0);
-    QCOMPARE(voltage.validUnits(), kAllVoltages);
+    QCOMPARE(voltage.validUnits(), allVoltageUnits());
     QCOMPARE(dbm.validUnits().size(), 7);
     QVERIFY(!dbm.validUnits().values().contains(false));
 }

@@ -30,12 +30,6 @@ private Q_SLOTS:
     void loadsTheValidUnitsAtOnce();
 };
 
-namespace {
-
-const QMap<int, bool> kAllVoltages{{0, true}, {1, true}, {2, true}};
-
-} // namespace
-
 void ExpressionStorageTest::initTestCase()
 {
     // Without it two variants with the same map do not compare as equal.
@@ -124,7 +118,7 @@ void ExpressionStorageTest::missingKeysAreDefaults()
     QCOMPARE(voltage.outputUnit(), 0);
     QCOMPARE(voltage.mode(), 0);
     QCOMPARE(voltage.phase(), 0.0);
-    QCOMPARE(voltage.validUnits(), kAllVoltages);
+    QCOMPARE(voltage.validUnits(), allVoltageUnits());
 
     DbmCalculatorProfile dbm;
     calculate(dbm, "3dB+3dB");
@@ -146,7 +140,7 @@ void ExpressionStorageTest::malformedKeysAreDefaults_data()
         QTest::newRow(tag) << QString::fromLatin1(key) << stored << QString::fromLatin1(property)
                            << value;
     };
-    const QVariant all = QVariant::fromValue(kAllVoltages);
+    const QVariant all = QVariant::fromValue(allVoltageUnits());
     row("a unit that is none", "outputUnit", 3, "outputUnit", 0);
     row("a unit below the first", "outputUnit", -1, "outputUnit", 0);
     row("the last unit is one", "outputUnit", 2, "outputUnit", 2);

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void instanceIsOneObject();
     void ownsTheModulesInOrder();
     void destroysTheModulesInReverseOrder();
+
+private:
+    QStringList m_destroyed;
 };
 
 void MainProfileTest::startsWithDefaults()
@@ -61,15 +64,14 @@ void MainProfileTest::ownsTheModulesInOrder()
 
 void MainProfileTest::destroysTheModulesInReverseOrder()
 {
-    QStringList destroyed;
     auto profile = std::make_unique<MainProfile>();
     for (const Profile *module : profile->modules()) {
         const QString name = QString::fromLatin1(module->metaObject()->className());
-        connect(module, &QObject::destroyed, this, [&destroyed, name] { destroyed += name; });
+        connect(module, &QObject::destroyed, this, [this, name] { m_destroyed += name; });
     }
     profile.reset();
-    QCOMPARE(destroyed, words("VswrConverterProfile UnitConverterProfile DbConverterProfile "
-                              "VoltageCalculatorProfile DbmCalculatorProfile"));
+    QCOMPARE(m_destroyed, words("VswrConverterProfile UnitConverterProfile DbConverterProfile "
+                                "VoltageCalculatorProfile DbmCalculatorProfile"));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, MainProfileTest)

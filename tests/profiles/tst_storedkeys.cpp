@@ -35,13 +35,13 @@ private Q_SLOTS:
 
 namespace {
 
-const QVariant kText = QStringLiteral("default");
-const QVariant kInteger = 42;
-const QVariant kDouble = 4.25;
-const QVariant kTrue = true;
-const QVariant kFalse = false;
-const QVariant kPoint = QPoint(3, 4);
-const QVariant kSize = QSize(3, 4);
+constexpr QLatin1String kText("default", 7);
+constexpr int kInteger = 42;
+constexpr double kDouble = 4.25;
+constexpr bool kTrue = true;
+constexpr bool kFalse = false;
+constexpr QPoint kPoint(3, 4);
+constexpr QSize kSize(3, 4);
 
 QVariant text(const char *value)
 {
@@ -204,9 +204,9 @@ void StoredKeysTest::readsTypedStores()
 void StoredKeysTest::aMissingKeyIsTheDefault()
 {
     SettingsFile file("[General]\nKey=1\nkeys=2\n");
-    QCOMPARE(storedValue(file.settings(), "key", kInteger), kInteger);
-    QCOMPARE(storedValue(file.settings(), "key", kText), kText);
-    QCOMPARE(storedValue(file.settings(), "key", kSize), kSize);
+    QCOMPARE(storedValue(file.settings(), "key", kInteger), QVariant(kInteger));
+    QCOMPARE(storedValue(file.settings(), "key", kText), QVariant(kText));
+    QCOMPARE(storedValue(file.settings(), "key", kSize), QVariant(kSize));
 }
 
 void StoredKeysTest::textsComeBackUnchanged_data()
@@ -271,7 +271,7 @@ void StoredKeysTest::theLongestText()
     const QByteArray longest(32767, 'a');
     SettingsFile file("[General]\nkept=" + longest + "\nmalformed=" + longest + "a\n");
     QCOMPARE(storedValue(file.settings(), "kept", kText), QVariant(QString::fromLatin1(longest)));
-    QCOMPARE(storedValue(file.settings(), "malformed", kText), kText);
+    QCOMPARE(storedValue(file.settings(), "malformed", kText), QVariant(kText));
 }
 
 void StoredKeysTest::savesPropertiesUnderTheirKeys()

@@ -76,7 +76,7 @@ ChangeLog::ChangeLog(const QObject &object) : m_object(object)
 
 QStringList ChangeLog::take()
 {
-    return std::exchange(m_names, QStringList());
+    return std::exchange(m_names, {});
 }
 
 void ChangeLog::note()

@@ -1,0 +1,218 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "keypadcalculatorwidget.h"
+
+#include "errortexts.h"
+#include "expressionprofile.h"
+#include "kelautoresizelineedit.h"
+#include "mirroredtext.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QPushButton>
+#include <QStandardItemModel>
+
+namespace {
+
+/// The keys with a slot of their own. Every other one types its text.
+bool isFunctionKey(const QPushButton *key)
+{
+    static const QStringList names{
+        QStringLiteral("pushButton_C"), QStringLiteral("pushButton_back"),
+        QStringLiteral("pushButton_calc"), QStringLiteral("pushButton_plusMinus")};
+    return names.contains(key->objectName());
+}
+
+} // namespace
+
+KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent)
+    : QWidget(parent),
+      m_profile(profile)
+{
+    connect(&m_slide, &TakeOverSlide::finished, this, &KeypadCalculatorWidget::endTakeOver);
+}
+
+void KeypadCalculatorWidget::recalculate()
+{
+    if (!m_profile.output().isEmpty())
+        m_profile.calculate();
+}
+
+void KeypadCalculatorWidget::on_inputLineEdit_textChanged(const QString &text)
+{
+    m_profile.setInput(text);
+    m_profile.calculate();
+}
+
+void KeypadCalculatorWidget::on_inputLineEdit_returnPressed()
+{
+    on_pushButton_calc_clicked();
+}
+
+void KeypadCalculatorWidget::on_outputUnitComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile.outputUnit())
+        return;
+    m_profile.setOutputUnit(index);
+    recalculate();
+}
+
+void KeypadCalculatorWidget::on_calcModeComboBox_currentIndexChanged(int index)
+{
+    if (index == m_profile.mode())
+        return;
+    m_profile.setMode(index);
+    recalculate();
+}
+
+/// The slide starts first, so that what the model makes of the new input is not shown meanwhile.
+void KeypadCalculatorWidget::on_pushButton_calc_clicked()
+{
+    if (m_slide.isRunning() || !hasResult())
+        return;
+    m_takenOver = resultWithUnit();
+    m_slide.start(m_outputRow, m_input);
+    m_profile.setInput(m_takenOver);
+}
+
+void KeypadCalculatorWidget::numpadButtonClicked()
+{
+    m_input->insert(qobject_cast<QPushButton *>(sender())->text());
+}
+
+void KeypadCalculatorWidget::on_pushButton_C_clicked()
+{
+    m_profile.setInput(QString());
+    m_profile.setOutput(QString());
+}
+
+void KeypadCalculatorWidget::on_pushButton_back_clicked()
+{
+    m_input->backspace();
+}
+
+void KeypadCalculatorWidget::on_pushButton_plusMinus_clicked()
+{
+    m_input->insert(QStringLiteral("-"));
+}
+
+void KeypadCalculatorWidget::onOutputFontSizeChanged(int fontsize)
+{
+    m_outputUnit->setStyleSheet(QStringLiteral("font-size: %1px").arg(fontsize));
+}
+
+void KeypadCalculatorWidget::onInputChanged()
+{
+    mirrorText(m_input, m_profile.input());
+}
+
+/// What slides up is the result that was taken over; another one is shown when it has arrived.
+void KeypadCalculatorWidget::onOutputChanged()
+{
+    if (m_slide.isRunning())
+        return;
+    mirrorText(m_output, m_profile.output());
+    showUnitSelector();
+}
+
+void KeypadCalculatorWidget::onOutputUnitChanged()
+{
+    if (m_slide.isRunning())
+        return;
+    if (m_profile.outputUnit() != m_profile.plainUnit())
+        m_outputUnit->setCurrentIndex(m_profile.outputUnit());
+    showUnitSelector();
+}
+
+void KeypadCalculatorWidget::onModeChanged()
+{
+    m_mode->setCurrentIndex(m_profile.mode());
+}
+
+void KeypadCalculatorWidget::onValidUnitsChanged()
+{
+    const QMap<int, bool> validUnits = m_profile.validUnits();
+    const auto *items = qobject_cast<QStandardItemModel *>(m_outputUnit->model());
+    for (int i = 0; i < items->rowCount(); ++i)
+        items->item(i)->setEnabled(validUnits.value(i));
+}
+
+void KeypadCalculatorWidget::setUpInput()
+{
+    setFocusProxy(m_input);
+}
+
+/// The list of the units keeps its size, however large the chosen one is shown.
+void KeypadCalculatorWidget::setUpOutput()
+{
+    m_output->setErrorTexts(ErrorText::all());
+    m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
+    connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
+            &KeypadCalculatorWidget::onOutputFontSizeChanged);
+}
+
+/// Typing goes on in the input line, whatever had the focus when a key was clicked.
+void KeypadCalculatorWidget::connectKeys()
+{
+    const QList<QPushButton *> keys = findChildren<QPushButton *>();
+    for (QPushButton *key : keys) {
+        if (!isFunctionKey(key))
+            connect(key, &QPushButton::clicked, this, &KeypadCalculatorWidget::numpadButtonClicked);
+        connect(key, &QPushButton::clicked, m_input, qOverload<>(&QWidget::setFocus));
+    }
+}
+
+void KeypadCalculatorWidget::connectProfile()
+{
+    using Model = ExpressionProfile;
+    using View = KeypadCalculatorWidget;
+    connect(&m_profile, &Model::inputChanged, this, &View::onInputChanged);
+    connect(&m_profile, &Model::outputChanged, this, &View::onOutputChanged);
+    connect(&m_profile, &Model::outputUnitChanged, this, &View::onOutputUnitChanged);
+    connect(&m_profile, &Model::modeChanged, this, &View::onModeChanged);
+    connect(&m_profile, &Model::validUnitsChanged, this, &View::onValidUnitsChanged);
+}
+
+void KeypadCalculatorWidget::showProfile()
+{
+    const QSignalBlocker noCalculation(m_input);
+    onInputChanged();
+    onOutputUnitChanged();
+    onModeChanged();
+    onOutputChanged();
+    onValidUnitsChanged();
+}
+
+bool KeypadCalculatorWidget::hasResult() const
+{
+    const QString output = m_profile.output();
+    return !output.isEmpty() && output != ErrorText::invalidInput() &&
+           output != ErrorText::unitMissing();
+}
+
+bool KeypadCalculatorWidget::hasUnit() const
+{
+    return m_profile.outputUnit() != m_profile.plainUnit();
+}
+
+QString KeypadCalculatorWidget::resultWithUnit() const
+{
+    if (!hasUnit())
+        return m_profile.output();
+    return m_profile.output() + QLatin1Char(' ') + m_profile.unitText(m_profile.outputUnit());
+}
+
+void KeypadCalculatorWidget::showUnitSelector()
+{
+    m_outputUnit->setVisible(hasResult() && hasUnit());
+}
+
+/// What the person has typed during the slide has its result already, which stays.
+void KeypadCalculatorWidget::endTakeOver()
+{
+    if (m_profile.input() == m_takenOver)
+        m_profile.setOutput(QString());
+    onOutputUnitChanged();
+    onOutputChanged();
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VIEWS_KEYPADCALCULATORWIDGET_H
+#define VIEWS_KEYPADCALCULATORWIDGET_H
+
+#include "takeoverslide.h"
+
+#include <QWidget>
+
+class ExpressionProfile;
+class KelAutoResizeLineEdit;
+class QComboBox;
+class QLineEdit;
+
+/**
+ * What the pages of the expression calculators share: an input line, a keypad that types into it, a
+ * result that follows every keystroke, its unit, and a mode. The page hands texts and choices to
+ * its model and mirrors what the model announces; it computes nothing.
+ *
+ * A change that comes from the model starts no calculation through the selectors, so that a loaded
+ * result stays as it was stored.
+ */
+class KeypadCalculatorWidget : public QWidget
+{
+    Q_OBJECT
+
+protected:
+    /// @p profile must outlive the page.
+    KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent);
+
+    /// Connects the widgets of a form that has just been built, and shows the model once.
+    template <typename Form>
+    void setUp(const Form &form)
+    {
+        m_input = form.inputLineEdit;
+        m_outputRow = form.outputWidget;
+        m_output = form.outputLineEdit;
+        m_outputUnit = form.outputUnitComboBox;
+        m_mode = form.calcModeComboBox;
+        setUpInput();
+        setUpOutput();
+        connectKeys();
+        connectProfile();
+        showProfile();
+    }
+
+    /// For a choice of the person that an existing result depends on.
+    void recalculate();
+
+private Q_SLOTS:
+    void on_inputLineEdit_textChanged(const QString &text);
+    void on_inputLineEdit_returnPressed();
+    void on_outputUnitComboBox_currentIndexChanged(int index);
+    void on_calcModeComboBox_currentIndexChanged(int index);
+    void on_pushButton_calc_clicked();
+    /// Types the text of the key that was clicked.
+    void numpadButtonClicked();
+    void on_pushButton_C_clicked();
+    void on_pushButton_back_clicked();
+    void on_pushButton_plusMinus_clicked();
+    void onOutputFontSizeChanged(int fontsize);
+    void onInputChanged();
+    void onOutputChanged();
+    void onOutputUnitChanged();
+    void onModeChanged();
+    void onValidUnitsChanged();
+
+private:
+    void setUpInput();
+    void setUpOutput();
+    void connectKeys();
+    void connectProfile();
+    void showProfile();
+
+    /// Whether the output can be worked with: "---" and "bracket missing" are meant to count.
+    bool hasResult() const;
+    bool hasUnit() const;
+    QString resultWithUnit() const;
+    void showUnitSelector();
+    void endTakeOver();
+
+    ExpressionProfile &m_profile;
+    QLineEdit *m_input = nullptr;
+    QWidget *m_outputRow = nullptr;
+    KelAutoResizeLineEdit *m_output = nullptr;
+    QComboBox *m_outputUnit = nullptr;
+    QComboBox *m_mode = nullptr;
+    TakeOverSlide m_slide;
+    QString m_takenOver;
+};
+
+#endif

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "takeoverslide.h"
+
+#include "animations.h"
+
+#include <QLayout>
+#include <QParallelAnimationGroup>
+#include <QWidget>
+
+namespace {
+
+QPropertyAnimation *makeMove(QWidget *widget, const QPoint &from, const QPoint &to)
+{
+    return makeAnimation(widget, "pos", from, to);
+}
+
+void layOutAnew(const QWidget *widget)
+{
+    QLayout *layout = widget->parentWidget()->layout();
+    layout->invalidate();
+    layout->activate();
+}
+
+} // namespace
+
+TakeOverSlide::TakeOverSlide(QObject *parent) : QObject(parent) {}
+
+void TakeOverSlide::start(QWidget *resultRow, QWidget *input)
+{
+    const QPoint row = resultRow->pos();
+    const QPoint place = input->pos();
+    auto *moves = new QParallelAnimationGroup(this);
+    moves->addAnimation(makeMove(resultRow, row, row - QPoint(0, resultRow->height())));
+    moves->addAnimation(makeMove(input, place + QPoint(0, input->height()), place));
+    connect(moves, &QAbstractAnimation::finished, this, [this, resultRow, input] {
+        layOutAnew(resultRow);
+        layOutAnew(input);
+        m_isRunning = false;
+        Q_EMIT finished();
+    });
+    m_isRunning = true;
+    moves->start(QAbstractAnimation::DeleteWhenStopped);
+}

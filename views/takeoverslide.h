@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VIEWS_TAKEOVERSLIDE_H
+#define VIEWS_TAKEOVERSLIDE_H
+
+#include <QObject>
+
+class QWidget;
+
+/**
+ * The movement with which a result becomes the next input: the result row slides up by its own
+ * height while the input slides up into its place. At the end both are where their layouts put
+ * them, also if these have been laid out anew in the meantime.
+ */
+class TakeOverSlide final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TakeOverSlide(QObject *parent = nullptr);
+
+    bool isRunning() const { return m_isRunning; }
+
+    /// Both widgets must outlive the slide, and a slide that runs is not started again.
+    void start(QWidget *resultRow, QWidget *input);
+
+Q_SIGNALS:
+    void finished();
+
+private:
+    bool m_isRunning = false;
+};
+
+#endif

@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "calculatorpage.h"
+#include "dbmcalculatorwidget.h"
+#include "expectedmessages.h"
+#include "testmain.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+
+class DbmCalculatorWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void offersUnitsAndModes();
+    void aKeyTypesItsTextAtTheCursor_data();
+    void aKeyTypesItsTextAtTheCursor();
+    void aKeyReplacesTheSelection();
+    void keysAreNamed_data();
+    void keysAreNamed();
+    void everyKeyIsNamedAndTakesNoFocus();
+    void backspaceDeletesBeforeTheCursor();
+    void clearEmptiesBothLines();
+    void resultFollowsEveryKeystroke();
+    void calculatesWithTheKeypadAlone();
+    void choosesTheUnit();
+    void choosesTheMode();
+    void selectorIsShownWithAUnit_data();
+    void selectorIsShownWithAUnit();
+    void offersWhatMakesSense_data();
+    void offersWhatMakesSense();
+    void aMissingValidityIsNone();
+    void aDisabledUnitCannotBeChosen();
+
+private:
+    DbmCalculatorProfile &m_profile = MainProfile::instance().dbmCalculator();
+};
+
+namespace {
+
+const QStringList kUnits{QStringLiteral("dBm"),     QStringLiteral("mW"),  QStringLiteral("W"),
+                         QStringLiteral("\u00B5W"), QStringLiteral("dBW"), QStringLiteral("dB")};
+
+CalculatorPage shownPage()
+{
+    return CalculatorPage::shown<DbmCalculatorWidget>();
+}
+
+} // namespace
+
+void DbmCalculatorWidgetTest::initTestCase()
+{
+    applyStyleSheet();
+}
+
+void DbmCalculatorWidgetTest::init()
+{
+    loadDefaults();
+}
+
+void DbmCalculatorWidgetTest::offersUnitsAndModes()
+{
+    const CalculatorPage page = shownPage();
+    const QStringList modes{QStringLiteral("Incoherent Powers (Combiner)"),
+                            QStringLiteral("Coherent Powers (Combiner), \u0394\u03C6 = 0\u00B0"),
+                            QStringLiteral("Numeric Calculation")};
+
+    QCOMPARE(page.texts(page.unit()), kUnits);
+    QCOMPARE(page.texts(page.mode()), modes);
+    QCOMPARE(page.result(), QStringLiteral("--- dBm"));
+    QCOMPARE(page.input().text(), QString());
+}
+
+void DbmCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("typed");
+
+    for (int digit = 0; digit <= 9; ++digit) {
+        const QString text = QString::number(digit);
+        QTest::addRow("the digit %d", digit) << text << text;
+    }
+    QTest::newRow("the decimal point") << "point"
+                                       << ".";
+    QTest::newRow("plus") << "plus"
+                          << "+";
+    QTest::newRow("minus") << "minus"
+                           << "-";
+    QTest::newRow("the sign") << "plusMinus"
+                              << "-";
+    QTest::newRow("the level unit") << "dBm"
+                                    << "dBm";
+    QTest::newRow("the ratio unit") << "dB"
+                                    << "dB";
+    QTest::newRow("the small power unit") << "mW"
+                                          << "mW";
+    QTest::newRow("the power unit") << "W"
+                                    << "W";
+}
+
+void DbmCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, typed);
+    CalculatorPage page = shownPage();
+    page.type("()");
+    page.input().setCursorPosition(1);
+
+    page.press(key);
+
+    const QString expected = QStringLiteral("(") + typed + QStringLiteral(")");
+    QCOMPARE(page.input().text(), expected);
+    QCOMPARE(m_profile.input(), expected);
+    QCOMPARE(page.input().cursorPosition(), 1 + typed.size());
+    QVERIFY(page.input().hasFocus());
+}
+
+void DbmCalculatorWidgetTest::aKeyReplacesTheSelection()
+{
+    CalculatorPage page = shownPage();
+    page.type("123");
+    page.input().setSelection(0, 2);
+
+    page.press(QStringLiteral("7"));
+
+    QCOMPARE(page.input().text(), QStringLiteral("73"));
+}
+
+void DbmCalculatorWidgetTest::keysAreNamed_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("a digit by its text") << "4"
+                                         << "4";
+    QTest::newRow("a unit by its text") << "dBm"
+                                        << "dBm";
+    QTest::newRow("the decimal point") << "point"
+                                       << "Decimal point";
+    QTest::newRow("plus") << "plus"
+                          << "Plus";
+    QTest::newRow("minus") << "minus"
+                           << "Minus";
+    QTest::newRow("the sign") << "plusMinus"
+                              << "Change sign";
+    QTest::newRow("backspace") << "back"
+                               << "Backspace";
+    QTest::newRow("clear") << "C"
+                           << "Clear";
+    QTest::newRow("calculate") << "calc"
+                               << "Calculate";
+}
+
+void DbmCalculatorWidgetTest::keysAreNamed()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, name);
+    const CalculatorPage page = shownPage();
+
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&page.key(key));
+    QCOMPARE(interface->text(QAccessible::Name), name);
+    QCOMPARE(interface->role(), QAccessible::Button);
+}
+
+void DbmCalculatorWidgetTest::everyKeyIsNamedAndTakesNoFocus()
+{
+    const CalculatorPage page = shownPage();
+    const QList<QPushButton *> keys =
+        page.find<QWidget>("keyboard_db_calc").findChildren<QPushButton *>();
+
+    // 10 digits, point, plus, minus, sign, backspace, clear, calculate and 4 units.
+    QCOMPARE(keys.size(), 21);
+    for (QPushButton *key : keys) {
+        QVERIFY2(!QAccessible::queryAccessibleInterface(key)->text(QAccessible::Name).isEmpty(),
+                 qPrintable(key->objectName()));
+        QVERIFY2(key->focusPolicy() == Qt::NoFocus, qPrintable(key->objectName()));
+    }
+    QCOMPARE(page.find<QWidget>("unitWidget").findChildren<QPushButton *>().size(), 4);
+    QCOMPARE(page.key(QStringLiteral("back")).text(), QStringLiteral("\u232B"));
+}
+
+void DbmCalculatorWidgetTest::backspaceDeletesBeforeTheCursor()
+{
+    CalculatorPage page = shownPage();
+    page.type("123");
+    page.input().setCursorPosition(2);
+
+    page.press(QStringLiteral("back"));
+
+    QCOMPARE(page.input().text(), QStringLiteral("13"));
+    QCOMPARE(m_profile.input(), QStringLiteral("13"));
+    QVERIFY(page.input().hasFocus());
+}
+
+void DbmCalculatorWidgetTest::clearEmptiesBothLines()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+
+    page.press(QStringLiteral("C"));
+
+    QCOMPARE(page.input().text(), QString());
+    QCOMPARE(m_profile.input(), QString());
+    QCOMPARE(page.result(), QString());
+    QCOMPARE(m_profile.output(), QString());
+    QVERIFY(page.input().hasFocus());
+}
+
+void DbmCalculatorWidgetTest::resultFollowsEveryKeystroke()
+{
+    CalculatorPage page = shownPage();
+
+    page.type("3 dBm");
+    QCOMPARE(page.result(), QStringLiteral("invalid input"));
+    page.type(" + 3");
+    QCOMPARE(page.result(), QStringLiteral("unit missing"));
+    // 3 dBm and a gain of 3 dB
+    page.type(" dB");
+    QCOMPARE(page.result(), QStringLiteral("6.00 dBm"));
+    // an ideal combiner of two equal incoherent powers delivers their mean
+    page.type("m");
+    QCOMPARE(page.result(), QStringLiteral("3.00 dBm"));
+    page.type(Qt::Key_Backspace);
+    QCOMPARE(page.result(), QStringLiteral("6.00 dBm"));
+}
+
+void DbmCalculatorWidgetTest::calculatesWithTheKeypadAlone()
+{
+    CalculatorPage page = shownPage();
+    for (const char *key :
+         {"plusMinus", "3", "0", "dBm", "plus", "2", "0", "dB", "minus", "3", "point", "5", "dB"})
+        page.press(QString::fromLatin1(key));
+
+    QCOMPARE(page.input().text(), QStringLiteral("-30dBm+20dB-3.5dB"));
+    // -30 + 20 - 3.5
+    QCOMPARE(page.result(), QStringLiteral("-13.50 dBm"));
+}
+
+void DbmCalculatorWidgetTest::choosesTheUnit()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+
+    page.unit().setFocus();
+    QStringList results;
+    for (int i = 0; i < kUnits.size(); ++i) {
+        page.type(Qt::Key_Down);
+        results += page.result();
+    }
+
+    // 10 dBm are 10 mW. The ratio is disabled, so the last step stays at dBW.
+    const QStringList expected{QStringLiteral("10 mW"),         QStringLiteral("0.01 W"),
+                               QStringLiteral("1E+04 \u00B5W"), QStringLiteral("-20.00 dBW"),
+                               QStringLiteral("-20.00 dBW"),    QStringLiteral("-20.00 dBW")};
+    QCOMPARE(results, expected);
+    QCOMPARE(m_profile.outputUnit(), 4);
+}
+
+void DbmCalculatorWidgetTest::choosesTheMode()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+
+    page.mode().setFocus();
+    page.type(Qt::Key_Down);
+    // 10 mW + 10 mW = 20 mW
+    QCOMPARE(page.result(), QStringLiteral("13.01 dBm"));
+    QCOMPARE(m_profile.mode(), 1);
+    page.type(Qt::Key_Down);
+    QCOMPARE(page.result(), QStringLiteral("13.01 dBm"));
+    QCOMPARE(m_profile.mode(), 2);
+    page.type(Qt::Key_Home);
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+    QCOMPARE(m_profile.mode(), 0);
+}
+
+void DbmCalculatorWidgetTest::selectorIsShownWithAUnit_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("a level") << QByteArray("10dBm-3dB") << "7.00 dBm";
+    QTest::newRow("a ratio") << QByteArray("3dB+3dB") << "6.00 dB";
+    QTest::newRow("no level below zero") << QByteArray("1mW-2mW") << "-1 mW";
+    QTest::newRow("a plain number") << QByteArray("1+2") << "3";
+    QTest::newRow("a lone value") << QByteArray("1mW") << "invalid input";
+    QTest::newRow("one unit only") << QByteArray("1mW+1") << "unit missing";
+    QTest::newRow("an open bracket keeps the unit")
+        << QByteArray("(1mW+1mW") << "bracket missing dBm";
+}
+
+void DbmCalculatorWidgetTest::selectorIsShownWithAUnit()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QString, result);
+    CalculatorPage page = shownPage();
+
+    page.type(input.constData());
+
+    QCOMPARE(page.result(), result);
+}
+
+void DbmCalculatorWidgetTest::offersWhatMakesSense_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QStringList>("units");
+
+    QTest::newRow("a power in all but the ratio")
+        << QByteArray("1mW+1mW") << QStringList(kUnits.mid(0, 5));
+    QTest::newRow("a ratio as nothing else") << QByteArray("3dB+3dB") << QStringList(kUnits.mid(5));
+    QTest::newRow("a negative power has no level")
+        << QByteArray("1mW-2mW") << QStringList(kUnits.mid(1, 3));
+    QTest::newRow("a plain number in no unit") << QByteArray("1+2") << QStringList();
+}
+
+void DbmCalculatorWidgetTest::offersWhatMakesSense()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QStringList, units);
+    CalculatorPage page = shownPage();
+
+    page.type(input.constData());
+
+    QCOMPARE(page.offeredUnits(), units);
+    QCOMPARE(page.texts(page.unit()), kUnits);
+}
+
+void DbmCalculatorWidgetTest::aMissingValidityIsNone()
+{
+    const CalculatorPage page = shownPage();
+    QCOMPARE(page.offeredUnits(), kUnits);
+
+    m_profile.setValidUnits({{1, true}, {2, false}});
+
+    QCOMPARE(page.offeredUnits(), QStringList{QStringLiteral("mW")});
+}
+
+void DbmCalculatorWidgetTest::aDisabledUnitCannotBeChosen()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    const ExpectedMessages popups(offscreenPopupMessages());
+    // Within this time a list takes a release for the end of the click that opened it.
+    QApplication::setDoubleClickInterval(0);
+    const auto click = [&page](int row) {
+        QAbstractItemView &list = *page.unit().view();
+        page.unit().showPopup();
+        QCoreApplication::processEvents();
+        const QPoint item = list.visualRect(page.unit().model()->index(row, 0)).center();
+        QTest::mouseMove(list.viewport(), item);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, item);
+        page.unit().hidePopup();
+    };
+
+    click(5);
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+    click(1);
+    QCOMPARE(page.result(), QStringLiteral("10 mW"));
+}
+
+DEZIMO_TEST_MAIN(QApplication, DbmCalculatorWidgetTest)
+#include "tst_dbmcalculatorwidget.moc"

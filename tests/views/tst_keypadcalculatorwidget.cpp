@@ -1,0 +1,446 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "calculatorpage.h"
+#include "dbmcalculatorwidget.h"
+#include "kelautoresizelineedit.h"
+#include "settingsfile.h"
+#include "testmain.h"
+#include "voltagecalculatorwidget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QSignalSpy>
+#include <QTest>
+
+/// What the pages share, shown on the dBm calculator's.
+class KeypadCalculatorWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void choicesWithoutAResultCalculateNothing();
+    void mirroredChoicesCalculateNothing();
+    void showsTheModelOnce();
+    void showsALoadedStateAsItWasStored();
+    void defaultsBringTheSelectorBack();
+    void typingInTheMiddleKeepsTheCursor();
+    void unitHasTheFontSizeOfTheResult();
+    void errorWordsAreMarked();
+    void resultIsReadOnlyAndCanBeCopied();
+    void keysGiveTheFocusToTheInput();
+    void tabGoesThroughThePage();
+    void takesALongPastedText();
+    void retranslationKeepsTheState();
+
+    void takesOverTheResult_data();
+    void takesOverTheResult();
+    void refusesToTakeOver_data();
+    void refusesToTakeOver();
+    void whatIsTypedDuringTheSlideStays();
+    void anotherUnitIsShownAfterTheSlide();
+    void clearDuringTheSlide();
+    void resizedDuringTheSlide();
+    void hiddenDuringTheSlide();
+    void destroyedDuringTheSlide();
+
+private:
+    DbmCalculatorProfile &m_profile = MainProfile::instance().dbmCalculator();
+};
+
+namespace {
+
+CalculatorPage shownPage()
+{
+    return CalculatorPage::shown<DbmCalculatorWidget>();
+}
+
+void load(DbmCalculatorProfile &profile, const QMap<QString, QVariant> &state)
+{
+    SettingsFile file;
+    file.settings().beginGroup(QStringLiteral("DbmCalculatorProfile"));
+    for (auto it = state.cbegin(); it != state.cend(); ++it)
+        file.settings().setValue(it.key(), it.value());
+    file.settings().endGroup();
+    profile.loadSettings(file.settings());
+}
+
+} // namespace
+
+void KeypadCalculatorWidgetTest::initTestCase()
+{
+    applyStyleSheet();
+}
+
+void KeypadCalculatorWidgetTest::init()
+{
+    loadDefaults();
+}
+
+void KeypadCalculatorWidgetTest::choicesWithoutAResultCalculateNothing()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    m_profile.setOutput(QString());
+    const QSignalSpy outputs(&m_profile, &ExpressionProfile::outputChanged);
+
+    page.mode().setFocus();
+    page.type(Qt::Key_Down);
+    QCOMPARE(m_profile.mode(), 1);
+    page.unit().setCurrentIndex(1);
+    QCOMPARE(m_profile.outputUnit(), 1);
+
+    QCOMPARE(outputs.count(), 0);
+    QCOMPARE(page.result(), QString());
+}
+
+void KeypadCalculatorWidgetTest::mirroredChoicesCalculateNothing()
+{
+    const CalculatorPage page = shownPage();
+    const QSignalSpy outputs(&m_profile, &ExpressionProfile::outputChanged);
+
+    m_profile.setOutputUnit(2);
+    m_profile.setMode(1);
+
+    QCOMPARE(page.result(), QStringLiteral("--- W"));
+    QCOMPARE(page.mode().currentIndex(), 1);
+    QCOMPARE(outputs.count(), 0);
+}
+
+void KeypadCalculatorWidgetTest::showsTheModelOnce()
+{
+    m_profile.setInput(QStringLiteral("10dBm+10dBm"));
+    m_profile.setOutput(QStringLiteral("7.77"));
+    m_profile.setOutputUnit(1);
+    m_profile.setMode(2);
+    m_profile.setValidUnits({{1, true}});
+    const QSignalSpy outputs(&m_profile, &ExpressionProfile::outputChanged);
+
+    const CalculatorPage page = shownPage();
+
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    QCOMPARE(page.result(), QStringLiteral("7.77 mW"));
+    QCOMPARE(page.mode().currentIndex(), 2);
+    QCOMPARE(page.offeredUnits(), QStringList{QStringLiteral("mW")});
+    QCOMPARE(outputs.count(), 0);
+}
+
+/// Setting the input calculates, as every change of the input line does; what was stored comes
+/// after it.
+void KeypadCalculatorWidgetTest::showsALoadedStateAsItWasStored()
+{
+    CalculatorPage page = shownPage();
+    page.type("1mW-2mW");
+
+    load(m_profile, {{QStringLiteral("input"), QStringLiteral("10dBm+10dBm")},
+                     {QStringLiteral("output"), QStringLiteral("---")},
+                     {QStringLiteral("outputUnit"), 4},
+                     {QStringLiteral("mode"), 2},
+                     {QStringLiteral("WValid"), false}});
+
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    QCOMPARE(page.result(), QStringLiteral("--- dBW"));
+    QCOMPARE(m_profile.output(), QStringLiteral("---"));
+    QCOMPARE(page.mode().currentIndex(), 2);
+    const QStringList offered{QStringLiteral("dBm"), QStringLiteral("mW"),
+                              QStringLiteral("\u00B5W"), QStringLiteral("dBW"),
+                              QStringLiteral("dB")};
+    QCOMPARE(page.offeredUnits(), offered);
+}
+
+void KeypadCalculatorWidgetTest::defaultsBringTheSelectorBack()
+{
+    CalculatorPage page = shownPage();
+    page.type("1+2");
+    QCOMPARE(page.result(), QStringLiteral("3"));
+
+    load(m_profile, {});
+
+    QCOMPARE(page.input().text(), QString());
+    QCOMPARE(page.result(), QStringLiteral("--- dBm"));
+}
+
+void KeypadCalculatorWidgetTest::typingInTheMiddleKeepsTheCursor()
+{
+    CalculatorPage page = shownPage();
+    page.type("1dBm+dB");
+    page.input().setCursorPosition(5);
+
+    page.type("20");
+
+    QCOMPARE(page.input().text(), QStringLiteral("1dBm+20dB"));
+    QCOMPARE(page.input().cursorPosition(), 7);
+    page.input().undo();
+    QVERIFY(page.input().text() != QStringLiteral("1dBm+20dB"));
+}
+
+void KeypadCalculatorWidgetTest::unitHasTheFontSizeOfTheResult()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    auto &output = page.find<KelAutoResizeLineEdit>("outputLineEdit");
+    QSignalSpy sizes(&output, &KelAutoResizeLineEdit::fontSizeChanged);
+    const auto sheet = [](int size) {
+        return QStringLiteral("font-size: %1px").arg(size);
+    };
+
+    page.widget().resize(560, 430);
+    QTRY_VERIFY(!sizes.isEmpty());
+    QCOMPARE(page.unit().styleSheet(), sheet(sizes.last().first().toInt()));
+    QCOMPARE(output.styleSheet(), page.unit().styleSheet());
+
+    m_profile.setOutput(QString(400, QLatin1Char('8')));
+    QCOMPARE(page.unit().styleSheet(), sheet(10));
+    QCOMPARE(output.styleSheet(), sheet(10));
+}
+
+void KeypadCalculatorWidgetTest::errorWordsAreMarked()
+{
+    CalculatorPage page = shownPage();
+    QVERIFY(!page.output().property("error").toBool());
+    page.type("1mW+1");
+    QVERIFY(page.output().property("error").toBool());
+    page.type("mW");
+    QVERIFY(!page.output().property("error").toBool());
+}
+
+void KeypadCalculatorWidgetTest::resultIsReadOnlyAndCanBeCopied()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+
+    page.output().setFocus();
+    page.type("5");
+    QCOMPARE(page.output().text(), QStringLiteral("10.00"));
+    QTest::keySequence(&page.output(), QKeySequence::SelectAll);
+    QTest::keySequence(&page.output(), QKeySequence::Copy);
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("10.00"));
+}
+
+void KeypadCalculatorWidgetTest::keysGiveTheFocusToTheInput()
+{
+    CalculatorPage page = shownPage();
+    QVERIFY(page.input().hasFocus());
+    page.mode().setFocus();
+
+    page.press(QStringLiteral("4"));
+    page.type("2");
+
+    QCOMPARE(page.input().text(), QStringLiteral("42"));
+    page.mode().setFocus();
+    page.press(QStringLiteral("back"));
+    QVERIFY(page.input().hasFocus());
+}
+
+void KeypadCalculatorWidgetTest::tabGoesThroughThePage()
+{
+    CalculatorPage page = CalculatorPage::shown<VoltageCalculatorWidget>();
+    QStringList names;
+    for (int i = 0; i < 5; ++i) {
+        names += page.widget().focusWidget()->objectName();
+        page.type(Qt::Key_Tab);
+    }
+
+    const QStringList expected{QStringLiteral("inputLineEdit"), QStringLiteral("outputLineEdit"),
+                               QStringLiteral("outputUnitComboBox"),
+                               QStringLiteral("calcModeComboBox"), QStringLiteral("phaseSpinBox")};
+    QCOMPARE(names, expected);
+    QVERIFY(page.input().hasFocus());
+}
+
+void KeypadCalculatorWidgetTest::takesALongPastedText()
+{
+    CalculatorPage page = shownPage();
+    m_profile.setMode(2);
+    // 8192 powers; 4 * 8192 - 1 characters are as many as a line edit holds
+    const QString text = QStringLiteral("1mW+").repeated(8192).chopped(1);
+    QCOMPARE(text.size(), 32767);
+    QApplication::clipboard()->setText(text);
+
+    QTest::keySequence(&page.input(), QKeySequence::Paste);
+
+    QCOMPARE(m_profile.input(), text);
+    // 10 lg 8192 = 39.134
+    QCOMPARE(page.result(), QStringLiteral("39.13 dBm"));
+}
+
+void KeypadCalculatorWidgetTest::retranslationKeepsTheState()
+{
+    CalculatorPage page = shownPage();
+    m_profile.setMode(1);
+    page.type("1mW-2mW");
+    const QStringList offered = page.offeredUnits();
+
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&page.widget(), &change);
+
+    QCOMPARE(page.input().text(), QStringLiteral("1mW-2mW"));
+    QCOMPARE(page.result(), QStringLiteral("-1 mW"));
+    QCOMPARE(page.mode().currentIndex(), 1);
+    QCOMPARE(page.offeredUnits(), offered);
+}
+
+void KeypadCalculatorWidgetTest::takesOverTheResult_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("a level, by Return") << QByteArray("10dBm+10dBm") << false << "10.00 dBm";
+    QTest::newRow("a level, by the key") << QByteArray("10dBm+10dBm") << true << "10.00 dBm";
+    QTest::newRow("a negative ratio") << QByteArray("3dB-10dB") << true << "-7.00 dB";
+    QTest::newRow("a plain number has no unit") << QByteArray("1+2") << false << "3";
+    QTest::newRow("an open bracket is meant to be taken")
+        << QByteArray("(1mW") << false << "bracket missing dBm";
+}
+
+void KeypadCalculatorWidgetTest::takesOverTheResult()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(bool, byKey);
+    QFETCH(QString, result);
+    CalculatorPage page = shownPage();
+    page.type(input.constData());
+    QCoreApplication::processEvents();
+    const std::vector<QPoint> places = page.places();
+    const int rowTop = page.outputRow().y();
+    const int inputTop = page.input().y();
+    const MoveLog rowMoves(page.outputRow());
+    const MoveLog inputMoves(page.input());
+
+    byKey ? page.press(QStringLiteral("calc")) : page.type(Qt::Key_Return);
+    QCOMPARE(page.input().text(), result);
+    QCOMPARE(m_profile.input(), result);
+    QCOMPARE(page.result(), result);
+
+    QTRY_COMPARE(m_profile.output(), QString());
+    QCOMPARE(page.result(), QString());
+    QCOMPARE(page.input().text(), result);
+    QCOMPARE(rowMoves.highest(), rowTop - page.outputRow().height());
+    QCOMPARE(inputMoves.lowest(), inputTop + page.input().height());
+    QCOMPARE(page.places(), places);
+    QVERIFY(page.input().hasFocus());
+}
+
+void KeypadCalculatorWidgetTest::refusesToTakeOver_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QString>("output");
+
+    QTest::newRow("an invalid input") << QByteArray("1mW+") << "invalid input";
+    QTest::newRow("a missing unit") << QByteArray("1mW+1") << "unit missing";
+    QTest::newRow("no result") << QByteArray("") << "";
+}
+
+void KeypadCalculatorWidgetTest::refusesToTakeOver()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QString, output);
+    CalculatorPage page = shownPage();
+    page.type(input.constData());
+    m_profile.setOutput(output);
+    const MoveLog rowMoves(page.outputRow());
+    const MoveLog inputMoves(page.input());
+
+    page.type(Qt::Key_Return);
+    page.press(QStringLiteral("calc"));
+
+    QCOMPARE(page.input().text(), QString::fromUtf8(input));
+    QCOMPARE(page.result(), output);
+    QVERIFY(rowMoves.places().empty());
+    QVERIFY(inputMoves.places().empty());
+}
+
+void KeypadCalculatorWidgetTest::whatIsTypedDuringTheSlideStays()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+
+    page.type("+1dB");
+    QCOMPARE(m_profile.output(), QStringLiteral("11.00"));
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+    // A second press meets a result that it could take over, but not yet.
+    page.press(QStringLiteral("calc"));
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm+1dB"));
+
+    QTRY_COMPARE(page.result(), QStringLiteral("11.00 dBm"));
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm+1dB"));
+    page.press(QStringLiteral("calc"));
+    QCOMPARE(page.input().text(), QStringLiteral("11.00 dBm"));
+}
+
+void KeypadCalculatorWidgetTest::anotherUnitIsShownAfterTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+
+    // 10 mW - 20 mW, which is no level
+    page.type("-20mW");
+    QCOMPARE(m_profile.outputUnit(), 1);
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+
+    QTRY_COMPARE(page.result(), QStringLiteral("-10 mW"));
+}
+
+void KeypadCalculatorWidgetTest::clearDuringTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+
+    page.press(QStringLiteral("C"));
+
+    QTRY_COMPARE(page.result(), QString());
+    QCOMPARE(page.input().text(), QString());
+    QCOMPARE(m_profile.output(), QString());
+}
+
+void KeypadCalculatorWidgetTest::resizedDuringTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+    page.widget().resize(640, 480);
+    QTRY_COMPARE(page.result(), QString());
+
+    CalculatorPage another = shownPage();
+    another.widget().resize(640, 480);
+    QTRY_COMPARE(page.places(), another.places());
+}
+
+void KeypadCalculatorWidgetTest::hiddenDuringTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    QCoreApplication::processEvents();
+    const std::vector<QPoint> places = page.places();
+
+    page.type(Qt::Key_Return);
+    page.widget().hide();
+    QTRY_COMPARE(m_profile.output(), QString());
+    page.widget().show();
+
+    QTRY_COMPARE(page.places(), places);
+}
+
+void KeypadCalculatorWidgetTest::destroyedDuringTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+
+    page.destroy();
+
+    QCOMPARE(m_profile.input(), QStringLiteral("10.00 dBm"));
+    CalculatorPage another = shownPage();
+    another.type("+1dB");
+    QCOMPARE(another.result(), QStringLiteral("11.00 dBm"));
+}
+
+DEZIMO_TEST_MAIN(QApplication, KeypadCalculatorWidgetTest)
+#include "tst_keypadcalculatorwidget.moc"

@@ -52,6 +52,15 @@ void KelLineEdit::setSuffixText(const QString &text)
     updateDescription();
 }
 
+void KelLineEdit::setPlaceholderColor(const QColor &color)
+{
+    if (color == m_placeholderColor)
+        return;
+    m_placeholderColor = color;
+    applyPlaceholderColor();
+    Q_EMIT placeholderColorChanged();
+}
+
 void KelLineEdit::setErrorTexts(const QStringList &texts)
 {
     m_errorTexts = texts;
@@ -63,6 +72,8 @@ bool KelLineEdit::event(QEvent *event)
     // Posted by a label whose size hint changes, for example with the font of a style sheet.
     if (event->type() == QEvent::LayoutRequest)
         layOutLabels();
+    if (event->type() == QEvent::PaletteChange)
+        applyPlaceholderColor();
     return QLineEdit::event(event);
 }
 
@@ -110,4 +121,16 @@ void KelLineEdit::updateError()
     style()->unpolish(this);
     style()->polish(this);
     Q_EMIT errorChanged();
+}
+
+/// A style sheet writes its own palette whenever it is applied; the placeholder's color is put
+/// back.
+void KelLineEdit::applyPlaceholderColor()
+{
+    QPalette colors = palette();
+    if (!m_placeholderColor.isValid() ||
+        colors.color(QPalette::PlaceholderText) == m_placeholderColor)
+        return;
+    colors.setColor(QPalette::PlaceholderText, m_placeholderColor);
+    setPalette(colors);
 }

@@ -4,6 +4,7 @@
 #ifndef WIDGETS_KELLINEEDIT_H
 #define WIDGETS_KELLINEEDIT_H
 
+#include <QColor>
 #include <QLineEdit>
 #include <QStringList>
 
@@ -21,6 +22,8 @@ class KelLineEdit : public QLineEdit
 {
     Q_OBJECT
     Q_PROPERTY(bool error READ hasError NOTIFY errorChanged)
+    Q_PROPERTY(QColor placeholderColor READ placeholderColor WRITE setPlaceholderColor NOTIFY
+                   placeholderColorChanged)
 
 public:
     explicit KelLineEdit(QWidget *parent = nullptr);
@@ -28,12 +31,18 @@ public:
     /// Whether the whole text is one of the error texts.
     bool hasError() const { return m_hasError; }
 
+    /// The color of the placeholder. A style sheet sets it as qproperty-placeholderColor: by itself
+    /// Qt 5.15 draws placeholders in the full text color of the sheet, like something typed.
+    QColor placeholderColor() const { return m_placeholderColor; }
+    void setPlaceholderColor(const QColor &color);
+
     void setPrefixText(const QString &text);
     void setSuffixText(const QString &text);
     void setErrorTexts(const QStringList &texts);
 
 Q_SIGNALS:
     void errorChanged();
+    void placeholderColorChanged();
 
 protected:
     bool event(QEvent *event) override;
@@ -44,12 +53,14 @@ private:
     void layOutLabels();
     void updateDescription();
     void updateError();
+    void applyPlaceholderColor();
 
     QLabel *const m_prefixLabel;
     QLabel *const m_suffixLabel;
     QString m_labelDescription;
     QStringList m_errorTexts;
     bool m_hasError = false;
+    QColor m_placeholderColor;
 };
 
 #endif

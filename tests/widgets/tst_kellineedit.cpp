@@ -35,6 +35,8 @@ private Q_SLOTS:
     void errorFollowsTheListOfTexts();
     void styleSheetFollowsTheError();
 
+    void placeholderKeepsItsColorUnderAStyleSheet();
+
     void describesItsLabels();
     void keepsADescriptionOfItsOwn();
     void hidesItsLabelsFromScreenReaders();
@@ -225,6 +227,30 @@ void KelLineEditTest::styleSheetFollowsTheError()
     QCOMPARE(m_edit->palette().color(QPalette::Text), error);
     m_edit->setText(QStringLiteral("1"));
     QVERIFY(m_edit->palette().color(QPalette::Text) != error);
+}
+
+void KelLineEditTest::placeholderKeepsItsColorUnderAStyleSheet()
+{
+    const auto placeholder = [this] {
+        return m_edit->palette().color(QPalette::PlaceholderText);
+    };
+    qApp->setStyleSheet(QStringLiteral("QWidget { color: #102030 }"
+                                       "KelLineEdit { qproperty-placeholderColor: #405060 }"));
+    QCOMPARE(m_edit->placeholderColor(), QColor(0x40, 0x50, 0x60));
+    QCOMPARE(placeholder(), QColor(0x40, 0x50, 0x60));
+    QCOMPARE(m_edit->palette().color(QPalette::Text), QColor(0x10, 0x20, 0x30));
+
+    m_edit->setStyleSheet(QStringLiteral("font-size: 20px"));
+    m_edit->setErrorTexts({QStringLiteral("invalid input")});
+    m_edit->setText(QStringLiteral("invalid input"));
+    QCOMPARE(placeholder(), QColor(0x40, 0x50, 0x60));
+
+    const QSignalSpy changed(m_edit, &KelLineEdit::placeholderColorChanged);
+    m_edit->setPlaceholderColor(QColor(0x40, 0x50, 0x60));
+    QCOMPARE(changed.count(), 0);
+    m_edit->setPlaceholderColor(Qt::black);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(placeholder(), QColor(Qt::black));
 }
 
 void KelLineEditTest::describesItsLabels()

@@ -1,0 +1,247 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "resources.h"
+#include "testmain.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <vector>
+
+namespace {
+
+/// The least ratio that a pair needs, after the Web Content Accessibility Guidelines 2.1.
+constexpr double kText = 4.5;
+constexpr double kMark = 3.0;      ///< large text, borders of controls, icons, the focus mark
+constexpr double kNoMinimum = 1.0; ///< inactive text, shades and lines that tell nothing alone
+
+/// Two colors that meet on the screen.
+struct Pair
+{
+    const char *use;
+    const char *foreground;
+    const char *background;
+    double minimum;
+};
+
+const std::vector<Pair> &brightPairs()
+{
+    static const std::vector<Pair> pairs{
+        {"text on the window", "#1e2328", "#f5f7f9", kText},
+        {"text in a field", "#1e2328", "#ffffff", kText},
+        {"text under the pointer and on function keys", "#1e2328", "#e8edf1", kText},
+        {"text of a chosen item", "#1e2328", "#e0f0fa", kText},
+        {"muted text on the window", "#56606a", "#f5f7f9", kText},
+        {"placeholder in a field", "#56606a", "#ffffff", kText},
+        {"chosen tab on the window", "#00669b", "#f5f7f9", kText},
+        {"unit key", "#00669b", "#ffffff", kText},
+        {"unit key under the pointer", "#00669b", "#e8edf1", kText},
+        {"chosen module", "#00669b", "#e0f0fa", kText},
+        {"calculate key, selected text, checked segment", "#ffffff", "#00669b", kText},
+        {"calculate key under the pointer", "#ffffff", "#00557f", kText},
+        {"error on the window", "#b3261e", "#f5f7f9", kText},
+        {"error in a field", "#b3261e", "#ffffff", kText},
+        {"border of a field on the window", "#7e8994", "#f5f7f9", kMark},
+        {"border of a field against its inside", "#7e8994", "#ffffff", kMark},
+        {"border under the pointer", "#3b4650", "#f5f7f9", kMark},
+        {"focus mark on the window", "#008ed6", "#f5f7f9", kMark},
+        {"focus mark in a field", "#008ed6", "#ffffff", kMark},
+        {"bar of the chosen module", "#008ed6", "#e0f0fa", kMark},
+        {"inactive text", "#8b959e", "#f5f7f9", kNoMinimum},
+        {"quiet line", "#d5dbe1", "#f5f7f9", kNoMinimum},
+    };
+    return pairs;
+}
+
+const std::vector<Pair> &darkPairs()
+{
+    static const std::vector<Pair> pairs{
+        {"text on the window", "#e8ecf0", "#1e2328", kText},
+        {"text in a field", "#e8ecf0", "#262c33", kText},
+        {"text under the pointer and on function keys", "#e8ecf0", "#333c45", kText},
+        {"text of a chosen item", "#e8ecf0", "#17394f", kText},
+        {"muted text on the window", "#a9b4bf", "#1e2328", kText},
+        {"placeholder in a field", "#a9b4bf", "#262c33", kText},
+        {"chosen tab on the window", "#5ab8ec", "#1e2328", kText},
+        {"unit key", "#5ab8ec", "#262c33", kText},
+        {"unit key under the pointer", "#5ab8ec", "#333c45", kText},
+        {"chosen module", "#5ab8ec", "#17394f", kText},
+        {"calculate key, selected text, checked segment", "#1e2328", "#5ab8ec", kText},
+        {"calculate key under the pointer", "#1e2328", "#8accf2", kText},
+        {"error on the window", "#ff8a80", "#1e2328", kText},
+        {"error in a field", "#ff8a80", "#262c33", kText},
+        {"border of a field on the window", "#7d8893", "#1e2328", kMark},
+        {"border of a field against its inside", "#7d8893", "#262c33", kMark},
+        {"border under the pointer", "#dfe5ea", "#1e2328", kMark},
+        {"focus mark on the window", "#008ed6", "#1e2328", kMark},
+        {"focus mark in a field", "#008ed6", "#262c33", kMark},
+        {"bar of the chosen module", "#008ed6", "#17394f", kMark},
+        {"inactive text", "#6b7680", "#1e2328", kNoMinimum},
+        {"quiet line", "#3a424b", "#1e2328", kNoMinimum},
+    };
+    return pairs;
+}
+
+/// The relative luminance of sRGB, as the guidelines define it.
+double luminance(const QColor &color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+bool isOfTheme(const QString &fileName, bool dark)
+{
+    const bool isDark = fileName.contains(QLatin1String("_dark."));
+    const bool isBright =
+        fileName.contains(QLatin1String("_bright.")) || fileName.contains(QLatin1String("_light."));
+    return dark ? isDark : isBright;
+}
+
+/// Every color that the sheets of a theme, or the common ones, write: "#rrggbb", and any other way
+/// of writing a color, which no pair can name.
+QSet<QString> colorsOf(const QStringList &files)
+{
+    static const QRegularExpression color(
+        QStringLiteral("#[0-9a-fA-F]{3,8}\\b(?=[^{}]*;)|\\b(?:rgba?|hsva?|hsla?)\\([^)]*\\)"));
+    QSet<QString> colors;
+    for (const QString &name : files) {
+        QFile file(name);
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        for (auto it = color.globalMatch(QString::fromLatin1(file.readAll())); it.hasNext();)
+            colors += it.next().captured().toLower();
+    }
+    return colors;
+}
+
+QStringList sheets(const std::function<bool(const QString &)> &wanted)
+{
+    QStringList files{QStringLiteral(":/main_light.qss"), QStringLiteral(":/main_dark.qss")};
+    const QDir folder(QStringLiteral(":/Global/Style/"));
+    const QStringList names = folder.entryList({QStringLiteral("*.qss")});
+    for (const QString &name : names)
+        files += folder.filePath(name);
+    QStringList chosen;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(chosen), wanted);
+    return chosen;
+}
+
+QSet<QString> colorsIn(const std::vector<Pair> &pairs)
+{
+    QSet<QString> colors;
+    for (const Pair &pair : pairs)
+        colors << QString::fromLatin1(pair.foreground) << QString::fromLatin1(pair.background);
+    return colors;
+}
+
+QStringList sorted(const QSet<QString> &set)
+{
+    QStringList list = set.values();
+    list.sort();
+    return list;
+}
+
+} // namespace
+
+class ContrastTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void computesTheRatioOfTheGuidelines();
+    void everyPairIsReadable_data();
+    void everyPairIsReadable();
+    void everyColorOfTheSheetsIsInAPair_data();
+    void everyColorOfTheSheetsIsInAPair();
+    void commonSheetsHoldNoColor();
+};
+
+void ContrastTest::initTestCase()
+{
+    initDezimoResources();
+}
+
+void ContrastTest::computesTheRatioOfTheGuidelines()
+{
+    QCOMPARE(contrast(Qt::white, Qt::black), 21.0);
+    QCOMPARE(contrast(Qt::black, Qt::black), 1.0);
+    // The guidelines' own borderline gray: #767676 on white has 4.54:1.
+    QCOMPARE(std::round(contrast(QColor(0x76, 0x76, 0x76), Qt::white) * 100), 454.0);
+}
+
+void ContrastTest::everyPairIsReadable_data()
+{
+    QTest::addColumn<QColor>("foreground");
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<double>("minimum");
+
+    const auto rows = [](const char *theme, const std::vector<Pair> &pairs) {
+        for (const Pair &pair : pairs)
+            QTest::newRow(QByteArray(theme).append(pair.use).constData())
+                << QColor(QLatin1String(pair.foreground)) << QColor(QLatin1String(pair.background))
+                << pair.minimum;
+    };
+    rows("bright: ", brightPairs());
+    rows("dark: ", darkPairs());
+}
+
+void ContrastTest::everyPairIsReadable()
+{
+    QFETCH(QColor, foreground);
+    QFETCH(QColor, background);
+    QFETCH(double, minimum);
+
+    const double ratio = contrast(foreground, background);
+    QVERIFY2(ratio >= minimum, QByteArray::number(ratio).constData());
+}
+
+void ContrastTest::everyColorOfTheSheetsIsInAPair_data()
+{
+    QTest::addColumn<bool>("dark");
+
+    QTest::newRow("bright") << false;
+    QTest::newRow("dark") << true;
+}
+
+void ContrastTest::everyColorOfTheSheetsIsInAPair()
+{
+    QFETCH(bool, dark);
+
+    const QSet<QString> used =
+        colorsOf(sheets([dark](const QString &name) { return isOfTheme(name, dark); }));
+    // Equal both ways: a pair whose color no sheet uses any more would prove nothing.
+    QCOMPARE(sorted(used), sorted(colorsIn(dark ? darkPairs() : brightPairs())));
+}
+
+void ContrastTest::commonSheetsHoldNoColor()
+{
+    QCOMPARE(sorted(colorsOf(sheets([](const QString &name) {
+                 return !isOfTheme(name, true) && !isOfTheme(name, false);
+             }))),
+             QStringList());
+}
+
+DEZIMO_TEST_MAIN(QCoreApplication, ContrastTest)
+
+#include "tst_contrast.moc"

@@ -82,8 +82,9 @@ public:
     void loadSettings(QSettings &settings) override;
 
 public Q_SLOTS:
-    /// Evaluates input and updates outputUnit, output and validUnits, in this order and each at
-    /// most once. A defect of the brackets leaves the units as they are.
+    /// Evaluates input and updates outputUnit, output and validUnits, in this order. Each changes
+    /// at most once, except that a bracket group without an operator puts its error text into
+    /// output before the result is there. A defect of the brackets leaves the units as they are.
     void calculate();
 
 Q_SIGNALS:

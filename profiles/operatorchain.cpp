@@ -43,7 +43,11 @@ QString OperatorChain::result(StepRule &rule) const
         if (!left)
             return ErrorText::invalidInput();
         number = generalText(left->value, m_digits);
-        left->value = number.toDouble();
+        // Rounding may lift the largest numbers beyond what can be read again.
+        bool ok = false;
+        left->value = number.toDouble(&ok);
+        if (!ok)
+            return ErrorText::invalidInput();
     }
     return number + unitText(m_units, left->unit);
 }

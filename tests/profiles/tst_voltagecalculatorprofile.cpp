@@ -183,6 +183,17 @@ void VoltageCalculatorProfileTest::peak_data()
         {"an exponent without a sign: 100 + 1", "1e2mV+1mV", kPeak, Mv, "101", Mv, kVoltages},
         {"a voltage too large for a number is infinite", "1e308V+1V", kPeak, Mv, "INF", Mv,
          kVoltages},
+        {"an infinite voltage may be added to", "1e308V+1V+1V", kPeak, Mv, "INF", Mv, kVoltages},
+        {"an infinite voltage may be negative", "1V-1e308V+1V", kPeak, Mv, "-INF", Mv, kVoltages},
+        {"infinity minus infinity is no number, and stays none", "1e308V-1e308V+1V", kPeak, Mv,
+         "NAN", Mv, kVoltages},
+        // 10 digits round it to 1.797693135E+308, which no double holds
+        {"the largest number is rounded beyond all numbers", "1.7976931348623157e308mV+0mV", kPeak,
+         Mv, "invalid input", Mv, kVoltages},
+        {"the largest number is rounded beyond all numbers before the next step",
+         "1.7976931348623157e308mV+0mV+0mV", kPeak, Mv, "invalid input", Mv, kVoltages},
+        {"the largest plain number is rounded beyond all numbers", "1.7976931348623157e308+0+0",
+         kPeak, None, "invalid input", None, kPlain},
     });
 }
 

@@ -84,12 +84,11 @@ QString mismatchLossText(double reflection)
     return fixedText(Reflection::mismatchLoss(reflection));
 }
 
-/// A VSWR may be typed as the ratio that it is: 2, 2:1 and 2 : 1 are the same. (Removing the :1 by
-/// replace() takes linear time, by remove() it would not.)
+/// A VSWR may be typed as the ratio that it is: 2, 2:1 and 2 : 1 are the same.
 std::optional<double> readVswr(QString text)
 {
     text.remove(QLatin1Char(' '));
-    text.replace(QLatin1String(":1"), QLatin1String());
+    text.remove(QLatin1String(":1"));
     return readPrefixedValue(text);
 }
 

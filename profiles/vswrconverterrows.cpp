@@ -173,8 +173,9 @@ std::optional<double> VswrConverterProfile::readEdited(const Row &edited)
 {
     if (!isFilled(edited))
         return std::nullopt;
-    if (readPrefixedValue(text(edited.field)))
-        return valueOf(edited);
+    const std::optional<double> value = readPrefixedValue(text(edited.field));
+    if (value)
+        return edited.units.at(this->*edited.unit).toBase(*value);
     setText(edited.field, ErrorText::invalidInput());
     return std::nullopt;
 }

@@ -330,6 +330,8 @@ void UnitConverterProfile::clearNonFiniteResults(const Field &edited)
         clearNonFinite(kLinPower);
 }
 
+/// A value that is infinite or no number in the new unit leaves the field empty, as the result of a
+/// calculation would: a word is no quantity that could be kept.
 void UnitConverterProfile::rescale(const Field &field,
                                    const std::function<double(double)> &toNewUnit)
 {
@@ -341,7 +343,7 @@ void UnitConverterProfile::rescale(const Field &field,
 }
 
 /// In ohms. An impedance that does not parse is marked, and the calculation goes on with what the
-/// parser made of it, which is 0 for a word.
+/// parser made of it: 0 for a word, infinity for a number beyond all numbers.
 double UnitConverterProfile::readImpedance()
 {
     QString text = m_impedance;

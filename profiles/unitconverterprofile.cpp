@@ -5,6 +5,7 @@
 
 #include "errortexts.h"
 #include "levels.h"
+#include "pi.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
 #include "unittable.h"
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 /// Peak-to-peak value of a sine of 1 V RMS. That it is cut after eight decimals, and not a computed
 /// 2 * sqrt(2), is meant; ten digits show the difference.
 constexpr double kPeakToPeakPerRms = 2.82842714;

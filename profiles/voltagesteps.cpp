@@ -4,12 +4,12 @@
 #include "voltagesteps.h"
 
 #include "levels.h"
+#include "pi.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double kPi = 3.141592653589793;
 constexpr double kHalfTurn = 180.0;
 constexpr double kFullTurn = 360.0;
 

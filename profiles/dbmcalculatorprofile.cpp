@@ -60,13 +60,9 @@ QString powerText(double level, double milliwatt, int unit)
     case Dbm:
         return fixedText(level);
     case Dbw:
-        return fixedText(level - Levels::kDbwInDbm);
-    case W:
-        return generalText(Levels::wattFromMilliwatt(milliwatt));
-    case Uw:
-        return generalText(milliwatt * Levels::kMicroPerMilli);
+        return fixedText(Levels::dbwFromDbm(level));
     default:
-        return generalText(milliwatt);
+        return generalText(powerIn(unit, milliwatt));
     }
 }
 

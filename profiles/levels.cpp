@@ -57,6 +57,16 @@ double wattFromMilliwatt(double milliwatt)
     return milliwatt / kMilliPerUnit;
 }
 
+double milliwattFromMicrowatt(double microwatt)
+{
+    return microwatt / kMicroPerMilli;
+}
+
+double microwattFromMilliwatt(double milliwatt)
+{
+    return milliwatt * kMicroPerMilli;
+}
+
 double dbmFromDbw(double dbw)
 {
     return dbw + kDbwInDbm;

@@ -35,6 +35,8 @@ double milliwattFromDbw(double dbw);
 double dbwFromMilliwatt(double milliwatt);
 double milliwattFromWatt(double watt);
 double wattFromMilliwatt(double milliwatt);
+double milliwattFromMicrowatt(double microwatt);
+double microwattFromMilliwatt(double milliwatt);
 double dbmFromDbw(double dbw);
 double dbwFromDbm(double dbm);
 

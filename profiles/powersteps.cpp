@@ -4,12 +4,22 @@
 #include "powersteps.h"
 
 #include "levels.h"
+#include "unittable.h"
+
+namespace {
+
+/// In the order of PowerUnit.
+constexpr UnitConversion kPowerRows[] = {Units::kDbm, Units::kBase, Units::kWatt, Units::kMicrowatt,
+                                         Units::kDbw};
+constexpr UnitTable kPowerUnits(kPowerRows, Units::kBase);
+
+} // namespace
 
 double levelFrom(const Operand &operand)
 {
     switch (operand.unit) {
     case PowerUnit::Dbw:
-        return operand.value + Levels::kDbwInDbm;
+        return Levels::dbmFromDbw(operand.value);
     case PowerUnit::Mw:
     case PowerUnit::W:
     case PowerUnit::Uw:
@@ -21,18 +31,12 @@ double levelFrom(const Operand &operand)
 
 double milliwattFrom(const Operand &operand)
 {
-    switch (operand.unit) {
-    case PowerUnit::Dbm:
-        return Levels::milliwattFromDbm(operand.value);
-    case PowerUnit::Dbw:
-        return Levels::milliwattFromDbw(operand.value);
-    case PowerUnit::W:
-        return Levels::milliwattFromWatt(operand.value);
-    case PowerUnit::Uw:
-        return operand.value / Levels::kMicroPerMilli;
-    default:
-        return operand.value;
-    }
+    return kPowerUnits.at(operand.unit).toBase(operand.value);
+}
+
+double powerIn(int unit, double milliwatt)
+{
+    return kPowerUnits.at(unit).fromBase(milliwatt);
 }
 
 std::optional<Operand> PowerSteps::combine(const Operand &left, Operator operation,

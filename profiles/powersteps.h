@@ -20,6 +20,9 @@ double levelFrom(const Operand &operand);
 /// A level or a linear power in mW.
 double milliwattFrom(const Operand &operand);
 
+/// A power in mW as a number in @p unit.
+double powerIn(int unit, double milliwatt);
+
 /**
  * Sums and differences of levels, powers and ratios. With a ratio a step is made in dB and gives a
  * level, or a ratio if both operands are; a ratio minus a level is meant to be a level too. Without

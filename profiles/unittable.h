@@ -55,6 +55,8 @@ constexpr UnitConversion kBase = {[](double value) { return value; },
 constexpr UnitConversion kDbm = {Levels::milliwattFromDbm, Levels::dbmFromMilliwatt};
 constexpr UnitConversion kDbw = {Levels::milliwattFromDbw, Levels::dbwFromMilliwatt};
 constexpr UnitConversion kWatt = {Levels::milliwattFromWatt, Levels::wattFromMilliwatt};
+constexpr UnitConversion kMicrowatt = {Levels::milliwattFromMicrowatt,
+                                       Levels::microwattFromMilliwatt};
 constexpr UnitConversion kDbv = {Levels::millivoltFromDbv, Levels::dbvFromMillivolt};
 constexpr UnitConversion kDbmicrovolt = {Levels::millivoltFromDbmicrovolt,
                                          Levels::dbmicrovoltFromMillivolt};

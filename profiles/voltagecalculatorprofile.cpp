@@ -4,7 +4,6 @@
 #include "voltagecalculatorprofile.h"
 
 #include "errortexts.h"
-#include "levels.h"
 #include "valuetext.h"
 #include "voltagesteps.h"
 
@@ -50,7 +49,5 @@ ExpressionProfile::Shown VoltageCalculatorProfile::shown(const Operand &result) 
     if (result.unit == None)
         return {generalText(result.value), None, unitsBeside(None)};
     const int unit = outputUnit() == V ? V : Mv;
-    const double millivolt = millivoltFrom(result);
-    const double value = unit == V ? Levels::voltFromMillivolt(millivolt) : millivolt;
-    return {generalText(value), unit, unitsBeside(unit)};
+    return {generalText(voltageIn(unit, millivoltFrom(result))), unit, unitsBeside(unit)};
 }

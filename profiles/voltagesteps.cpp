@@ -3,12 +3,16 @@
 
 #include "voltagesteps.h"
 
-#include "levels.h"
 #include "pi.h"
+#include "unittable.h"
 
 #include <cmath>
 
 namespace {
+
+/// In the order of VoltageUnit.
+constexpr UnitConversion kVoltageRows[] = {Units::kBase, Units::kVolt};
+constexpr UnitTable kVoltageUnits(kVoltageRows, Units::kBase);
 
 constexpr double kHalfTurn = 180.0;
 constexpr double kFullTurn = 360.0;
@@ -27,8 +31,12 @@ double thirdSide(double a, double b, double degrees)
 
 double millivoltFrom(const Operand &operand)
 {
-    return operand.unit == VoltageUnit::V ? Levels::millivoltFromVolt(operand.value)
-                                          : operand.value;
+    return kVoltageUnits.at(operand.unit).toBase(operand.value);
+}
+
+double voltageIn(int unit, double millivolt)
+{
+    return kVoltageUnits.at(unit).fromBase(millivolt);
 }
 
 std::optional<Operand> VoltageSteps::combine(const Operand &left, Operator operation,

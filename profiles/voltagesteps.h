@@ -23,6 +23,9 @@ enum Index { Uncorrelated, Correlated, Peak };
 /// A voltage in mV.
 double millivoltFrom(const Operand &operand);
 
+/// A voltage in mV as a number in @p unit.
+double voltageIn(int unit, double millivolt);
+
 /**
  * Sums and differences of voltages, in mV. Uncorrelated voltages add as their squares and have no
  * difference; correlated ones add as phasors with an angle between them; peak voltages add plainly.

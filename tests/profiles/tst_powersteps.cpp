@@ -56,6 +56,7 @@ void PowerStepsTest::converts()
 
     QCOMPARE(levelFrom({value, unit}), level);
     QCOMPARE(milliwattFrom({value, unit}), milliwatt);
+    QCOMPARE(powerIn(unit, milliwatt), value);
 }
 
 void PowerStepsTest::nonPositivePowersHaveNoLevel()

@@ -16,7 +16,7 @@ private Q_SLOTS:
     void combines_data();
     void combines();
     void refusesADifferenceOfUncorrelatedVoltages();
-    void convertsToMillivolt();
+    void convertsFromAndToMillivolt();
     void isNumberWhereSidesNearlyCancel();
     void cancelsExactlyAfterAnyTurn();
     void staysFiniteWhereSquaresDoNot();
@@ -74,10 +74,12 @@ void VoltageStepsTest::refusesADifferenceOfUncorrelatedVoltages()
     QCOMPARE(steps.combine({3, Mv}, Operator::Plus, {4, Mv})->value, 5.0);
 }
 
-void VoltageStepsTest::convertsToMillivolt()
+void VoltageStepsTest::convertsFromAndToMillivolt()
 {
     QCOMPARE(millivoltFrom({2, V}), 2000.0);
     QCOMPARE(millivoltFrom({2, Mv}), 2.0);
+    QCOMPARE(voltageIn(V, 2000), 2.0);
+    QCOMPARE(voltageIn(Mv, 2), 2.0);
     const std::optional<Operand> sum =
         VoltageSteps(VoltageMode::Peak, 0).combine({1, V}, Operator::Plus, {1, Mv});
     QCOMPARE(sum->value, 1001.0);

@@ -8,7 +8,10 @@
 
 #include <QTest>
 
-namespace {
+QMap<int, bool> allVoltageUnits()
+{
+    return {{0, true}, {1, true}, {2, true}};
+}
 
 QString offeredUnits(const ExpressionProfile &calculator)
 {
@@ -20,13 +23,6 @@ QString offeredUnits(const ExpressionProfile &calculator)
             texts += text.isEmpty() ? QStringLiteral("none") : text;
     }
     return texts.join(QLatin1Char(' '));
-}
-
-} // namespace
-
-QMap<int, bool> allVoltageUnits()
-{
-    return {{0, true}, {1, true}, {2, true}};
 }
 
 void calculate(ExpressionProfile &calculator, const char *input)

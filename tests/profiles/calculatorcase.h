@@ -5,6 +5,7 @@
 #define TESTS_PROFILES_CALCULATORCASE_H
 
 #include <QMap>
+#include <QString>
 
 #include <initializer_list>
 
@@ -28,6 +29,9 @@ struct CalculatorCase
 
 /// The valid units of a voltage calculator that offers them all.
 QMap<int, bool> allVoltageUnits();
+
+/// The units that @p calculator offers, as in CalculatorCase.
+QString offeredUnits(const ExpressionProfile &calculator);
 
 /// What a person does: types @p input and asks for the result.
 void calculate(ExpressionProfile &calculator, const char *input);

@@ -5,9 +5,11 @@
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
 #include "powersteps.h"
+#include "propertyvalues.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
 #include "voltagesteps.h"
+#include "words.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -20,15 +22,29 @@ private Q_SLOTS:
     void init();
 
     void startsWithoutAResult();
+    void declaresItsPropertiesInOrder();
     void namesItsUnits();
     void settersDoNotCalculate();
     void calculationSignalsEachChangeOnce();
     void calculationShowsUnitBeforeResult();
+    void offersUnitsAgainThatWereNotOffered();
     void aLoneValueIsAnErrorAtOnce();
     void evaluatesWithoutPublishing();
     void usesTheDecimalPlacesOfTheMoment();
     void unknownUnitsAndModesDoNoHarm();
 };
+
+namespace {
+
+QStringList propertyNames(const QObject &object)
+{
+    QStringList names;
+    for (const QMetaProperty &property : declaredProperties(object))
+        names += QString::fromLatin1(property.name());
+    return names;
+}
+
+} // namespace
 
 void ExpressionProfileTest::init()
 {
@@ -50,6 +66,17 @@ void ExpressionProfileTest::startsWithoutAResult()
     QCOMPARE(voltage.validUnits(), allVoltageUnits());
     QCOMPARE(dbm.validUnits().size(), 7);
     QVERIFY(!dbm.validUnits().values().contains(false));
+}
+
+void ExpressionProfileTest::declaresItsPropertiesInOrder()
+{
+    const DbmCalculatorProfile dbm;
+    QCOMPARE(propertyNames(dbm), words("input output outputUnit mode validUnits"));
+    const VoltageCalculatorProfile voltage;
+    QCOMPARE(propertyNames(voltage), words("input output outputUnit mode validUnits phase"));
+    QCOMPARE(signalNames(ExpressionProfile::staticMetaObject),
+             words("inputChanged outputChanged outputUnitChanged modeChanged validUnitsChanged"));
+    QCOMPARE(signalNames(VoltageCalculatorProfile::staticMetaObject), words("phaseChanged"));
 }
 
 void ExpressionProfileTest::namesItsUnits()
@@ -126,6 +153,30 @@ void ExpressionProfileTest::calculationShowsUnitBeforeResult()
             [&order] { order += QStringLiteral("valid"); });
     calculate(calculator, "3dB+3dB");
     QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("unit output valid"));
+}
+
+void ExpressionProfileTest::offersUnitsAgainThatWereNotOffered()
+{
+    const QString all = QStringLiteral("dBm mW W \u00B5W dBW");
+    const QString linear = QStringLiteral("mW W \u00B5W");
+    DbmCalculatorProfile calculator;
+    calculate(calculator, "1mW-2mW"); // -1 mW, no level
+    QCOMPARE(offeredUnits(calculator), linear);
+    calculate(calculator, "10dBm+3dB"); // 13 dBm
+    QCOMPARE(offeredUnits(calculator), all);
+    calculate(calculator, "1mW-2mW");
+    QCOMPARE(offeredUnits(calculator), linear);
+    calculate(calculator, "1mW+x");
+    QCOMPARE(calculator.output(), QStringLiteral("invalid input"));
+    QCOMPARE(offeredUnits(calculator), all);
+
+    calculate(calculator, "3dB+3dB"); // 6 dB
+    QCOMPARE(offeredUnits(calculator), QStringLiteral("dB"));
+    calculate(calculator, "1mW-2mW");
+    QCOMPARE(offeredUnits(calculator), linear);
+    calculate(calculator, "1mW+1");
+    QCOMPARE(calculator.output(), QStringLiteral("unit missing"));
+    QCOMPARE(offeredUnits(calculator), all);
 }
 
 void ExpressionProfileTest::aLoneValueIsAnErrorAtOnce()

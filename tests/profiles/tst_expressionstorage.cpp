@@ -5,13 +5,16 @@
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
 #include "powersteps.h"
+#include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
 #include "voltagesteps.h"
+#include "words.h"
 
-#include <QSignalSpy>
 #include <QTest>
+
+#include <memory>
 
 /// How the expression calculators are kept in a settings store.
 class ExpressionStorageTest : public QObject
@@ -27,7 +30,8 @@ private Q_SLOTS:
     void missingKeysAreDefaults();
     void malformedKeysAreDefaults_data();
     void malformedKeysAreDefaults();
-    void loadsTheValidUnitsAtOnce();
+    void loadsInOrderAndSignalsEachChangeOnce_data();
+    void loadsInOrderAndSignalsEachChangeOnce();
 };
 
 void ExpressionStorageTest::initTestCase()
@@ -174,22 +178,41 @@ void ExpressionStorageTest::malformedKeysAreDefaults()
     QCOMPARE(calculator.property(property.toLatin1().constData()), value);
 }
 
-void ExpressionStorageTest::loadsTheValidUnitsAtOnce()
+void ExpressionStorageTest::loadsInOrderAndSignalsEachChangeOnce_data()
 {
-    DbmCalculatorProfile written;
-    calculate(written, "3dB+3dB");
-    SettingsFile file;
-    written.saveSettings(file.settings());
+    QTest::addColumn<bool>("isVoltage");
+    QTest::addColumn<QStringList>("order");
 
-    DbmCalculatorProfile read;
-    QSignalSpy valid(&read, &DbmCalculatorProfile::validUnitsChanged);
-    QSignalSpy output(&read, &DbmCalculatorProfile::outputChanged);
-    read.loadSettings(file.settings());
-    QCOMPARE(valid.count(), 1);
-    QCOMPARE(output.count(), 1);
-    read.loadSettings(file.settings());
-    QCOMPARE(valid.count(), 1);
-    QCOMPARE(output.count(), 1);
+    QTest::newRow("the dBm calculator")
+        << false << words("input output outputUnit mode validUnits");
+    QTest::newRow("the voltage calculator")
+        << true << words("input output outputUnit mode phase validUnits");
+}
+
+/// The valid units have a key each and are announced once, after all others.
+void ExpressionStorageTest::loadsInOrderAndSignalsEachChangeOnce()
+{
+    QFETCH(bool, isVoltage);
+    QFETCH(QStringList, order);
+
+    const auto newCalculator = [isVoltage]() -> std::unique_ptr<ExpressionProfile> {
+        if (isVoltage)
+            return std::make_unique<VoltageCalculatorProfile>();
+        return std::make_unique<DbmCalculatorProfile>();
+    };
+    const auto written = newCalculator();
+    written->setMode(2);
+    written->setProperty("phase", 90.0);
+    calculate(*written, "1+2"); // a plain number: no unit only
+    SettingsFile file;
+    written->saveSettings(file.settings());
+
+    const auto read = newCalculator();
+    ChangeLog log(*read);
+    read->loadSettings(file.settings());
+    QCOMPARE(log.take(), order);
+    read->loadSettings(file.settings());
+    QCOMPARE(log.take(), QStringList());
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, ExpressionStorageTest)

@@ -22,13 +22,17 @@ private Q_SLOTS:
     void writesInOrder();
     void converts_data();
     void converts();
+    void solvesInMixedUnits_data();
+    void solvesInMixedUnits();
 };
 
 namespace {
 
+constexpr int kDbm = 0;
 constexpr int kDbw = 1;
 constexpr int kWatt = 2;
 constexpr int kMilliwatt = 3;
+constexpr int kDbv = 0;
 constexpr int kDbmicrovolt = 1;
 constexpr int kVolt = 2;
 constexpr int kMillivolt = 3;
@@ -215,9 +219,9 @@ void VswrConverterRowsTest::writesInOrder_data()
                 << QStringList{QString::fromLatin1(first), QString::fromLatin1(second)};
         };
         row("Forward", half->reflected, half->absorbed);
-        // 9 / 0.5 - 9 would be the same 9 that stands there
         row("Absorbed", half->forward, half->absorbed);
     }
+    // of 25 %, as 9 / 0.5 - 9 would be the same 9 that stands there
     QTest::newRow("calculateFromPReflected")
         << slotOf(powers(), "Reflected") << givenIn(powers(), "25", {"9", "9", "9"})
         << QStringList{QStringLiteral("pForward"), QStringLiteral("pAbsorbed")};
@@ -318,6 +322,68 @@ void VswrConverterRowsTest::converts()
     const QStringList expected = propertyLines(profile, changes);
     calculate(profile, slot);
     QCOMPARE(propertyLines(profile), expected);
+}
+
+/// Every row in a unit of its own, with 10 mW forward, 2.5 mW reflected and 7.5 mW absorbed, or
+/// 1000 mV, 250 mV and 750 mV: two of the texts are given and the third is found.
+void VswrConverterRowsTest::solvesInMixedUnits_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    QTest::addColumn<PropertyValues>("given");
+    QTest::addColumn<PropertyValues>("changes");
+
+    struct Row
+    {
+        const char *text;
+        int unit;
+    };
+    enum Name { Forward, Reflected, Absorbed };
+    const auto row = [](const char *tag, const Half &half, Name edited, Name found,
+                        const Row(&rows)[3]) {
+        static const char *const kNames[] = {"Forward", "Reflected", "Absorbed"};
+        const char *const fields[] = {half.forward, half.reflected, half.absorbed};
+        const char *const units[] = {half.forwardUnit, half.reflectedUnit, half.absorbedUnit};
+        PropertyValues given;
+        for (const Name name : {Forward, Reflected, Absorbed}) {
+            given.push_back({units[name], rows[name].unit});
+            given.push_back({fields[name], name == found ? "" : rows[name].text});
+        }
+        QTest::newRow(tag) << slotOf(half, kNames[edited]) << given
+                           << PropertyValues{{fields[found], rows[found].text}};
+    };
+
+    // the square is not known, the next row is
+    row("dBm less W in mW", powers(), Forward, Absorbed,
+        {{"10", kDbm}, {"0.0025", kWatt}, {"7.5", kMilliwatt}});
+    row("reflected mW, forward dBW: absorbed W", powers(), Reflected, Absorbed,
+        {{"-20", kDbw}, {"2.5", kMilliwatt}, {"0.0075", kWatt}});
+    row("absorbed W, forward dBW: reflected mW", powers(), Absorbed, Reflected,
+        {{"-20", kDbw}, {"2.5", kMilliwatt}, {"0.0075", kWatt}});
+    row("dBµV less V in mV", voltages(), Forward, Absorbed,
+        {{"120", kDbmicrovolt}, {"0.25", kVolt}, {"750", kMillivolt}});
+    row("reflected mV, forward dBV: absorbed V", voltages(), Reflected, Absorbed,
+        {{"0", kDbv}, {"250", kMillivolt}, {"0.75", kVolt}});
+    row("absorbed V, forward dBµV: reflected mV", voltages(), Absorbed, Reflected,
+        {{"120", kDbmicrovolt}, {"250", kMillivolt}, {"0.75", kVolt}});
+
+    // only the last row is known
+    row("forward mW, absorbed W: reflected dBm", powers(), Forward, Reflected,
+        {{"10", kMilliwatt}, {"3.979400087", kDbm}, {"0.0075", kWatt}});
+    row("reflected W, absorbed mW: forward dBm", powers(), Reflected, Forward,
+        {{"10", kDbm}, {"0.0025", kWatt}, {"7.5", kMilliwatt}});
+    row("absorbed mW, reflected W: forward dBW", powers(), Absorbed, Forward,
+        {{"-20", kDbw}, {"0.0025", kWatt}, {"7.5", kMilliwatt}});
+    row("forward mV, absorbed V: reflected dBµV", voltages(), Forward, Reflected,
+        {{"1000", kMillivolt}, {"107.9588002", kDbmicrovolt}, {"0.75", kVolt}});
+    row("reflected V, absorbed mV: forward dBV", voltages(), Reflected, Forward,
+        {{"0", kDbv}, {"0.25", kVolt}, {"750", kMillivolt}});
+    row("absorbed V, reflected mV: forward dBµV", voltages(), Absorbed, Forward,
+        {{"120", kDbmicrovolt}, {"250", kMillivolt}, {"0.75", kVolt}});
+}
+
+void VswrConverterRowsTest::solvesInMixedUnits()
+{
+    converts();
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, VswrConverterRowsTest)

@@ -62,7 +62,12 @@ void fill(VswrConverterProfile &profile, const char *edited, const QString &text
         profile.setProperty(name, QStringLiteral("9"));
     profile.setProperty(edited, text);
     // Powers and voltages are no business of the reflection group.
-    setProperties(profile, {{"pForward", "1"}, {"vAbsorbed", "2"}});
+    setProperties(profile, {{"pForward", "1"},
+                            {"pReflected", "2"},
+                            {"pAbsorbed", "3"},
+                            {"vForward", "4"},
+                            {"vReflected", "5"},
+                            {"vAbsorbed", "6"}});
 }
 
 void check(const char *edited, void (VswrConverterProfile::*calculate)())

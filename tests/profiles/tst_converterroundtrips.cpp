@@ -25,6 +25,7 @@ private Q_SLOTS:
     void powerLevelToVoltageLevel();
     void vswrToReflectionCoefficient();
     void reflectionCoefficientToReturnLoss();
+    void vswrToReturnLoss();
     void rescaledLinearUnits();
     void rescaledLevelUnits();
     void powerUnits();
@@ -150,6 +151,29 @@ void ConverterRoundTripsTest::reflectionCoefficientToReturnLoss()
         profile.calculateFromR();
         profile.calculateFromR2();
         QVERIFY2(isNear(profile.r(), before, tolerance), qPrintable(vswr));
+    }
+}
+
+/// A VSWR has no return loss of its own, so the way leads over the reflection coefficient, there
+/// and back.
+void ConverterRoundTripsTest::vswrToReturnLoss()
+{
+    for (int run = 0; run < kRuns; ++run) {
+        VswrConverterProfile profile;
+        const QString before = text(1 + std::pow(10, uniform(-3, 2)));
+        profile.setVswr(before);
+        profile.calculateFromVswr();
+        QCOMPARE(profile.ar(), QString());
+        profile.calculateFromR();
+        profile.calculateFromAr();
+        profile.setVswr(QString());
+        profile.calculateFromR();
+        // The VSWR grows the faster the larger the coefficient is, so it is off by most where the
+        // two decimals of the return loss made the coefficient larger.
+        const double r = (shownNumber(before) - 1) / (shownNumber(before) + 1);
+        const double largest = r * std::pow(10, kLevelLoss * 1.01 / 20);
+        const double tolerance = (1 + largest) / (1 - largest) - shownNumber(before);
+        QVERIFY2(isNear(profile.vswr(), before, tolerance), qPrintable(before));
     }
 }
 

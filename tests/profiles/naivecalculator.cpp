@@ -34,25 +34,6 @@ Approximate rounded(Approximate value, double rounding)
     return value;
 }
 
-Approximate milliwatt(const Approximate &power)
-{
-    if (power.unit == Quantity::Linear)
-        return power;
-    const double value = std::pow(10.0, power.value / 10);
-    return {value, value * (std::expm1(power.error * std::log(10.0) / 10) + 1e-14)};
-}
-
-/// A level as it stands, a ratio too. The logarithm of a power that may as well be zero or below
-/// is unknown.
-Approximate level(const Approximate &power)
-{
-    if (power.unit != Quantity::Linear)
-        return power;
-    const double uncertainty = power.error / std::abs(power.value);
-    const double value = 10 * std::log10(power.value);
-    return {value, uncertainty < 0.01 ? 10 * uncertainty : kUnknown, Quantity::Level};
-}
-
 /// A sum or difference in the unit of both.
 Approximate combined(const Approximate &left, bool isSubtracted, const Approximate &right)
 {
@@ -73,6 +54,22 @@ Approximate mean(const std::vector<Approximate> &powers)
     return {value, sum.error / count + std::abs(value) * kPowerRounding * count};
 }
 
+/// Why a step fails whatever the calculator is.
+Failure failureOf(const Approximate &left, const Approximate &right)
+{
+    if (left.failure != Failure::None || right.failure != Failure::None)
+        return Failure::InvalidInput;
+    const bool isUnitMissing = (left.unit == Quantity::Plain) != (right.unit == Quantity::Plain);
+    return isUnitMissing ? Failure::UnitMissing : Failure::None;
+}
+
+Approximate failed(Failure failure)
+{
+    Approximate result;
+    result.failure = failure;
+    return result;
+}
+
 } // namespace
 
 QString chainText(const Chain &chain)
@@ -87,24 +84,66 @@ QString chainText(const Chain &chain)
     return text;
 }
 
-Approximate NaivePowers::value(const Chain &chain) const
+Approximate milliwatt(const Approximate &power)
 {
-    const Approximate found = result(chain);
-    const bool isLevel = found.unit == Quantity::Level && !found.isRefused;
-    return isLevel ? milliwatt(found) : found;
+    if (power.unit == Quantity::Linear)
+        return power;
+    const double value = std::pow(10.0, power.value / 10);
+    return {value, value * (std::expm1(power.error * std::log(10.0) / 10) + 1e-14)};
 }
 
-Approximate NaivePowers::operand(const Term &term) const
+Approximate level(const Approximate &power)
 {
-    if (!term.group.empty())
-        return result(term.group);
-    const QString &text = term.operand;
+    if (power.unit != Quantity::Linear)
+        return power;
+    const double uncertainty = power.error / std::abs(power.value);
+    const double value = 10 * std::log10(power.value);
+    return {value, uncertainty < 0.01 ? 10 * uncertainty : kUnknown, Quantity::Level};
+}
+
+/// Groups are read from the right. One that is invalid ends this, and it and those to its left stay
+/// as texts, which are no numbers either.
+Approximate NaiveCalculator::value(const Chain &chain) const
+{
+    std::vector<Approximate> values = operands(chain);
+    bool isText = false;
+    for (std::size_t i = chain.size(); i-- > 0;) {
+        isText = isText || values[i].failure == Failure::InvalidInput;
+        if (isText && !chain[i].group.empty())
+            values[i] = failed(Failure::InvalidInput);
+    }
+    return reduced(chain, values);
+}
+
+/// A group is invalid as soon as one inside it is.
+Approximate NaiveCalculator::group(const Chain &chain) const
+{
+    const std::vector<Approximate> values = operands(chain);
+    for (const Approximate &value : values) {
+        if (value.failure == Failure::InvalidInput)
+            return value;
+    }
+    return reduced(chain, values);
+}
+
+std::vector<Approximate> NaiveCalculator::operands(const Chain &chain) const
+{
+    std::vector<Approximate> values;
+    for (const Term &term : chain)
+        values.push_back(term.group.empty() ? operand(term.operand) : group(term.group));
+    return values;
+}
+
+Approximate NaivePowers::operand(const QString &text) const
+{
     if (text.endsWith(QLatin1String("dBm")))
         return {number(text, "dBm"), 0, Quantity::Level};
     if (text.endsWith(QLatin1String("dBW")))
         return {number(text, "dBW") + 30, 0, Quantity::Level};
     if (text.endsWith(QLatin1String("dB")))
         return {number(text, "dB"), 0, Quantity::Ratio};
+    if (!text.endsWith(QLatin1Char('W')))
+        return {number(text, ""), 0, Quantity::Plain};
     double milliwatts = 0.0;
     if (text.endsWith(QLatin1String("mW")))
         milliwatts = number(text, "mW");
@@ -116,17 +155,20 @@ Approximate NaivePowers::operand(const Term &term) const
 }
 
 /// The mean of an incoherent combiner is taken anew from the list of its inputs.
-Approximate NaivePowers::result(const Chain &chain) const
+Approximate NaivePowers::reduced(const Chain &chain, const std::vector<Approximate> &operands) const
 {
-    Approximate left = operand(chain.front());
+    Approximate left = operands.front();
     std::vector<Approximate> inputs{left};
     bool hasEnded = false;
-    for (std::size_t i = 1; i < chain.size() && !left.isRefused; ++i) {
+    for (std::size_t i = 1; i < chain.size(); ++i) {
         const bool isSubtracted = chain[i].isSubtracted;
-        const Approximate right = operand(chain[i]);
-        if (right.isRefused)
-            return right;
-        if (left.unit == Quantity::Ratio || right.unit == Quantity::Ratio) {
+        const Approximate &right = operands[i];
+        const Failure failure = failureOf(left, right);
+        if (failure != Failure::None)
+            return failed(failure);
+        if (left.unit == Quantity::Plain) {
+            left = combined(left, isSubtracted, right);
+        } else if (left.unit == Quantity::Ratio || right.unit == Quantity::Ratio) {
             const bool areRatios = left.unit == right.unit;
             left = combined(level(left), isSubtracted, level(right));
             left.unit = areRatios ? Quantity::Ratio : Quantity::Level;
@@ -136,7 +178,7 @@ Approximate NaivePowers::result(const Chain &chain) const
             left = combined(milliwatt(left), isSubtracted, milliwatt(right));
             hasEnded = hasEnded || isSubtracted;
         } else if (hasEnded) {
-            left.isRefused = true;
+            return failed(Failure::InvalidInput);
         } else {
             inputs.push_back(right);
             left = mean(inputs);
@@ -146,23 +188,26 @@ Approximate NaivePowers::result(const Chain &chain) const
     return left;
 }
 
-Approximate NaiveVoltages::value(const Chain &chain) const
+Approximate NaiveVoltages::operand(const QString &text) const
 {
-    Approximate left;
-    for (std::size_t i = 0; i < chain.size(); ++i) {
-        const Term &term = chain[i];
-        Approximate right;
-        if (!term.group.empty())
-            right = value(term.group);
-        else if (term.operand.endsWith(QLatin1String("mV")))
-            right.value = number(term.operand, "mV");
-        else
-            right.value = number(term.operand, "V") * 1e3;
-        left = i == 0 ? right : step(left, term.isSubtracted, right);
-        if (left.isRefused || right.isRefused) {
-            left.isRefused = true;
+    if (text.endsWith(QLatin1String("mV")))
+        return {number(text, "mV")};
+    if (text.endsWith(QLatin1Char('V')))
+        return {number(text, "V") * 1e3};
+    return {number(text, ""), 0, Quantity::Plain};
+}
+
+Approximate NaiveVoltages::reduced(const Chain &chain,
+                                   const std::vector<Approximate> &operands) const
+{
+    Approximate left = operands.front();
+    for (std::size_t i = 1; i < chain.size(); ++i) {
+        const Failure failure = failureOf(left, operands[i]);
+        if (failure != Failure::None)
+            return failed(failure);
+        left = step(left, chain[i].isSubtracted, operands[i]);
+        if (left.failure != Failure::None)
             return left;
-        }
     }
     return left;
 }
@@ -172,8 +217,11 @@ Approximate NaiveVoltages::step(const Approximate &left, bool isSubtracted,
                                 const Approximate &right) const
 {
     Approximate sum = combined(left, isSubtracted, right);
+    if (sum.unit == Quantity::Plain)
+        return rounded(sum, kVoltageRounding);
     if (m_mode == 0) {
-        sum.isRefused = isSubtracted;
+        if (isSubtracted)
+            return failed(Failure::InvalidInput);
         sum.value = std::sqrt(left.value * left.value + right.value * right.value);
     } else if (m_mode == 1) {
         const double sign = isSubtracted ? -1.0 : 1.0;

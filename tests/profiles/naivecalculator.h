@@ -24,7 +24,10 @@ struct Term
 /// The chain as it is typed.
 QString chainText(const Chain &chain);
 
-enum class Quantity { Linear, Level, Ratio };
+enum class Quantity { Linear, Level, Ratio, Plain };
+
+/// Why an expression has no number.
+enum class Failure { None, InvalidInput, UnitMissing };
 
 /// A number that may be off by an error; an infinite error says that nothing is known about it.
 /// Linear quantities are in mW or mV, levels in dBm.
@@ -33,37 +36,66 @@ struct Approximate
     double value = 0.0;
     double error = 0.0;
     Quantity unit = Quantity::Linear;
-    bool isRefused = false;
+    Failure failure = Failure::None;
 };
 
+/// A level or a linear power in mW.
+Approximate milliwatt(const Approximate &power);
+
+/// A linear power in dBm; a level and a ratio as they stand. The logarithm of a power that may as
+/// well be zero or below is unknown.
+Approximate level(const Approximate &power);
+
 /**
- * A second evaluation of expressions of powers, from the structure that they were written from
- * instead of from their text, and with numbers instead of rounded texts. What rounding each step to
- * 12 digits may do to the result is carried along as an error.
+ * A second evaluation of expressions, from the structure that they were written from instead of
+ * from their text, and with numbers instead of rounded texts. What rounding each step to a number
+ * of digits may do to the result is carried along as an error. Operands must be numbers.
  */
-class NaivePowers
+class NaiveCalculator
+{
+public:
+    virtual ~NaiveCalculator() = default;
+
+    /// The result of a whole expression of two terms or more.
+    Approximate value(const Chain &chain) const;
+
+protected:
+    /// An operand that was typed.
+    virtual Approximate operand(const QString &text) const = 0;
+    /// What the terms of a chain give, of which @p operands are the values.
+    virtual Approximate reduced(const Chain &chain,
+                                const std::vector<Approximate> &operands) const = 0;
+
+private:
+    Approximate group(const Chain &chain) const;
+    std::vector<Approximate> operands(const Chain &chain) const;
+};
+
+/// Powers, levels and ratios; each step is rounded to 12 digits.
+class NaivePowers final : public NaiveCalculator
 {
 public:
     explicit NaivePowers(bool incoherent) : m_incoherent(incoherent) {}
 
-    /// The result in mW, or a ratio in dB.
-    Approximate value(const Chain &chain) const;
+protected:
+    Approximate operand(const QString &text) const override;
+    Approximate reduced(const Chain &chain,
+                        const std::vector<Approximate> &operands) const override;
 
 private:
-    Approximate result(const Chain &chain) const;
-    Approximate operand(const Term &term) const;
-
     bool m_incoherent;
 };
 
-/// The same for voltages, whose steps are rounded to 10 digits.
-class NaiveVoltages
+/// Voltages; each step is rounded to 10 digits.
+class NaiveVoltages final : public NaiveCalculator
 {
 public:
     NaiveVoltages(int mode, double degrees) : m_mode(mode), m_degrees(degrees) {}
 
-    /// The result in mV.
-    Approximate value(const Chain &chain) const;
+protected:
+    Approximate operand(const QString &text) const override;
+    Approximate reduced(const Chain &chain,
+                        const std::vector<Approximate> &operands) const override;
 
 private:
     Approximate step(const Approximate &left, bool isSubtracted, const Approximate &right) const;

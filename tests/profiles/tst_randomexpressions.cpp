@@ -5,15 +5,18 @@
 #include "errortexts.h"
 #include "mainprofile.h"
 #include "naivecalculator.h"
+#include "powersteps.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
+#include "voltagesteps.h"
 
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
-/// What holds for every text: each test walks the same 20,000 of them in every run.
+/// What holds for every text: each test compares the same 20,000 of them in every run.
 class RandomExpressionsTest : public QObject
 {
     Q_OBJECT
@@ -89,20 +92,140 @@ Chain randomChain(Random &random, Operands operand, int depth)
     return chain;
 }
 
+/// Mostly operands with a unit: somewhere in a chain one is missing.
+template <QString (*operand)(Random &)>
+QString withoutSomeUnits(Random &random)
+{
+    return below(random, 12) == 0 ? randomNumber(random) : operand(random);
+}
+
+/// Half of the chains are of operands with units, the others have none or miss some.
+template <QString (*operand)(Random &)>
+Chain randomExpression(Random &random)
+{
+    static constexpr Operands kKinds[] = {operand, operand, randomNumber,
+                                          withoutSomeUnits<operand>};
+    return randomChain(random, kKinds[below(random, 4)], 3);
+}
+
+/// What is expected to be shown, in which unit of the selector.
+struct Expected
+{
+    Approximate number;
+    int unit = 0;
+};
+
+/// A power shown where @p chosen is the output unit.
+Expected shownPower(const Approximate &power, int chosen)
+{
+    const bool isLevel = power.unit == Quantity::Level;
+    const bool hasLevel = isLevel || power.value > 0;
+    int unit = chosen;
+    if (unit == PowerUnit::Db || unit == PowerUnit::None)
+        unit = isLevel ? PowerUnit::Dbm : PowerUnit::Mw;
+    const bool isLevelChosen = unit == PowerUnit::Dbm || unit == PowerUnit::Dbw;
+    if (isLevelChosen && (hasLevel || power.error >= std::abs(power.value))) {
+        Approximate shown = level(power);
+        shown.value -= unit == PowerUnit::Dbw ? 30 : 0;
+        return {shown, unit};
+    }
+    if (isLevelChosen)
+        unit = PowerUnit::Mw;
+    const double factor = unit == PowerUnit::W ? 1e-3 : unit == PowerUnit::Uw ? 1e3 : 1;
+    Approximate shown = milliwatt(power);
+    shown.value *= factor;
+    shown.error *= factor;
+    return {shown, unit};
+}
+
+/// A result of the dBm calculator shown where @p chosen is the output unit.
+Expected shownByPowers(const Approximate &result, int chosen)
+{
+    if (result.failure != Failure::None)
+        return {result, chosen};
+    switch (result.unit) {
+    case Quantity::Plain:
+        return {result, PowerUnit::None};
+    case Quantity::Ratio:
+        return {result, PowerUnit::Db};
+    default:
+        return shownPower(result, chosen);
+    }
+}
+
+/// The same for the voltage calculator.
+Expected shownByVoltages(const Approximate &result, int chosen)
+{
+    if (result.failure != Failure::None)
+        return {result, chosen};
+    if (result.unit == Quantity::Plain)
+        return {result, VoltageUnit::None};
+    if (chosen != VoltageUnit::V)
+        return {result, VoltageUnit::Mv};
+    Approximate volt = result;
+    volt.value *= 1e-3;
+    volt.error *= 1e-3;
+    return {volt, VoltageUnit::V};
+}
+
 /// Whether @p output is @p expected within the digits that it is written with and the error that
 /// rounding may have added up to.
 bool agrees(const QString &output, const Approximate &expected)
 {
-    if (expected.isRefused)
+    if (expected.failure == Failure::InvalidInput)
         return output == ErrorText::invalidInput();
+    if (expected.failure == Failure::UnitMissing)
+        return output == ErrorText::unitMissing();
     bool ok = false;
     const double value = output.toDouble(&ok);
     if (!ok || std::isnan(expected.value))
         return ok && std::isnan(value);
-    const double written = expected.unit == Quantity::Ratio
-                               ? 0.005
-                               : 5 * std::abs(expected.value) * std::pow(10.0, -kShownDigits);
+    const bool isFixed = expected.unit == Quantity::Level || expected.unit == Quantity::Ratio;
+    const double written =
+        isFixed ? 0.005 : 5 * std::abs(expected.value) * std::pow(10.0, -kShownDigits);
     return std::abs(value - expected.value) <= expected.error + written + 1e-300;
+}
+
+/// How often each kind of result was compared.
+class Tally
+{
+public:
+    void count(const Approximate &result)
+    {
+        ++m_texts;
+        m_plain += result.failure == Failure::None && result.unit == Quantity::Plain;
+        m_invalid += result.failure == Failure::InvalidInput;
+        m_unitMissing += result.failure == Failure::UnitMissing;
+    }
+    int texts() const { return m_texts; }
+    /// Whether none of the kinds is rarer than one in a hundred.
+    bool isVaried() const
+    {
+        const int numbers = m_texts - m_plain - m_invalid - m_unitMissing;
+        return std::min({numbers, m_plain, m_invalid, m_unitMissing}) > m_texts / 100;
+    }
+
+private:
+    int m_texts = 0;
+    int m_plain = 0;
+    int m_invalid = 0;
+    int m_unitMissing = 0;
+};
+
+/// Calculates @p text and compares what is shown.
+void compare(ExpressionProfile &calculator, const QString &text, const Expected &expected)
+{
+    calculator.setInput(text);
+    calculator.calculate();
+    QVERIFY2(
+        agrees(calculator.output(), expected.number),
+        qPrintable(QStringLiteral("mode %1: %2 = %3 %4, not %5")
+                       .arg(calculator.mode())
+                       .arg(text, calculator.output(), calculator.unitText(calculator.outputUnit()))
+                       .arg(expected.number.value, 0, 'g', 15)));
+    QVERIFY2(
+        calculator.outputUnit() == expected.unit,
+        qPrintable(text + QStringLiteral(" in ") + calculator.unitText(calculator.outputUnit())));
 }
 
 /// A word that may stand somewhere in an expression, or should not.
@@ -158,50 +281,46 @@ void RandomExpressionsTest::init()
 void RandomExpressionsTest::powersAgreeWithTheNaiveCalculator()
 {
     Random random(kSeed);
-    int compared = 0;
-    for (int i = 0; i < kTexts; ++i) {
-        const Chain chain = randomChain(random, randomPower, 3);
-        const QString text = chainText(chain);
+    Tally tally;
+    while (tally.texts() < kTexts) {
+        const Chain chain = randomExpression<randomPower>(random);
         const int mode = below(random, 3);
-        const Approximate expected = NaivePowers(mode == 0).value(chain);
-        if (std::isinf(expected.error))
+        const int chosen = below(random, PowerUnit::None + 1);
+        const Approximate result = NaivePowers(mode == 0).value(chain);
+        const Expected expected = shownByPowers(result, chosen);
+        if (std::isinf(expected.number.error))
             continue;
         DbmCalculatorProfile calculator;
         calculator.setMode(mode);
-        calculator.setOutputUnit(1);
-        calculator.setInput(text);
-        calculator.calculate();
-        QVERIFY2(agrees(calculator.output(), expected),
-                 qPrintable(QStringLiteral("mode %1: %2 = %3, not %4")
-                                .arg(mode)
-                                .arg(text, calculator.output())
-                                .arg(expected.value, 0, 'g', 15)));
-        ++compared;
+        calculator.setOutputUnit(chosen);
+        compare(calculator, chainText(chain), expected);
+        if (QTest::currentTestFailed())
+            return;
+        tally.count(result);
     }
-    QVERIFY2(compared > kTexts * 9 / 10, qPrintable(QString::number(compared)));
+    QVERIFY(tally.isVaried());
 }
 
 void RandomExpressionsTest::voltagesAgreeWithTheNaiveCalculator()
 {
     Random random(kSeed);
-    for (int i = 0; i < kTexts; ++i) {
-        const Chain chain = randomChain(random, randomVoltage, 3);
-        const QString text = chainText(chain);
+    Tally tally;
+    while (tally.texts() < kTexts) {
+        const Chain chain = randomExpression<randomVoltage>(random);
         const int mode = below(random, 3);
         const int degrees = below(random, 721) - 360;
-        const Approximate expected = NaiveVoltages(mode, degrees).value(chain);
+        const int chosen = below(random, VoltageUnit::None + 1);
+        const Approximate result = NaiveVoltages(mode, degrees).value(chain);
         VoltageCalculatorProfile calculator;
         calculator.setMode(mode);
         calculator.setPhase(degrees);
-        calculator.setInput(text);
-        calculator.calculate();
-        QVERIFY2(agrees(calculator.output(), expected),
-                 qPrintable(QStringLiteral("mode %1, %2 degrees: %3 = %4, not %5")
-                                .arg(mode)
-                                .arg(degrees)
-                                .arg(text, calculator.output())
-                                .arg(expected.value, 0, 'g', 15)));
+        calculator.setOutputUnit(chosen);
+        compare(calculator, chainText(chain), shownByVoltages(result, chosen));
+        if (QTest::currentTestFailed())
+            return;
+        tally.count(result);
     }
+    QVERIFY(tally.isVaried());
 }
 
 void RandomExpressionsTest::garbageEndsInANumberOrANamedText_data()

@@ -8,6 +8,7 @@
 #include "mirroredtext.h"
 #include "ui_dbconverterwidget.h"
 
+#include <QApplication>
 #include <QEvent>
 
 DbConverterWidget::DbConverterWidget(QWidget *parent)
@@ -160,8 +161,11 @@ void DbConverterWidget::on_vDbLineEdit_textEdited(const QString &arg1)
     m_profile->setVLatestRun(0);
 }
 
+/// A tab that the model turns hides the field with the focus, which would finish its edit and
+/// calculate on values that were just loaded.
 void DbConverterWidget::onCurrentModeChanged()
 {
+    const QSignalBlocker noEdit(QApplication::focusWidget());
     m_ui->mainTab->setCurrentIndex(m_profile->currentMode());
 }
 

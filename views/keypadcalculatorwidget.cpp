@@ -33,6 +33,14 @@ KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidg
     connect(&m_slide, &TakeOverSlide::finished, this, &KeypadCalculatorWidget::endTakeOver);
 }
 
+/// A slide that nobody sees ends at once: a window that is closed meanwhile must not store what the
+/// model makes of a lone value.
+void KeypadCalculatorWidget::hideEvent(QHideEvent *event)
+{
+    m_slide.finish();
+    QWidget::hideEvent(event);
+}
+
 void KeypadCalculatorWidget::recalculate()
 {
     if (!m_profile.output().isEmpty())

@@ -45,6 +45,8 @@ protected:
         showProfile();
     }
 
+    void hideEvent(QHideEvent *event) override;
+
     /// For a choice of the person that an existing result depends on.
     void recalculate();
 

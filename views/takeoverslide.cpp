@@ -6,7 +6,6 @@
 #include "animations.h"
 
 #include <QLayout>
-#include <QParallelAnimationGroup>
 #include <QWidget>
 
 namespace {
@@ -31,15 +30,20 @@ void TakeOverSlide::start(QWidget *resultRow, QWidget *input)
 {
     const QPoint row = resultRow->pos();
     const QPoint place = input->pos();
-    auto *moves = new QParallelAnimationGroup(this);
-    moves->addAnimation(makeMove(resultRow, row, row - QPoint(0, resultRow->height())));
-    moves->addAnimation(makeMove(input, place + QPoint(0, input->height()), place));
-    connect(moves, &QAbstractAnimation::finished, this, [this, resultRow, input] {
+    m_moves = new QParallelAnimationGroup(this);
+    m_moves->addAnimation(makeMove(resultRow, row, row - QPoint(0, resultRow->height())));
+    m_moves->addAnimation(makeMove(input, place + QPoint(0, input->height()), place));
+    connect(m_moves, &QAbstractAnimation::finished, this, [this, resultRow, input] {
         layOutAnew(resultRow);
         layOutAnew(input);
-        m_isRunning = false;
+        m_moves.clear();
         Q_EMIT finished();
     });
-    m_isRunning = true;
-    moves->start(QAbstractAnimation::DeleteWhenStopped);
+    m_moves->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void TakeOverSlide::finish()
+{
+    if (isRunning())
+        m_moves->setCurrentTime(m_moves->totalDuration());
 }

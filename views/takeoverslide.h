@@ -4,7 +4,8 @@
 #ifndef VIEWS_TAKEOVERSLIDE_H
 #define VIEWS_TAKEOVERSLIDE_H
 
-#include <QObject>
+#include <QParallelAnimationGroup>
+#include <QPointer>
 
 class QWidget;
 
@@ -20,16 +21,18 @@ class TakeOverSlide final : public QObject
 public:
     explicit TakeOverSlide(QObject *parent = nullptr);
 
-    bool isRunning() const { return m_isRunning; }
+    bool isRunning() const { return !m_moves.isNull(); }
 
     /// Both widgets must outlive the slide, and a slide that runs is not started again.
     void start(QWidget *resultRow, QWidget *input);
+    /// Ends a running slide at once.
+    void finish();
 
 Q_SIGNALS:
     void finished();
 
 private:
-    bool m_isRunning = false;
+    QPointer<QParallelAnimationGroup> m_moves;
 };
 
 #endif

@@ -3,6 +3,7 @@
 
 #include "dbconverterwidget.h"
 #include "mainprofile.h"
+#include "settingsfile.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void aNewPageShowsTheModelAtOnce();
     void theTabIsKeptInTheModel();
     void aLoadedModeTurnsTheTab();
+    void aLoadWithTheFocusInAFieldCalculatesNothing_data();
+    void aLoadWithTheFocusInAFieldCalculatesNothing();
     void typingInTheMiddleKeepsTheCursor();
     void tabWalksFromFieldToField();
     void anErrorWordIsMarked();
@@ -255,6 +258,46 @@ void DbConverterWidgetTest::aLoadedModeTurnsTheTab()
     QCOMPARE(m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1);
     m_model.setCurrentMode(17); // no such tab: the page stays
     QCOMPARE(m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1);
+}
+
+void DbConverterWidgetTest::aLoadWithTheFocusInAFieldCalculatesNothing_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<int>("tab");
+
+    for (const char *name : {"p1", "p2", "pRatio", "pDb"})
+        QTest::newRow(name) << QString::fromLatin1(name) << 0;
+    for (const char *name : {"v1", "v2", "vRatio", "vDb"})
+        QTest::newRow(name) << QString::fromLatin1(name) << 1;
+}
+
+/// The values do not belong together, so that any calculation would show.
+void DbConverterWidgetTest::aLoadWithTheFocusInAFieldCalculatesNothing()
+{
+    QFETCH(QString, field);
+    QFETCH(int, tab);
+
+    const QStringList names{QStringLiteral("p1"),     QStringLiteral("p2"),
+                            QStringLiteral("pRatio"), QStringLiteral("pDb"),
+                            QStringLiteral("v1"),     QStringLiteral("v2"),
+                            QStringLiteral("vRatio"), QStringLiteral("vDb")};
+    SettingsFile file;
+    file.settings().beginGroup(QStringLiteral("DbConverterProfile"));
+    for (int i = 0; i < names.size(); ++i)
+        file.settings().setValue(names.at(i), QString::number(i + 2));
+    file.settings().setValue(QStringLiteral("currentMode"), 1 - tab);
+    file.settings().setValue(QStringLiteral("pLatestRun"), 9);
+    file.settings().setValue(QStringLiteral("vLatestRun"), 9);
+    file.settings().endGroup();
+
+    show(tab);
+    edit(field + QLatin1String("LineEdit"))->setFocus();
+    m_model.loadSettings(file.settings());
+    QCOMPARE(m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->currentIndex(), 1 - tab);
+    for (int i = 0; i < names.size(); ++i)
+        QCOMPARE(edit(names.at(i) + QLatin1String("LineEdit"))->text(), QString::number(i + 2));
+    QCOMPARE(m_model.pLatestRun(), 9);
+    QCOMPARE(m_model.vLatestRun(), 9);
 }
 
 void DbConverterWidgetTest::typingInTheMiddleKeepsTheCursor()

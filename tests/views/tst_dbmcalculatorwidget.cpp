@@ -30,6 +30,7 @@ private Q_SLOTS:
     void clearEmptiesBothLines();
     void resultFollowsEveryKeystroke();
     void calculatesWithTheKeypadAlone();
+    void hidingDuringTheTakeOverLeavesNoError();
     void choosesTheUnit();
     void choosesTheMode();
     void selectorIsShownWithAUnit_data();
@@ -45,8 +46,11 @@ private:
 
 namespace {
 
-const QStringList kUnits{QStringLiteral("dBm"),     QStringLiteral("mW"),  QStringLiteral("W"),
-                         QStringLiteral("\u00B5W"), QStringLiteral("dBW"), QStringLiteral("dB")};
+QStringList allUnits()
+{
+    return {QStringLiteral("dBm"),     QStringLiteral("mW"),  QStringLiteral("W"),
+            QStringLiteral("\u00B5W"), QStringLiteral("dBW"), QStringLiteral("dB")};
+}
 
 CalculatorPage shownPage()
 {
@@ -72,7 +76,7 @@ void DbmCalculatorWidgetTest::offersUnitsAndModes()
                             QStringLiteral("Coherent Powers (Combiner), \u0394\u03C6 = 0\u00B0"),
                             QStringLiteral("Numeric Calculation")};
 
-    QCOMPARE(page.texts(page.unit()), kUnits);
+    QCOMPARE(page.texts(page.unit()), allUnits());
     QCOMPARE(page.texts(page.mode()), modes);
     QCOMPARE(page.result(), QStringLiteral("--- dBm"));
     QCOMPARE(page.input().text(), QString());
@@ -243,6 +247,19 @@ void DbmCalculatorWidgetTest::calculatesWithTheKeypadAlone()
     QCOMPARE(page.result(), QStringLiteral("-13.50 dBm"));
 }
 
+/// As when the window is closed within the slide: what is stored then must not be an error.
+void DbmCalculatorWidgetTest::hidingDuringTheTakeOverLeavesNoError()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Return);
+    QCOMPARE(m_profile.output(), QStringLiteral("invalid input"));
+
+    page.widget().hide();
+    QCOMPARE(m_profile.input(), QStringLiteral("10.00 dBm"));
+    QCOMPARE(m_profile.output(), QString());
+}
+
 void DbmCalculatorWidgetTest::choosesTheUnit()
 {
     CalculatorPage page = shownPage();
@@ -251,7 +268,7 @@ void DbmCalculatorWidgetTest::choosesTheUnit()
 
     page.unit().setFocus();
     QStringList results;
-    for (int i = 0; i < kUnits.size(); ++i) {
+    for (int i = 0; i < allUnits().size(); ++i) {
         page.type(Qt::Key_Down);
         results += page.result();
     }
@@ -314,10 +331,11 @@ void DbmCalculatorWidgetTest::offersWhatMakesSense_data()
     QTest::addColumn<QStringList>("units");
 
     QTest::newRow("a power in all but the ratio")
-        << QByteArray("1mW+1mW") << QStringList(kUnits.mid(0, 5));
-    QTest::newRow("a ratio as nothing else") << QByteArray("3dB+3dB") << QStringList(kUnits.mid(5));
+        << QByteArray("1mW+1mW") << QStringList(allUnits().mid(0, 5));
+    QTest::newRow("a ratio as nothing else")
+        << QByteArray("3dB+3dB") << QStringList(allUnits().mid(5));
     QTest::newRow("a negative power has no level")
-        << QByteArray("1mW-2mW") << QStringList(kUnits.mid(1, 3));
+        << QByteArray("1mW-2mW") << QStringList(allUnits().mid(1, 3));
     QTest::newRow("a plain number in no unit") << QByteArray("1+2") << QStringList();
 }
 
@@ -330,13 +348,13 @@ void DbmCalculatorWidgetTest::offersWhatMakesSense()
     page.type(input.constData());
 
     QCOMPARE(page.offeredUnits(), units);
-    QCOMPARE(page.texts(page.unit()), kUnits);
+    QCOMPARE(page.texts(page.unit()), allUnits());
 }
 
 void DbmCalculatorWidgetTest::aMissingValidityIsNone()
 {
     const CalculatorPage page = shownPage();
-    QCOMPARE(page.offeredUnits(), kUnits);
+    QCOMPARE(page.offeredUnits(), allUnits());
 
     m_profile.setValidUnits({{1, true}, {2, false}});
 

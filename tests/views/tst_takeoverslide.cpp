@@ -24,6 +24,7 @@ private Q_SLOTS:
     void endsWhereANewLayoutPutsThem();
     void endsInAHiddenWindow();
     void canBeDestroyedMeanwhile();
+    void canBeEndedAtOnce();
 
 private:
     std::unique_ptr<QWidget> m_window;
@@ -127,6 +128,19 @@ void TakeOverSlideTest::canBeDestroyedMeanwhile()
     m_slide.reset();
 
     QVERIFY(!moves);
+}
+
+void TakeOverSlideTest::canBeEndedAtOnce()
+{
+    const QPoint row = m_row->pos();
+    m_slide->finish();
+    QCOMPARE(m_finished->count(), 0); // nothing runs
+
+    m_slide->start(m_row, m_input);
+    m_slide->finish();
+    QVERIFY(!m_slide->isRunning());
+    QCOMPARE(m_finished->count(), 1);
+    QCOMPARE(m_row->pos(), row);
 }
 
 DEZIMO_TEST_MAIN(QApplication, TakeOverSlideTest)

@@ -3,7 +3,7 @@
 
 #include "identity.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 QString Identity::productName()
 {
@@ -21,4 +21,5 @@ void Identity::apply()
     QCoreApplication::setOrganizationDomain(QStringLiteral(DEZIMO_REVERSED_DOMAIN));
     QCoreApplication::setApplicationName(productName());
     QCoreApplication::setApplicationVersion(version());
+    QGuiApplication::setDesktopFileName(QStringLiteral(DEZIMO_ID));
 }

@@ -8,14 +8,15 @@
 
 /**
  * Who the program is. The settings store is found by the organization and application names; the
- * version and the maker's domain come from the build configuration.
+ * version, the maker's domain and the identifier made from it come from the build configuration.
  */
 namespace Identity {
 
 QString productName();
 QString version();
 
-/// Gives the application object its names and version.
+/// Gives the application object its names and version, and the name of the desktop entry by which
+/// the desktop finds the icon of its windows.
 void apply();
 
 } // namespace Identity

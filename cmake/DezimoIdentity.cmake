@@ -16,3 +16,7 @@ string(REPLACE "." ";" domain_parts "${DEZIMO_ORGANIZATION_DOMAIN}")
 list(REVERSE domain_parts)
 list(JOIN domain_parts "." DEZIMO_REVERSED_DOMAIN)
 unset(domain_parts)
+
+# The program among all others: it names the desktop entry, the metainfo, the MIME package and the
+# icon, by which a desktop takes them for one application.
+set(DEZIMO_ID "${DEZIMO_REVERSED_DOMAIN}.dezimo")

@@ -4,7 +4,7 @@
 #include "identity.h"
 #include "testmain.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QSettings>
 #include <QTest>
 
@@ -24,6 +24,7 @@ void IdentityTest::givesTheApplicationItsNames()
     QCOMPARE(QCoreApplication::organizationDomain(), QStringLiteral("example.vantrel"));
     QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Dezimo"));
     QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("3.2.1.0"));
+    QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("example.vantrel.dezimo"));
 }
 
 void IdentityTest::findsTheSettingsUnderOrganizationAndApplication()

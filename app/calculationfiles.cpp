@@ -62,6 +62,13 @@ void CalculationFiles::save(MainProfile &profile, const QString &fileName)
     profile.saveSettings(file);
 }
 
+void CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringList &arguments)
+{
+    const bool namesOneFile = arguments.size() == 2 && !arguments.at(1).isEmpty();
+    if (namesOneFile)
+        open(profile, arguments.at(1));
+}
+
 void CalculationFiles::loadDefaults(MainProfile &profile)
 {
     // A store of an organization that does not exist holds nothing, so every key takes its default.

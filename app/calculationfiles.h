@@ -4,7 +4,7 @@
 #ifndef APP_CALCULATIONFILES_H
 #define APP_CALCULATIONFILES_H
 
-#include <QString>
+#include <QStringList>
 
 class MainProfile;
 class QWidget;
@@ -23,6 +23,11 @@ QString askForFileToSave(QWidget *parent);
 
 void open(MainProfile &profile, const QString &fileName);
 void save(MainProfile &profile, const QString &fileName);
+
+/// Opens the one file that the command line names, as a double click in a file manager passes it.
+/// @p arguments begin with the program's own name. There are no options: a name may begin with a
+/// hyphen, and without a name or with several nothing is opened.
+void openFromCommandLine(MainProfile &profile, const QStringList &arguments);
 
 /// Gives every module its default values.
 void loadDefaults(MainProfile &profile);

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "calculationfiles.h"
 #include "identity.h"
 #include "kelapplication.h"
+#include "mainprofile.h"
 #include "mainwindow.h"
 
 int main(int argc, char *argv[])
@@ -12,5 +14,6 @@ int main(int argc, char *argv[])
     Identity::apply();
     MainWindow window;
     window.show();
+    CalculationFiles::openFromCommandLine(MainProfile::instance(), QApplication::arguments());
     return QApplication::exec();
 }

@@ -58,6 +58,8 @@ function(dezimo_library folder)
   string(SUBSTRING ${folder} 1 -1 rest)
   add_library(${target} STATIC ${arg_SOURCES})
   add_library(Dezimo::${initial}${rest} ALIAS ${target})
-  target_include_directories(${target} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
-  target_link_libraries(${target} PUBLIC ${arg_LINKS} PRIVATE Dezimo::Options ${arg_PRIVATE_LINKS})
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
+  target_link_libraries(${target}
+    PUBLIC ${arg_LINKS}
+    PRIVATE $<BUILD_INTERFACE:Dezimo::Options> ${arg_PRIVATE_LINKS})
 endfunction()

@@ -10,16 +10,22 @@ set -euo pipefail
 # Debian's packages, and the commands by which other systems can tell that they have the same.
 declare -A packages=(
     [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
-        python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core"
+        python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core librsvg2-bin"
     [run]="libqt5svg5 qtwayland5"
     [test]="libqt5test5 xvfb xauth x11-utils xdotool dbus"
+    [package]="dpkg-dev file"
+    [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"
+    [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy shellcheck"
     [windows-check]="g++-mingw-w64-x86-64-posix"
 )
 declare -A commands=(
-    [build]="c++ cmake ninja python3"
+    [build]="c++ cmake ninja python3 rsvg-convert"
     [run]=""
     [test]="ctest"
+    [package]="dpkg-deb dpkg-shlibdeps file"
+    [package-test]="lintian desktop-file-validate appstreamcli xmllint update-mime-database man"
+    [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy-standalone shellcheck"
     [windows-check]="x86_64-w64-mingw32-g++-posix"
 )

@@ -14,7 +14,7 @@ case "$*" in
     *) echo "usage: ./test.sh [--quick]" >&2; exit 2 ;;
 esac
 
-tools/packages.sh build run test
+tools/packages.sh build run test package package-test
 
 # The sanitizers lay their shadow memory at fixed addresses. Kernels that spread mappings over more
 # than 28 bits sometimes put the program there, so it is loaded at fixed addresses where allowed.

@@ -1,0 +1,143 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# package_test.sh CHECK: one check of the Debian package, which the check "build" makes. CTest runs
+# each from the source folder, with DEZIMO_VERSION and DEZIMO_ID as the project has them.
+set -euo pipefail
+
+shopt -s nullglob
+packages=(build/package/*.deb)
+package=${packages[0]:-}
+scratch=$(mktemp --directory)
+trap 'rm -rf "$scratch"' EXIT
+
+fail() { echo "$*" >&2; exit 1; }
+
+# expect WHAT WANTED FOUND
+expect() { [[ $2 == "$3" ]] || fail "$1: expected \"$2\", found \"$3\""; }
+
+field() { dpkg-deb --field "$package" "$1"; }
+
+unpack() { dpkg-deb --extract "$package" "$scratch/root"; }
+
+build() {
+    local said
+    said=$(./package.sh | tail --lines=1)
+    packages=(build/package/*.deb)
+    expect "packages made" 1 "${#packages[@]}"
+    expect "last line" "The package: ${packages[0]}" "$said"
+}
+
+# All four parts, in the package, in its name and in what it tells of itself.
+version() {
+    expect "Package" dezimo "$(field Package)"
+    expect "Version" "$DEZIMO_VERSION" "$(field Version)"
+    expect "file name" "dezimo_${DEZIMO_VERSION}_$(field Architecture).deb" "${package##*/}"
+    unpack
+    local share=$scratch/root/usr/share
+    zcat "$share/doc/dezimo/changelog.gz" >"$scratch/changelog"
+    expect "changelog" "$DEZIMO_VERSION" \
+        "$(dpkg-parsechangelog --file "$scratch/changelog" --show-field Version)"
+    expect "metainfo" "$DEZIMO_VERSION" \
+        "$(xmllint --xpath 'string(//release/@version)' "$share/metainfo/$DEZIMO_ID.metainfo.xml")"
+}
+
+dependencies() {
+    local depends
+    depends=$(field Depends)
+    for library in libc6 libstdc++6 libqt5core5a libqt5gui5 libqt5widgets5 libqt5svg5; do
+        [[ $depends == *"$library (>= "* ]] || fail "no dependency on $library in: $depends"
+    done
+}
+
+contents() {
+    local expected=$scratch/expected found=$scratch/found
+    {
+        echo ./usr/bin/dezimo
+        printf './usr/share/doc/dezimo/%s\n' NEWS.gz changelog.gz copyright
+        printf './usr/share/%s\n' "applications/$DEZIMO_ID.desktop" man/man1/dezimo.1.gz \
+            "metainfo/$DEZIMO_ID.metainfo.xml" "mime/packages/$DEZIMO_ID.xml"
+        printf "./usr/share/icons/hicolor/%s/apps/$DEZIMO_ID.png\n" \
+            16x16 22x22 24x24 32x32 48x48 64x64 128x128 256x256
+        echo "./usr/share/icons/hicolor/scalable/apps/$DEZIMO_ID.svg"
+    } | sort >"$expected"
+    dpkg-deb --fsys-tarfile "$package" | tar --list | grep --invert-match '/$' | sort >"$found"
+    diff "$expected" "$found"
+}
+
+# Each picture has the size of its folder, and the desktop entry names them.
+icons() {
+    unpack
+    local hicolor=$scratch/root/usr/share/icons/hicolor
+    for icon in "$hicolor"/*x*/apps/*.png; do
+        local folder=${icon#"$hicolor/"}
+        local size=${folder%%/*}
+        [[ $(file --brief "$icon") == "PNG image data, ${size/x/ x }, 8-bit/color RGBA"* ]] ||
+            fail "$folder is $(file --brief "$icon")"
+    done
+    expect "Icon" "Icon=$DEZIMO_ID" \
+        "$(grep '^Icon=' "$scratch/root/usr/share/applications/$DEZIMO_ID.desktop")"
+}
+
+# The databases that a desktop makes of the package lead from a file to the program.
+desktop_knows_the_files() {
+    unpack
+    local share=$scratch/root/usr/share
+    update-mime-database "$share/mime" 2>/dev/null
+    grep --quiet --line-regexp '50:application/x-dezimo:\*\.dezimo' "$share/mime/globs2" ||
+        fail "no file type for *.dezimo"
+    update-desktop-database "$share/applications"
+    grep --quiet --line-regexp "application/x-dezimo=$DEZIMO_ID.desktop;" \
+        "$share/applications/mimeinfo.cache" || fail "no program for application/x-dezimo"
+    grep --quiet --line-regexp 'Exec=dezimo %f' "$share/applications/$DEZIMO_ID.desktop" ||
+        fail "the desktop entry does not pass the file on"
+}
+
+man_page() {
+    unpack
+    local complaints
+    complaints=$(LC_ALL=C.UTF-8 MANWIDTH=80 MANROFFSEQ='' man --warnings --local-file \
+        "$scratch/root/usr/share/man/man1/dezimo.1.gz" 2>&1 >"$scratch/page")
+    expect "complaints" "" "$complaints"
+    grep --quiet "Dezimo $DEZIMO_VERSION" "$scratch/page" || fail "the page does not tell the version"
+}
+
+lintian() {
+    local root=()
+    [[ $EUID -ne 0 ]] || root=(--allow-root)
+    command lintian "${root[@]}" --fail-on error,warning "$package"
+}
+
+# code_block LANGUAGE PAGE: what stands between the fences of a language.
+code_block() { sed --quiet "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$2"; }
+
+# The documented example, taken from the page as it stands, against the installed models.
+use_of_the_models() {
+    local page=docs/use-the-models.md
+    cmake --install build/package --component devel --prefix "$scratch/installed" >/dev/null
+    mkdir "$scratch/example"
+    code_block cmake "$page" >"$scratch/example/CMakeLists.txt"
+    code_block cpp "$page" >"$scratch/example/main.cpp"
+    cmake -G Ninja -S "$scratch/example" -B "$scratch/build" \
+        -D CMAKE_PREFIX_PATH="$scratch/installed" -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >/dev/null
+    cmake --build "$scratch/build"
+    "$scratch/build/antenna" >"$scratch/found"
+    code_block text "$page" | diff - "$scratch/found"
+}
+
+# Again from sources in another place, at another hour and without what the first build left behind.
+reproducible() {
+    mkdir "$scratch/sources"
+    tar --create --exclude=./build --exclude=./.git . | tar --extract --touch --directory "$scratch/sources"
+    (
+        umask 027
+        cd "$scratch/sources"
+        env TZ=Pacific/Kiritimati LC_ALL=C CCACHE_DISABLE=1 ./package.sh >/dev/null
+    )
+    cmp "$package" "$scratch/sources/$package"
+}
+
+[[ $# -eq 1 && $(type -t "$1") == function ]] || fail "usage: package_test.sh CHECK"
+[[ $1 == build || -n $package ]] || fail "There is no package yet; the check build makes it."
+"$1"

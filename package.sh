@@ -16,7 +16,8 @@ debian() {
     rm -f build/package/*.deb
     cmake --preset package >/dev/null # warnings and errors still show
     cmake --build --preset package
-    cpack --preset package >/dev/null
+    local log=build/package/cpack.log
+    cpack --preset package >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
     echo "The package: $(echo build/package/*.deb)"
 }
 

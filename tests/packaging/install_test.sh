@@ -1,0 +1,165 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# install_test.sh: installs the Debian package into a fresh root of the same Debian release, starts
+# Dezimo from there by the Exec line of its menu entry, without and with a file, closes it, removes
+# the package and looks for what was left behind. Where no fresh root can be made it says why and
+# ends with status 77.
+#
+# The root with the package's dependencies is kept under build/install-test, so that only the first
+# run fetches anything.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+
+cache=build/install-test
+person=1000 # the user that starts the program
+file="Zwei Geräte, 10 µW.dezimo"
+
+fail() { echo "$*" >&2; exit 1; }
+skip() { echo "Install test skipped: $*"; exit 77; }
+
+# The archives of Debian that this machine itself installs from, as lines of a sources.list.
+machine_sources() {
+    # shellcheck disable=SC2016
+    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian'
+}
+
+in_root() {
+    chroot "$root" env --ignore-environment PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
+        DEBIAN_FRONTEND=noninteractive "$@"
+}
+
+apt_in_root() {
+    in_root apt-get --quiet --quiet --yes -o Dpkg::Use-Pty=0 -o APT::Install-Recommends=false "$@" \
+        >>"$cache/apt.log" 2>&1 || { tail --lines=20 "$cache/apt.log"; fail "apt-get $1 failed"; }
+}
+
+# A fresh root with what the package depends on, and with a person's account.
+make_root() {
+    local mirror
+    mirror=$(awk -v release="$release" '$3 == release { print $2; exit }' <<<"$sources")
+    [[ -n $mirror ]] || skip "apt knows no archive of Debian $release"
+    echo "Making a fresh root of Debian $release"
+    debootstrap --variant=minbase "$release" "$root" "$mirror" >"$cache/debootstrap.log" 2>&1 || {
+        ! grep --quiet 'noexec or nodev' "$cache/debootstrap.log" || skip "no devices can be made here"
+        tail --lines=5 "$cache/debootstrap.log"
+        fail "debootstrap failed"
+    }
+    echo "$sources" >"$root/etc/apt/sources.list"
+    apt-config dump --format '%f "%v";%n' Acquire::http Acquire::https Acquire::Check-Valid-Until \
+        Acquire::Check-Date >"$root/etc/apt/apt.conf.d/machine"
+    apt_in_root update
+    apt_in_root satisfy "$depends"
+    apt_in_root clean
+    in_root useradd --create-home --uid "$person" person
+}
+
+# The root as make_root makes it, from the last run where nothing it is made of has changed.
+fresh_root() {
+    local key kept
+    key=$(sha256sum <<<"$release $sources $depends" | cut --characters=1-16)
+    kept=$cache/root-$key.tar
+    if [[ -e $kept ]]; then
+        tar --extract --file "$kept" --directory "$root"
+        return
+    fi
+    make_root
+    rm -f "$cache"/root-*.tar
+    tar --create --file "$kept.part" --directory "$root" .
+    mv "$kept.part" "$kept"
+}
+
+# Every path in the root with its contents, but for apt's own books and the person's state.
+snapshot() {
+    (
+        cd "$root"
+        find . \( -path ./var/lib/dpkg -o -path ./var/lib/apt -o -path ./var/cache/apt \
+            -o -path ./var/log -o -path ./home/person \) -prune \
+            -o -type f -exec sha256sum {} + -o -printf '%y %p %l\n' | sort
+    )
+}
+
+# The words of the menu entry's Exec line, with %f replaced by the given file or left out.
+exec_words() {
+    local entry words word
+    entry=$(compgen -G "$root/usr/share/applications/*.dezimo.desktop")
+    read -r -a words <<<"$(sed --quiet 's/^Exec=//p' "$entry")"
+    for word in "${words[@]}"; do
+        if [[ $word != %f ]]; then
+            echo "$word"
+        elif [[ $# -gt 0 ]]; then
+            echo "$1"
+        fi
+    done
+}
+
+# start_and_quit [FILE]: starts the program as the person's desktop would, waits for its window and
+# leaves by the keys of the menu's Quit.
+start_and_quit() {
+    local words program window
+    mapfile -t words < <(exec_words "$@")
+    echo "Starting: ${words[*]}"
+    chroot --userspec="$person:$person" "$root" env --ignore-environment --chdir=/home/person \
+        PATH=/usr/local/bin:/usr/bin:/bin HOME=/home/person XDG_RUNTIME_DIR=/home/person/.runtime \
+        LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" "${words[@]}" &
+    program=$!
+    window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Dezimo \[') ||
+        { kill "$program" || true; fail "no window appeared"; }
+    xwininfo -id "$window" | grep --extended-regexp 'Window id|Width|Height|Map State'
+    xdotool windowfocus --sync "$window" key ctrl+q
+    wait "$program" || fail "the program ended with status $?"
+}
+
+# stored KEY: a value of the dB converter in the state that the program left.
+stored() {
+    sed --quiet "/^\[DbConverterProfile\]/,/^\[/s/^$1=//p" "$root/home/person/.config/Vantrel/Dezimo.conf"
+}
+
+clean_up() {
+    [[ -z ${server:-} ]] || kill "$server" 2>/dev/null || true
+    rm -rf --one-file-system "$root"
+}
+
+command -v apt-get >/dev/null || skip "this is not Debian"
+[[ $EUID -eq 0 ]] || skip "debootstrap needs root"
+chroot / true 2>/dev/null || skip "chroot is not permitted here"
+tools/packages.sh test package install-test
+./package.sh | tail --lines=1
+package=$(compgen -G 'build/package/*.deb')
+depends=$(dpkg-deb --field "$package" Depends)
+# shellcheck source=/dev/null
+release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+sources=$(machine_sources)
+[[ -n $sources ]] || { apt-get --quiet --quiet update; sources=$(machine_sources); }
+
+mkdir -p "$cache"
+: >"$cache/apt.log"
+root=$(mktemp --directory "$PWD/$cache/root.XXXXXX")
+trap clean_up EXIT
+chmod 755 "$root"
+fresh_root
+install --directory --mode=700 --owner="$person" --group="$person" "$root/home/person/.runtime"
+printf '[DbConverterProfile]\np1=5W\n' >"$root/home/person/$file"
+snapshot >"$cache/before"
+
+coproc display { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -ac 2>"$cache/xvfb.log"; }
+# shellcheck disable=SC2154
+server=$display_PID
+# shellcheck disable=SC2154
+read -r -t 60 number <&"${display[0]}" || fail "no X server"
+export DISPLAY=:$number
+
+cp "$package" "$root/var/cache/apt/"
+apt_in_root install "/var/cache/apt/${package##*/}"
+grep --quiet 'application/x-dezimo' "$root/usr/share/mime/globs2" || fail "*.dezimo is unknown"
+start_and_quit
+[[ -z $(stored p1) ]] || fail "a first start shows a value: $(stored p1)"
+start_and_quit "/home/person/$file"
+[[ $(stored p1) == 5W ]] || fail "the file was not opened: $(stored p1)"
+
+apt_in_root remove dezimo
+snapshot | diff "$cache/before" - || fail "the package left something behind"
+[[ $(stored p1) == 5W ]] || fail "the person's state is gone"
+echo "Installed, started, removed; only the person's state is left."

@@ -56,6 +56,8 @@ contents() {
     {
         echo ./usr/bin/dezimo
         printf './usr/share/doc/dezimo/%s\n' NEWS.gz changelog.gz copyright
+        printf './usr/share/doc/dezimo/examples/%s.dezimo\n' \
+            antenna-mismatch receiver-chain two-transmitters
         printf './usr/share/%s\n' "applications/$DEZIMO_ID.desktop" man/man1/dezimo.1.gz \
             "metainfo/$DEZIMO_ID.metainfo.xml" "mime/packages/$DEZIMO_ID.xml"
         printf "./usr/share/icons/hicolor/%s/apps/$DEZIMO_ID.png\n" \

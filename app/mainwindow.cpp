@@ -202,14 +202,16 @@ void MainWindow::applyWindowMode()
 }
 
 /// The stored position is that of the contents and places the frame, which is meant. A window that
-/// would lie on no screen, because one has gone since, is brought back.
+/// would lie on no screen, because one has gone since, is brought back. A stored size is bounded to
+/// what the screens show together: a damaged or foreign one may be so large that the window could
+/// not be painted at all. The form's own size is always good, as it is what a first start shows.
 void MainWindow::restoreGeometryFromProfile()
 {
-    const QSize size = m_profile.windowSize();
-    move(m_profile.windowPosition());
-    if (size.isValid())
-        resize(size);
-    move(reachablePosition(geometry(), screenRects()));
+    const QVector<QRect> screens = screenRects();
+    const QSize stored = m_profile.windowSize();
+    if (stored.isValid())
+        resize(stored.boundedTo(largestShownSize(screens).expandedTo(size())));
+    move(reachablePosition(m_profile.windowPosition(), size(), screens));
 }
 
 /// The person can type at once on a page that was just chosen. A list that has the keyboard keeps

@@ -7,33 +7,52 @@
 
 namespace {
 
-/// The top-left position nearest to the window's own at which it lies on @p screen; a window larger
-/// than the screen keeps its top-left corner there.
-QPoint positionOn(const QRect &screen, const QRect &window)
+/// Whether two stretches of pixels share one. The ends are sums that may lie beyond int.
+bool overlap(qint64 start, qint64 length, qint64 otherStart, qint64 otherLength)
 {
-    const auto clamp = [](int wanted, int low, int high) {
-        return std::max(low, std::min(wanted, high));
-    };
-    return {clamp(window.x(), screen.x(), screen.x() + screen.width() - window.width()),
-            clamp(window.y(), screen.y(), screen.y() + screen.height() - window.height())};
+    return start < otherStart + otherLength && otherStart < start + length;
+}
+
+/// The place nearest to @p wanted at which a stretch lies on the screen's; one that is longer than
+/// the screen begins where the screen does.
+int nearestPlace(int wanted, int length, int screenStart, int screenLength)
+{
+    const qint64 last = qint64(screenStart) + screenLength - length;
+    return int(std::max(qint64(screenStart), std::min(qint64(wanted), last)));
+}
+
+QPoint positionOn(const QRect &screen, const QPoint &position, const QSize &size)
+{
+    return {nearestPlace(position.x(), size.width(), screen.x(), screen.width()),
+            nearestPlace(position.y(), size.height(), screen.y(), screen.height())};
 }
 
 } // namespace
 
-QPoint reachablePosition(const QRect &window, const QVector<QRect> &screens)
+QPoint reachablePosition(const QPoint &position, const QSize &size, const QVector<QRect> &screens)
 {
-    const auto isTouched = [&window](const QRect &screen) {
-        return screen.intersects(window);
+    const auto isTouched = [&position, &size](const QRect &screen) {
+        return overlap(position.x(), size.width(), screen.x(), screen.width()) &&
+               overlap(position.y(), size.height(), screen.y(), screen.height());
     };
     if (screens.isEmpty() || std::any_of(screens.begin(), screens.end(), isTouched))
-        return window.topLeft();
+        return position;
 
-    const auto distance = [&window](const QRect &screen) {
-        const QPoint way = positionOn(screen, window) - window.topLeft();
-        return std::abs(qint64(way.x())) + std::abs(qint64(way.y()));
+    const auto distance = [&position, &size](const QRect &screen) {
+        const QPoint place = positionOn(screen, position, size);
+        return std::abs(qint64(place.x()) - position.x()) +
+               std::abs(qint64(place.y()) - position.y());
     };
     const auto nearest = std::min_element(
         screens.begin(), screens.end(),
         [&distance](const QRect &a, const QRect &b) { return distance(a) < distance(b); });
-    return positionOn(*nearest, window);
+    return positionOn(*nearest, position, size);
+}
+
+QSize largestShownSize(const QVector<QRect> &screens)
+{
+    QRect all;
+    for (const QRect &screen : screens)
+        all = all.united(screen);
+    return all.size();
 }

@@ -7,10 +7,13 @@
 #include <QRect>
 #include <QVector>
 
-/// Where a window that was stored as @p window is put: where it was if any part of it lies on one
-/// of
-/// @p screens, else wholly onto the nearest one. All in device-independent pixels. Without screens
-/// the window stays where it was.
-QPoint reachablePosition(const QRect &window, const QVector<QRect> &screens);
+/// Where a window that was stored at @p position is put: there if any part of it lies on one of
+/// @p screens, else wholly onto the nearest one. All in device-independent pixels. Any position is
+/// taken, also one at an end of the number range. Without screens the window stays where it was.
+QPoint reachablePosition(const QPoint &position, const QSize &size, const QVector<QRect> &screens);
+
+/// The largest size that a window can show on @p screens: that of all of them together, as a window
+/// may lie across several.
+QSize largestShownSize(const QVector<QRect> &screens);
 
 #endif

@@ -22,6 +22,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <limits>
+
 class MainWindowTest : public QObject
 {
     Q_OBJECT
@@ -64,6 +66,9 @@ private Q_SLOTS:
     void mirrorsItsGeometry();
     void restoresItsGeometry();
     void anInvalidStoredSizeIsNotApplied();
+    void aStoredSizeThatNoScreenCanShowIsBounded_data();
+    void aStoredSizeThatNoScreenCanShowIsBounded();
+    void aWindowThatLiesOnNoScreenIsBroughtBack_data();
     void aWindowThatLiesOnNoScreenIsBroughtBack();
 
 private:
@@ -449,10 +454,10 @@ void MainWindowTest::mirrorsItsGeometry()
 void MainWindowTest::restoresItsGeometry()
 {
     store("windowPosition", QPoint(11, 22));
-    store("windowSize", QSize(900, 650));
+    store("windowSize", QSize(940, 600));
     openWindow();
     QCOMPARE(m_window->pos(), QPoint(11, 22));
-    QCOMPARE(m_window->size(), QSize(900, 650));
+    QCOMPARE(m_window->size(), QSize(940, 600));
 }
 
 void MainWindowTest::anInvalidStoredSizeIsNotApplied()
@@ -462,9 +467,45 @@ void MainWindowTest::anInvalidStoredSizeIsNotApplied()
     QCOMPARE(m_window->size(), QSize(958, 605));
 }
 
+void MainWindowTest::aStoredSizeThatNoScreenCanShowIsBounded_data()
+{
+    QTest::addColumn<QSize>("stored");
+
+    const int highest = std::numeric_limits<int>::max();
+    QTest::newRow("too large both ways") << QSize(100000, 100000);
+    QTest::newRow("at the end of the number range") << QSize(highest, highest);
+    QTest::newRow("too wide") << QSize(100000, 605);
+    QTest::newRow("too high") << QSize(958, 100000);
+}
+
+void MainWindowTest::aStoredSizeThatNoScreenCanShowIsBounded()
+{
+    QFETCH(QSize, stored);
+
+    store("windowSize", stored);
+    openWindow();
+    // Smaller than the form, the screens do not count.
+    const QSize largest = m_window->screen()->availableVirtualSize().expandedTo(QSize(958, 605));
+    QCOMPARE(m_window->size(), stored.boundedTo(largest));
+    QCOMPARE(MainProfile::instance().windowSize(), m_window->size());
+}
+
+void MainWindowTest::aWindowThatLiesOnNoScreenIsBroughtBack_data()
+{
+    QTest::addColumn<QPoint>("stored");
+
+    const int highest = std::numeric_limits<int>::max();
+    const int lowest = std::numeric_limits<int>::min();
+    QTest::newRow("far away") << QPoint(100000, 100000);
+    QTest::newRow("at the upper end of the number range") << QPoint(highest, highest);
+    QTest::newRow("at the lower end of the number range") << QPoint(lowest, lowest);
+}
+
 void MainWindowTest::aWindowThatLiesOnNoScreenIsBroughtBack()
 {
-    store("windowPosition", QPoint(100000, 100000));
+    QFETCH(QPoint, stored);
+
+    store("windowPosition", stored);
     openWindow();
     QVERIFY(m_window->screen()->availableGeometry().intersects(m_window->geometry()));
 }

@@ -35,7 +35,7 @@ void RestartTest::theNextWindowShowsWhatTheLastOneHeld()
     {
         MainWindow window;
         window.show();
-        window.resize(1001, 702);
+        window.resize(941, 602);
         MainProfile::instance().setCurrentModule(3);
         auto *p1 = window.findChild<QLineEdit *>(QStringLiteral("p1LineEdit"));
         auto *p2 = window.findChild<QLineEdit *>(QStringLiteral("p2LineEdit"));
@@ -52,7 +52,7 @@ void RestartTest::theNextWindowShowsWhatTheLastOneHeld()
     const auto text = [&window](const char *name) {
         return window.findChild<QLineEdit *>(QLatin1String(name))->text();
     };
-    QCOMPARE(window.size(), QSize(1001, 702));
+    QCOMPARE(window.size(), QSize(941, 602));
     QCOMPARE(window.windowTitle(), QStringLiteral("Dezimo [dB Converter]"));
     QCOMPARE(text("p1LineEdit"), QStringLiteral("10dBm"));
     QCOMPARE(text("p2LineEdit"), QStringLiteral("0dBm"));

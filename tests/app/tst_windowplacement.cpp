@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include <limits>
+
 class WindowPlacementTest : public QObject
 {
     Q_OBJECT
@@ -14,49 +16,74 @@ class WindowPlacementTest : public QObject
 private Q_SLOTS:
     void places_data();
     void places();
+    void theLargestShownSizeIsThatOfAllScreensTogether();
 };
 
 void WindowPlacementTest::places_data()
 {
-    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QPoint>("stored");
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<QVector<QRect>>("screens");
     QTest::addColumn<QPoint>("position");
 
+    const QSize form(958, 605);
     const QRect left(0, 0, 1920, 1080);
     const QRect right(1920, 0, 1280, 1024);
     const QVector<QRect> one{left};
     const QVector<QRect> two{left, right};
 
-    QTest::newRow("on the screen: stays") << QRect(100, 50, 958, 605) << one << QPoint(100, 50);
+    QTest::newRow("on the screen: stays") << QPoint(100, 50) << form << one << QPoint(100, 50);
     QTest::newRow("partly off the screen: stays")
-        << QRect(-900, 50, 958, 605) << one << QPoint(-900, 50);
+        << QPoint(-900, 50) << form << one << QPoint(-900, 50);
     QTest::newRow("on the second screen: stays")
-        << QRect(2000, 50, 958, 605) << two << QPoint(2000, 50);
+        << QPoint(2000, 50) << form << two << QPoint(2000, 50);
     QTest::newRow("the second screen has gone: onto the right edge of the first")
-        << QRect(2000, 50, 958, 605) << one << QPoint(962, 50); // 1920 - 958
+        << QPoint(2000, 50) << form << one << QPoint(962, 50); // 1920 - 958
     QTest::newRow("above the screen: onto its upper edge")
-        << QRect(10, -5000, 958, 605) << one << QPoint(10, 0);
+        << QPoint(10, -5000) << form << one << QPoint(10, 0);
     QTest::newRow("below and left: into the nearest corner")
-        << QRect(-5000, 9000, 958, 605) << one << QPoint(0, 475); // 1080 - 605
+        << QPoint(-5000, 9000) << form << one << QPoint(0, 475); // 1080 - 605
     QTest::newRow("beyond the second screen: onto the second")
-        << QRect(9000, 0, 958, 605) << two << QPoint(2242, 0); // 3200 - 958
+        << QPoint(9000, 0) << form << two << QPoint(2242, 0); // 3200 - 958
     QTest::newRow("larger than the screen: its corner is reachable")
-        << QRect(5000, 5000, 4000, 3000) << one << QPoint(0, 0);
+        << QPoint(5000, 5000) << QSize(4000, 3000) << one << QPoint(0, 0);
     QTest::newRow("touching an edge from outside is not on the screen")
-        << QRect(1920, 0, 958, 605) << one << QPoint(962, 0);
+        << QPoint(1920, 0) << form << one << QPoint(962, 0);
     QTest::newRow("no screen known: stays")
-        << QRect(5000, 5000, 10, 10) << QVector<QRect>() << QPoint(5000, 5000);
-    QTest::newRow("at the end of the number range: does not overflow")
-        << QRect(2147480000, 2147480000, 958, 605) << one << QPoint(962, 475);
+        << QPoint(5000, 5000) << QSize(10, 10) << QVector<QRect>() << QPoint(5000, 5000);
+    const int highest = std::numeric_limits<int>::max();
+    const int lowest = std::numeric_limits<int>::min();
+    QTest::newRow("at the upper end of the number range: onto the last corner")
+        << QPoint(highest, highest) << form << one << QPoint(962, 475);
+    QTest::newRow("at the lower end of the number range: onto the first corner")
+        << QPoint(lowest, lowest) << form << one << QPoint(0, 0);
+    QTest::newRow("the upper end, two screens: onto the right one")
+        << QPoint(highest, highest) << form << two << QPoint(2242, 419); // 1024 - 605
+    QTest::newRow("the lower end, two screens: onto the left one")
+        << QPoint(lowest, lowest) << form << two << QPoint(0, 0);
+    QTest::newRow("right end and top end, two screens: onto the right one")
+        << QPoint(highest, lowest) << form << two << QPoint(2242, 0);
+    QTest::newRow("left end and bottom end, two screens: onto the left one")
+        << QPoint(lowest, highest) << form << two << QPoint(0, 475);
 }
 
 void WindowPlacementTest::places()
 {
-    QFETCH(QRect, window);
+    QFETCH(QPoint, stored);
+    QFETCH(QSize, size);
     QFETCH(QVector<QRect>, screens);
     QFETCH(QPoint, position);
 
-    QCOMPARE(reachablePosition(window, screens), position);
+    QCOMPARE(reachablePosition(stored, size, screens), position);
+}
+
+void WindowPlacementTest::theLargestShownSizeIsThatOfAllScreensTogether()
+{
+    const QRect left(0, 0, 1920, 1080);
+    const QRect lowerRight(1920, 200, 1280, 1024);
+    QCOMPARE(largestShownSize({left}), QSize(1920, 1080));
+    // 1920 + 1280 wide, 200 + 1024 high
+    QCOMPARE(largestShownSize({left, lowerRight}), QSize(3200, 1224));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, WindowPlacementTest)

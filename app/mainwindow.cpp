@@ -77,8 +77,8 @@ MainWindow::MainWindow(QWidget *parent)
     onCurrentModuleChanged();
 }
 
-/// The form goes first: nothing that its widgets do while they are destroyed may reach the profile
-/// that is being saved.
+/// The form object goes first, then the state is written. The widgets themselves are destroyed
+/// after that, so nothing that they do then is saved.
 MainWindow::~MainWindow()
 {
     m_ui.reset();

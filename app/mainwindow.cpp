@@ -151,7 +151,7 @@ void MainWindow::onDecimalPlacesMenuAboutToShow()
         action->setShortcut(QKeySequence());
         action->setCheckable(true);
         action->setChecked(places == m_profile.decimalPlaces());
-        connect(action, &QAction::triggered, &m_profile,
+        connect(action, &QAction::triggered, this,
                 [this, places] { m_profile.setDecimalPlaces(places); });
     }
 }

@@ -41,7 +41,13 @@ int main(int argc, char *argv[])
     if (!QTest::qWaitForWindowActive(&window))
         return 1;
     for (const Tour::Example &example : Tour::examples()) {
-        std::printf("%s\n", qUtf8Printable(Tour::play(window, example)));
+        const Tour::Played played = Tour::play(window, example);
+        std::printf("%s\n", qUtf8Printable(played.line));
+        if (!played.missing.isEmpty()) {
+            std::fprintf(stderr, "missing in the window: %s\n",
+                         qUtf8Printable(played.missing.join(QLatin1String(", "))));
+            return 1;
+        }
         if (*example.picture == '\0')
             continue;
         const QString picture =

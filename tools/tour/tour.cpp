@@ -12,6 +12,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <optional>
+
 namespace {
 
 void typeInto(QWidget *field, const QString &text)
@@ -23,49 +25,63 @@ void typeInto(QWidget *field, const QString &text)
     QTest::keyClick(field, Qt::Key_Tab);
 }
 
-void choose(QTabWidget *tabs, const QString &title)
+bool choose(QTabWidget *tabs, const QString &title)
 {
     for (int index = 0; index < tabs->count(); ++index) {
-        if (tabs->tabText(index) == title)
+        if (tabs->tabText(index) == title) {
             tabs->setCurrentIndex(index);
+            return true;
+        }
     }
+    return false;
+}
+
+bool choose(QComboBox *selector, const QString &text)
+{
+    selector->setCurrentText(text);
+    return selector->currentText() == text;
 }
 
 /// A segmented switch is a row of buttons that carry the items' texts.
-void press(QWidget *buttons, const QString &text)
+bool press(QWidget *buttons, const QString &text)
 {
     const QList<QPushButton *> candidates = buttons->findChildren<QPushButton *>();
     for (QPushButton *button : candidates) {
-        if (button->text() == text)
+        if (button->text() == text) {
             QTest::mouseClick(button, Qt::LeftButton);
+            return true;
+        }
     }
+    return false;
 }
 
-bool perform(QWidget &window, const Tour::Step &step)
+/// Fails if there is no such widget, or no such item in it.
+bool perform(QWidget &page, const Tour::Step &step)
 {
-    auto *widget = window.findChild<QWidget *>(QLatin1String(step.objectName));
+    auto *widget = page.findChild<QWidget *>(QLatin1String(step.objectName));
     const QString text = QString::fromUtf8(step.text);
     if (widget == nullptr)
         return false;
     if (auto *selector = qobject_cast<QComboBox *>(widget))
-        selector->setCurrentText(text);
-    else if (auto *tabs = qobject_cast<QTabWidget *>(widget))
-        choose(tabs, text);
-    else if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QSpinBox *>(widget))
-        typeInto(widget, text);
-    else
-        press(widget, text);
+        return choose(selector, text);
+    if (auto *tabs = qobject_cast<QTabWidget *>(widget))
+        return choose(tabs, text);
+    if (!qobject_cast<QLineEdit *>(widget) && !qobject_cast<QSpinBox *>(widget))
+        return press(widget, text);
+    typeInto(widget, text);
     return true;
 }
 
-QString textOf(const QWidget &window, const char *objectName)
+/// What the widget shows, or nothing if there is no such widget. A selector that is hidden, since
+/// the result has no unit, shows an empty text.
+std::optional<QString> textOf(const QWidget &page, const char *objectName)
 {
-    auto *widget = window.findChild<QWidget *>(QLatin1String(objectName));
+    auto *widget = page.findChild<QWidget *>(QLatin1String(objectName));
     if (auto *selector = qobject_cast<QComboBox *>(widget))
         return selector->isVisible() ? selector->currentText() : QString();
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         return edit->text();
-    return QLatin1String(objectName) + QLatin1String(" is missing");
+    return std::nullopt;
 }
 
 } // namespace
@@ -118,20 +134,29 @@ const std::vector<Tour::Example> &Tour::examples()
     return all;
 }
 
-QString Tour::play(QWidget &window, const Example &example)
+Tour::Played Tour::play(QWidget &window, const Example &example)
 {
     auto *modules = window.findChild<QListWidget *>(QStringLiteral("menuItemsWidget"));
+    auto *pages = window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    if (modules == nullptr || pages == nullptr || modules->item(example.module) == nullptr)
+        return {{}, {QStringLiteral("module %1").arg(example.module)}};
     modules->setCurrentRow(example.module);
-    QWidget &page =
-        *window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentWidget();
-    QString line = modules->currentItem()->text() + QLatin1String(": ") +
-                   QString::fromUtf8(example.typed) + QLatin1String(" -> ");
+    QWidget &page = *pages->currentWidget();
+
+    Played played;
+    played.line = modules->currentItem()->text() + QLatin1String(": ") +
+                  QString::fromUtf8(example.typed) + QLatin1String(" -> ");
     for (const Step &step : example.steps) {
         if (!perform(page, step))
-            line += QLatin1String(step.objectName) + QLatin1String(" is missing; ");
+            played.missing +=
+                QLatin1String(step.objectName) + QLatin1Char(' ') + QString::fromUtf8(step.text);
     }
-    for (const Shown &shown : example.shown)
-        line += QString::fromUtf8(shown.before) + textOf(page, shown.objectName) +
-                QString::fromUtf8(shown.after);
-    return line;
+    for (const Shown &shown : example.shown) {
+        const auto text = textOf(page, shown.objectName);
+        if (!text)
+            played.missing += QLatin1String(shown.objectName);
+        played.line += QString::fromUtf8(shown.before) + text.value_or(QString()) +
+                       QString::fromUtf8(shown.after);
+    }
+    return played;
 }

@@ -4,7 +4,7 @@
 #ifndef TOOLS_TOUR_TOUR_H
 #define TOOLS_TOUR_TOUR_H
 
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -39,9 +39,14 @@ struct Example
 
 const std::vector<Example> &examples();
 
-/// Plays @p example in @p window and returns the line that tells what was typed and what is shown.
-/// A widget that does not exist is named in the line.
-QString play(QWidget &window, const Example &example);
+struct Played
+{
+    QString line;        ///< what was typed and what the window shows
+    QStringList missing; ///< widgets and items that the example names and the window lacks
+};
+
+/// Plays @p example in @p window. It failed if anything is missing.
+Played play(QWidget &window, const Example &example);
 
 } // namespace Tour
 

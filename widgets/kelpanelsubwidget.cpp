@@ -89,6 +89,8 @@ void KelPanelSubWidget::rememberContentHeight()
     m_contentMaximum = content->maximumHeight();
 }
 
+/// The minimum moves before the maximum: a maximum that goes below the minimum of the frame before
+/// would leave the content that high, and at the last frame nothing would shrink it any more.
 void KelPanelSubWidget::startFolding(int contentHeight, int arrowRotation)
 {
     if (m_folding)
@@ -96,7 +98,7 @@ void KelPanelSubWidget::startFolding(int contentHeight, int arrowRotation)
     QWidget *content = m_ui->content;
     const int height = content->height();
     auto *group = new QParallelAnimationGroup(this);
-    for (const char *property : {"maximumHeight", "minimumHeight"})
+    for (const char *property : {"minimumHeight", "maximumHeight"})
         group->addAnimation(
             makeAnimation(content, property, height, contentHeight, QEasingCurve::InOutQuad));
     group->addAnimation(

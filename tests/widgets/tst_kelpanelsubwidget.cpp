@@ -27,6 +27,7 @@ private Q_SLOTS:
     void startsExpanded();
     void collapseFoldsTheContent();
     void collapseAnimatesThreeProperties();
+    void theLastFrameFoldsWhateverTheOneBeforeLeft();
     void collapseFixesTheHeaderHeight();
     void collapseEndsWithARepaintOfTheFrame();
     void expandUnfoldsTheContent();
@@ -150,11 +151,20 @@ void KelPanelSubWidgetTest::collapseAnimatesThreeProperties()
     QVERIFY(group);
     QCOMPARE(group->state(), QAbstractAnimation::Running);
     QCOMPARE(group->animationCount(), 3);
-    compareAnimation(group->animationAt(0), m_content, "maximumHeight", kContentHeight, 0,
+    compareAnimation(group->animationAt(0), m_content, "minimumHeight", kContentHeight, 0,
                      QEasingCurve::InOutQuad);
-    compareAnimation(group->animationAt(1), m_content, "minimumHeight", kContentHeight, 0,
+    compareAnimation(group->animationAt(1), m_content, "maximumHeight", kContentHeight, 0,
                      QEasingCurve::InOutQuad);
     compareAnimation(group->animationAt(2), m_arrow, "rotation", 90, 0, QEasingCurve::Linear);
+}
+
+void KelPanelSubWidgetTest::theLastFrameFoldsWhateverTheOneBeforeLeft()
+{
+    m_section->collapse();
+    folding()->setCurrentTime(184);
+    QCOMPARE(m_content->height(), 1); // 80 * 2 * (1 - 184/200)^2 = 1.02
+    folding()->setCurrentTime(200);
+    QCOMPARE(m_content->height(), 0);
 }
 
 void KelPanelSubWidgetTest::collapseFixesTheHeaderHeight()
@@ -200,9 +210,9 @@ void KelPanelSubWidgetTest::expandAnimatesThreeProperties()
     const QParallelAnimationGroup *group = folding();
     QVERIFY(group);
     QCOMPARE(group->animationCount(), 3);
-    compareAnimation(group->animationAt(0), m_content, "maximumHeight", 0, kContentHeight,
+    compareAnimation(group->animationAt(0), m_content, "minimumHeight", 0, kContentHeight,
                      QEasingCurve::InOutQuad);
-    compareAnimation(group->animationAt(1), m_content, "minimumHeight", 0, kContentHeight,
+    compareAnimation(group->animationAt(1), m_content, "maximumHeight", 0, kContentHeight,
                      QEasingCurve::InOutQuad);
     compareAnimation(group->animationAt(2), m_arrow, "rotation", 0, 90, QEasingCurve::Linear);
 }

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelapplication.h"
+#include "mainwindowcase.h"
+#include "testmain.h"
+
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <limits>
+
+class MainWindowGeometryTest : public MainWindowCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mirrorsItsGeometry();
+    void restoresItsGeometry();
+    void anInvalidStoredSizeIsNotApplied();
+    void aStoredSizeThatNoScreenCanShowIsBounded_data();
+    void aStoredSizeThatNoScreenCanShowIsBounded();
+    void aWindowThatLiesOnNoScreenIsBroughtBack_data();
+    void aWindowThatLiesOnNoScreenIsBroughtBack();
+};
+
+void MainWindowGeometryTest::mirrorsItsGeometry()
+{
+    openWindow();
+    const QSignalSpy sizeChanged(&m_profile, &MainProfile::windowSizeChanged);
+    const QSignalSpy positionChanged(&m_profile, &MainProfile::windowPositionChanged);
+    m_window->resize(1000, 700);
+    m_window->move(20, 30);
+    QTRY_COMPARE(m_profile.windowSize(), QSize(1000, 700));
+    QTRY_COMPARE(m_profile.windowPosition(), QPoint(20, 30));
+    QCOMPARE(sizeChanged.count(), 1);
+    QCOMPARE(positionChanged.count(), 1);
+}
+
+void MainWindowGeometryTest::restoresItsGeometry()
+{
+    store("windowPosition", QPoint(11, 22));
+    store("windowSize", QSize(940, 600));
+    openWindow();
+    QCOMPARE(m_window->pos(), QPoint(11, 22));
+    QCOMPARE(m_window->size(), QSize(940, 600));
+}
+
+void MainWindowGeometryTest::anInvalidStoredSizeIsNotApplied()
+{
+    store("windowSize", QSize(-5, 300));
+    openWindow();
+    QCOMPARE(m_window->size(), QSize(958, 605));
+}
+
+void MainWindowGeometryTest::aStoredSizeThatNoScreenCanShowIsBounded_data()
+{
+    QTest::addColumn<QSize>("stored");
+
+    const int highest = std::numeric_limits<int>::max();
+    QTest::newRow("too large both ways") << QSize(100000, 100000);
+    QTest::newRow("at the end of the number range") << QSize(highest, highest);
+    QTest::newRow("too wide") << QSize(100000, 605);
+    QTest::newRow("too high") << QSize(958, 100000);
+}
+
+void MainWindowGeometryTest::aStoredSizeThatNoScreenCanShowIsBounded()
+{
+    QFETCH(QSize, stored);
+
+    store("windowSize", stored);
+    openWindow();
+    // Smaller than the form, the screens do not count.
+    const QSize largest = m_window->screen()->availableVirtualSize().expandedTo(QSize(958, 605));
+    QCOMPARE(m_window->size(), stored.boundedTo(largest));
+    QCOMPARE(m_profile.windowSize(), m_window->size());
+}
+
+void MainWindowGeometryTest::aWindowThatLiesOnNoScreenIsBroughtBack_data()
+{
+    QTest::addColumn<QPoint>("stored");
+
+    const int highest = std::numeric_limits<int>::max();
+    const int lowest = std::numeric_limits<int>::min();
+    QTest::newRow("far away") << QPoint(100000, 100000);
+    QTest::newRow("at the upper end of the number range") << QPoint(highest, highest);
+    QTest::newRow("at the lower end of the number range") << QPoint(lowest, lowest);
+}
+
+void MainWindowGeometryTest::aWindowThatLiesOnNoScreenIsBroughtBack()
+{
+    QFETCH(QPoint, stored);
+
+    store("windowPosition", stored);
+    openWindow();
+    QVERIFY(m_window->screen()->availableGeometry().intersects(m_window->geometry()));
+}
+
+int main(int argc, char **argv)
+{
+    return runTestMain<KelApplication, MainWindowGeometryTest>(argc, argv, true);
+}
+
+#include "tst_mainwindowgeometry.moc"

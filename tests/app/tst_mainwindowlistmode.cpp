@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <algorithm>
+
 class MainWindowListModeTest : public MainWindowCase
 {
     Q_OBJECT
@@ -18,10 +20,41 @@ private Q_SLOTS:
     void theModeButtonExpandsAndCompactsTheList();
     void theStoredModeIsAppliedWithoutAnimation_data();
     void theStoredModeIsAppliedWithoutAnimation();
-    void modeAnimationsTakeTwoHundredMilliseconds();
-    void theModeButtonSaysWhatItDoes();
+    void aModeChangeAnimatesThreeProperties_data();
+    void aModeChangeAnimatesThreeProperties();
+    void aChangeInMidFlightTurnsAroundWhereItIs();
+    void theModeButtonShowsWhatItDoes_data();
+    void theModeButtonShowsWhatItDoes();
+    void theModeButtonCompactsFromAnyExpandedMode();
     void compactListShowsNoTexts();
+
+private:
+    QList<QPropertyAnimation *> running() const;
+    /// Each as "object.property from to".
+    static QStringList inWords(const QList<QPropertyAnimation *> &animations);
 };
+
+QList<QPropertyAnimation *> MainWindowListModeTest::running() const
+{
+    QList<QPropertyAnimation *> animations = m_window->findChildren<QPropertyAnimation *>();
+    animations.erase(std::remove_if(animations.begin(), animations.end(),
+                                    [](const QPropertyAnimation *animation) {
+                                        return animation->state() != QAbstractAnimation::Running;
+                                    }),
+                     animations.end());
+    return animations;
+}
+
+QStringList MainWindowListModeTest::inWords(const QList<QPropertyAnimation *> &animations)
+{
+    QStringList words;
+    for (const QPropertyAnimation *animation : animations)
+        words += QStringLiteral("%1.%2 %3 %4")
+                     .arg(animation->targetObject()->objectName(),
+                          QString::fromLatin1(animation->propertyName()),
+                          animation->startValue().toString(), animation->endValue().toString());
+    return words;
+}
 
 void MainWindowListModeTest::theModeButtonExpandsAndCompactsTheList()
 {
@@ -66,28 +99,111 @@ void MainWindowListModeTest::theStoredModeIsAppliedWithoutAnimation()
     QVERIFY(m_window->findChildren<QPropertyAnimation *>().isEmpty());
 }
 
-void MainWindowListModeTest::modeAnimationsTakeTwoHundredMilliseconds()
+void MainWindowListModeTest::aModeChangeAnimatesThreeProperties_data()
 {
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<QStringList>("animations");
+
+    QTest::newRow("compact to expanded")
+        << 0 << 1
+        << QStringList{QStringLiteral("menuWidget.minimumWidth 40 160"),
+                       QStringLiteral("headerWidget.maximumHeight 22 0"),
+                       QStringLiteral("menuPlaceholder.maximumHeight 0 22")};
+    QTest::newRow("expanded to compact")
+        << 1 << 0
+        << QStringList{QStringLiteral("menuWidget.minimumWidth 160 40"),
+                       QStringLiteral("headerWidget.maximumHeight 0 22"),
+                       QStringLiteral("menuPlaceholder.maximumHeight 22 0")};
+    QTest::newRow("compact to a negative mode: the placeholder stays")
+        << 0 << -1
+        << QStringList{QStringLiteral("menuWidget.minimumWidth 40 160"),
+                       QStringLiteral("headerWidget.maximumHeight 22 0"),
+                       QStringLiteral("menuPlaceholder.maximumHeight 0 0")};
+}
+
+void MainWindowListModeTest::aModeChangeAnimatesThreeProperties()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(QStringList, animations);
+
+    store("windowMode", from);
     openWindow();
-    QTest::mouseClick(child("changeWindowModeButton"), Qt::LeftButton);
-    const QList<QPropertyAnimation *> animations = m_window->findChildren<QPropertyAnimation *>();
-    QCOMPARE(animations.size(), 3);
-    for (const QPropertyAnimation *animation : animations)
+    m_profile.setWindowMode(to);
+    for (const QPropertyAnimation *animation : running())
         QCOMPARE(animation->duration(), 200);
+    QStringList found = inWords(running());
+    found.sort();
+    animations.sort();
+    QCOMPARE(found, animations);
     QTRY_VERIFY(m_window->findChildren<QPropertyAnimation *>().isEmpty());
 }
 
-void MainWindowListModeTest::theModeButtonSaysWhatItDoes()
+void MainWindowListModeTest::aChangeInMidFlightTurnsAroundWhereItIs()
 {
     openWindow();
-    auto *button = child<QToolButton>("changeWindowModeButton");
-    const QImage add = button->icon().pixmap(16, 16).toImage();
-    QCOMPARE(button->accessibleName(), QStringLiteral("Show module names"));
     m_profile.setWindowMode(1);
-    QCOMPARE(button->accessibleName(), QStringLiteral("Hide module names"));
-    QVERIFY(button->icon().pixmap(16, 16).toImage() != add);
+    for (QPropertyAnimation *animation : running())
+        animation->setCurrentTime(100);
     m_profile.setWindowMode(0);
-    QCOMPARE(button->icon().pixmap(16, 16).toImage(), add);
+
+    // Half of the ways are done: 40 + 120 / 2, 22 - 22 / 2, 0 + 22 / 2. The three that were on
+    // those ways have stopped.
+    QStringList found = inWords(running());
+    found.sort();
+    QCOMPARE(found, QStringList({QStringLiteral("headerWidget.maximumHeight 11 22"),
+                                 QStringLiteral("menuPlaceholder.maximumHeight 11 0"),
+                                 QStringLiteral("menuWidget.minimumWidth 100 40")}));
+    QTRY_VERIFY(m_window->findChildren<QPropertyAnimation *>().isEmpty());
+    QCOMPARE(child("menuWidget")->minimumWidth(), 40);
+    QCOMPARE(child("headerWidget")->maximumHeight(), 22);
+    QCOMPARE(child("menuPlaceholder")->maximumHeight(), 0);
+}
+
+void MainWindowListModeTest::theModeButtonShowsWhatItDoes_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QString>("purpose");
+
+    QTest::newRow("0: add the names") << 0 << "Icon_Add_16_bright.svg"
+                                      << "Show module names";
+    QTest::newRow("1: remove the names") << 1 << "Icon_Minus_16_bright.svg"
+                                         << "Hide module names";
+    QTest::newRow("-1: remove the names") << -1 << "Icon_Minus_16_bright.svg"
+                                          << "Hide module names";
+}
+
+void MainWindowListModeTest::theModeButtonShowsWhatItDoes()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, icon);
+    QFETCH(QString, purpose);
+
+    const QIcon expected(QStringLiteral(":/Global/Icons_SVG/bright/") + icon);
+    const auto check = [&] {
+        const auto *button = child<QToolButton>("changeWindowModeButton");
+        QCOMPARE(button->icon().pixmap(16, 16).toImage(), expected.pixmap(16, 16).toImage());
+        QCOMPARE(button->accessibleName(), purpose);
+        QCOMPARE(button->toolTip(), purpose);
+    };
+    openWindow();
+    m_profile.setWindowMode(99);
+    m_profile.setWindowMode(mode);
+    check();
+
+    m_window.reset();
+    openWindow(); // now with the stored mode
+    check();
+}
+
+void MainWindowListModeTest::theModeButtonCompactsFromAnyExpandedMode()
+{
+    store("windowMode", 7);
+    openWindow();
+    QTest::mouseClick(child("changeWindowModeButton"), Qt::LeftButton);
+    QCOMPARE(m_profile.windowMode(), 0);
 }
 
 void MainWindowListModeTest::compactListShowsNoTexts()

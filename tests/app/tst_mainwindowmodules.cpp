@@ -5,8 +5,10 @@
 #include "mainwindowcase.h"
 #include "testmain.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -23,6 +25,8 @@ private Q_SLOTS:
     void theProfileChoosesTheModule();
     void aStoredModuleOutsideTheListShowsThePlainTitle_data();
     void aStoredModuleOutsideTheListShowsThePlainTitle();
+    void aStoredModuleOutsideTheListIsKept_data();
+    void aStoredModuleOutsideTheListIsKept();
     void aClickOnTheListLeavesTheKeyboardToThePage();
     void theArrowKeysWalkThroughTheModules();
 };
@@ -139,6 +143,25 @@ void MainWindowModulesTest::theArrowKeysWalkThroughTheModules()
         QCOMPARE(child<QStackedWidget>("stackedWidget")->currentIndex(), row);
         QVERIFY(list->hasFocus());
     }
+}
+
+void MainWindowModulesTest::aStoredModuleOutsideTheListIsKept_data()
+{
+    aStoredModuleOutsideTheListShowsThePlainTitle_data();
+}
+
+/// A list that gets the keyboard selects a row by itself, so the page has to have it.
+void MainWindowModulesTest::aStoredModuleOutsideTheListIsKept()
+{
+    QFETCH(int, module);
+
+    store("currentModule", module);
+    openWindow();
+    QVERIFY(child<QStackedWidget>("stackedWidget")->isAncestorOf(QApplication::focusWidget()));
+    QCOMPARE(m_profile.currentModule(), module);
+    m_window->close();
+    m_window.reset();
+    QCOMPARE(QSettings().value(QStringLiteral("MainProfile/currentModule")).toInt(), module);
 }
 
 int main(int argc, char **argv)

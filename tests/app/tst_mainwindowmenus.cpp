@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void actionsHaveTheirShortcuts();
     void quitClosesTheWindow();
     void decimalPlacesMenuChecksThePresentNumber();
+    void eachDecimalPlaceIsCheckableWithoutAShortcut();
+    void changedDecimalPlacesApplyFromTheNextCalculation();
     void choosingADecimalPlaceSetsIt();
     void choosingTheCheckedDecimalPlaceEmitsNothing();
     void aboutOpensANewWindowEachTime();
@@ -142,6 +145,40 @@ void MainWindowMenusTest::aboutOpensANewWindowEachTime()
         about->close();
     }
     QTRY_VERIFY(m_window->findChildren<KelAboutWindow *>().isEmpty());
+}
+
+void MainWindowMenusTest::eachDecimalPlaceIsCheckableWithoutAShortcut()
+{
+    openWindow();
+    decimalPlacesEntries();
+    decimalPlacesEntries();
+    const QList<QAction *> actions = child<QMenu>("menuDecimal_Places")->actions();
+    QCOMPARE(actions.size(), 11);
+    for (const QAction *action : actions) {
+        QVERIFY(action->isCheckable());
+        QCOMPARE(action->shortcut(), QKeySequence());
+    }
+}
+
+void MainWindowMenusTest::changedDecimalPlacesApplyFromTheNextCalculation()
+{
+    store("currentModule", 3);
+    openWindow();
+    auto *p1 = child<QLineEdit>("p1LineEdit");
+    auto *p2 = child<QLineEdit>("p2LineEdit");
+    auto *ratio = child<QLineEdit>("pRatioLineEdit");
+    p1->setFocus();
+    QTest::keyClicks(p1, QStringLiteral("1W"));
+    p2->setFocus();
+    QTest::keyClicks(p2, QStringLiteral("3W"));
+    QTest::keyClick(p2, Qt::Key_Return);
+    QCOMPARE(ratio->text(), QStringLiteral("0.333")); // 1/3 with 3 digits
+
+    decimalPlacesEntries();
+    child<QMenu>("menuDecimal_Places")->actions().at(6)->trigger();
+    QCOMPARE(ratio->text(), QStringLiteral("0.333"));
+    QTest::keyClick(p2, Qt::Key_Return);
+    QCOMPARE(ratio->text(), QStringLiteral("0.333333"));
 }
 
 int main(int argc, char **argv)

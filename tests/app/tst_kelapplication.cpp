@@ -5,6 +5,7 @@
 #include "stylesheets.h"
 #include "testmain.h"
 
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QLocale>
 #include <QTest>
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void writesNumbersInEnglish();
     void bringsBothFontFamilies_data();
     void bringsBothFontFamilies();
+    void theFontsAreSmall();
     void installsTheBrightStyleSheets();
     void installsAnotherThemeOnRequest();
     void hasEveryStyleSheet_data();
@@ -124,6 +126,19 @@ void KelApplicationTest::hasEveryStyleSheet()
 void KelApplicationTest::thePanelHasNoDarkSheet()
 {
     QVERIFY(!StyleSheets::read(QStringLiteral(":/Global/Style/kelpanelwidget_dark.qss")));
+}
+
+void KelApplicationTest::theFontsAreSmall()
+{
+    qint64 bytes = 0;
+    for (const char *name : {"Tessan_v3_Bold_02", "Tessan_v3_Italic_02", "Tessan_v3_Light_02",
+                             "Tessan_v3_Regular_02", "TessanCd_v3_Bold_02", "TessanCd_v3_Italic_02",
+                             "TessanCd_v3_Light_02", "TessanCd_v3_Regular_02"}) {
+        const QFileInfo font(QStringLiteral(":/Global/Fonts/%1.ttf").arg(QLatin1String(name)));
+        QVERIFY2(font.size() > 0, name);
+        bytes += font.size();
+    }
+    QVERIFY2(bytes < 600000, QByteArray::number(bytes).constData());
 }
 
 int main(int argc, char **argv)

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "calculationfiles.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
+#include "propertyvalues.h"
 #include "testmain.h"
+#include "words.h"
 
 #include <QAction>
 #include <QDate>
@@ -26,6 +29,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void openStartsInTheCurrentFolder();
     void saveAsksWithTodaysDate();
     void saveWritesAllGroups();
     void saveAddsTheExtension();
@@ -35,6 +39,10 @@ private Q_SLOTS:
     void aCancelledDialogDoesNothing();
     void aFileThatHoldsNothingGivesTheDefaults_data();
     void aFileThatHoldsNothingGivesTheDefaults();
+    void aPathThatIsNoFileGivesTheDefaults_data();
+    void aPathThatIsNoFileGivesTheDefaults();
+    void aFileThatCannotBeWrittenIsNotReported();
+    void loadDefaultsAnnouncesWhatChanges();
     void aMalformedKeyLeavesItsNeighbors();
     void loadDefaultsKeepsTheWindow();
 
@@ -76,6 +84,8 @@ void CalculationFilesTest::trigger(const char *action, const DialogAction &answe
             return;
         answered = true;
         answer(*dialog);
+        if (dialog->isVisible()) // a comparison failed before the answer was complete
+            dialog->reject();
     });
     m_window->findChild<QAction *>(QLatin1String(action))->trigger();
     QVERIFY(answered);
@@ -100,6 +110,18 @@ void CalculationFilesTest::typeExample()
     model.setP2(QStringLiteral("0dBm"));
     model.calculateFromP1();
     model.setCurrentMode(1);
+}
+
+/// The first dialog of a run does; later ones start where the last file was. So this comes first.
+void CalculationFilesTest::openStartsInTheCurrentFolder()
+{
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder->path()));
+    trigger("actionOpen", [](QFileDialog &dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), QDir::currentPath());
+        dialog.reject();
+    });
+    QVERIFY(QDir::setCurrent(before));
 }
 
 void CalculationFilesTest::saveAsksWithTodaysDate()
@@ -260,6 +282,56 @@ void CalculationFilesTest::loadDefaultsKeepsTheWindow()
     QCOMPARE(profile.decimalPlaces(), 8);
     QCOMPARE(profile.currentModule(), 3);
     QCOMPARE(profile.windowMode(), 1);
+}
+
+void CalculationFilesTest::aPathThatIsNoFileGivesTheDefaults_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("a file that does not exist") << "missing.dezimo";
+    QTest::newRow("a file in a folder that does not exist") << "missing/a.dezimo";
+    QTest::newRow("a folder") << ".";
+}
+
+void CalculationFilesTest::aPathThatIsNoFileGivesTheDefaults()
+{
+    QFETCH(QString, name);
+
+    typeExample();
+    CalculationFiles::open(MainProfile::instance(), m_folder->filePath(name));
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("pDbLineEdit"), QString());
+    QCOMPARE(MainProfile::instance().dbConverter().currentMode(), 0);
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void CalculationFilesTest::aFileThatCannotBeWrittenIsNotReported()
+{
+    QFile file(path("regular"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("as it was");
+    file.close();
+
+    typeExample();
+    CalculationFiles::save(MainProfile::instance(), path("regular/a.dezimo"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList(QStringLiteral("regular")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("as it was"));
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("10dBm"));
+}
+
+void CalculationFilesTest::loadDefaultsAnnouncesWhatChanges()
+{
+    typeExample();
+    DbConverterProfile &model = MainProfile::instance().dbConverter();
+    ChangeLog modelLog(model);
+    ChangeLog windowLog(MainProfile::instance());
+    m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
+    // Each value of the example is another one than the default; the voltages were empty before.
+    QCOMPARE(modelLog.take(), words("p1 p2 pRatio pDb pLatestRun currentMode"));
+    QCOMPARE(windowLog.take(), QStringList());
+    m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
+    QCOMPARE(modelLog.take(), QStringList());
 }
 
 int main(int argc, char **argv)

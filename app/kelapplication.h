@@ -25,8 +25,7 @@ public:
     void installStyleSheet(ApplicationTheme theme);
 
 private:
-    /// Two members that the maker's applications have in common; nothing in this one depends on
-    /// them.
+    /// Kept as given; nothing depends on them.
     [[maybe_unused]] const bool m_flag;
     [[maybe_unused]] void *const m_reserved = nullptr;
 };

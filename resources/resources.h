@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#ifndef DEZIMO_RESOURCES_RESOURCES_H
-#define DEZIMO_RESOURCES_RESOURCES_H
+#ifndef RESOURCES_RESOURCES_H
+#define RESOURCES_RESOURCES_H
 
-// Makes fonts, icons, style sheets and the legal page reachable under ":/".
-//
-// The linker drops the resources of a static library unless something names them, so every
-// executable calls this once before it opens one. Calling it again changes nothing.
+/// Makes fonts, icons, style sheets and the legal page reachable under ":/".
+///
+/// The linker drops the resources of a static library unless something names them, so every
+/// executable calls this once before it opens one. Calling it again changes nothing.
 void initDezimoResources();
 
-#endif // DEZIMO_RESOURCES_RESOURCES_H
+#endif

@@ -5,6 +5,7 @@
 
 #include "mainprofile.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QFileDialog>
 #include <QSettings>
@@ -19,7 +20,7 @@ QString extension()
 // "Calulation" is how the dialogs of the program have always spelled it.
 QString fileFilter()
 {
-    return QStringLiteral("dB Calulation (*.%1)").arg(extension());
+    return QCoreApplication::translate("CalculationFiles", "dB Calulation (*.%1)").arg(extension());
 }
 
 QString chosenFile(QFileDialog &dialog)
@@ -33,7 +34,9 @@ QString chosenFile(QFileDialog &dialog)
 
 QString CalculationFiles::askForFileToOpen(QWidget *parent)
 {
-    QFileDialog dialog(parent, QStringLiteral("Open dB Calulation ..."), QString(), fileFilter());
+    QFileDialog dialog(parent,
+                       QCoreApplication::translate("CalculationFiles", "Open dB Calulation ..."),
+                       QString(), fileFilter());
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosenFile(dialog);
 }
@@ -41,7 +44,9 @@ QString CalculationFiles::askForFileToOpen(QWidget *parent)
 QString CalculationFiles::askForFileToSave(QWidget *parent)
 {
     const QString today = QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"));
-    QFileDialog dialog(parent, QStringLiteral("Save dB Calulation ..."), QString(), fileFilter());
+    QFileDialog dialog(parent,
+                       QCoreApplication::translate("CalculationFiles", "Save dB Calulation ..."),
+                       QString(), fileFilter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.selectNameFilter(fileFilter());

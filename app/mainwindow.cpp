@@ -179,8 +179,7 @@ void MainWindow::on_actionAbout_triggered()
 {
     auto *about = new KelAboutWindow(
         Identity::productName(),
-        QStringLiteral("application for calculating with logarithmic and linear power and voltage "
-                       "values"),
+        tr("application for calculating with logarithmic and linear power and voltage values"),
         Identity::version(), QStringLiteral("2022"), QStringLiteral("7TK31"), this);
     about->show();
 }

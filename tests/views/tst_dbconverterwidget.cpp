@@ -31,6 +31,9 @@ private Q_SLOTS:
     void returnCalculates();
     void leavingAFieldAgainCalculatesOnceOnly();
     void leavingTheSecondOperandAgainCalculatesAgain();
+    void tabbingOutAndBackTwiceCalculatesNothing();
+    void finishingAMismatchTwiceFindsTheErrorTextInvalid();
+    void tabbingThroughTheRatioRoundsTheDecibels();
     void showsWhatTheModelHolds_data();
     void showsWhatTheModelHolds();
     void aNewPageShowsTheModelAtOnce();
@@ -57,7 +60,7 @@ private:
 void DbConverterWidgetTest::init()
 {
     QSettings none(QStringLiteral("none"), QString());
-    MainProfile::instance().loadModuleSettings(none);
+    MainProfile::instance().loadSettings(none);
     m_page = std::make_unique<DbConverterWidget>();
     show(0);
 }
@@ -211,6 +214,51 @@ void DbConverterWidgetTest::leavingTheSecondOperandAgainCalculatesAgain()
     m_model.setPRatio(QStringLiteral("changed"));
     QTest::keyClick(edit("p2LineEdit"), Qt::Key_Return);
     QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
+}
+
+void DbConverterWidgetTest::tabbingOutAndBackTwiceCalculatesNothing()
+{
+    edit("p1LineEdit")->setFocus();
+    QTest::keyClicks(edit("p1LineEdit"), QStringLiteral("4W"));
+    QTest::keyClick(edit("p1LineEdit"), Qt::Key_Tab);
+    QCOMPARE(m_model.pLatestRun(), 1);
+    // P2 is empty, and leaving it only writes the code of P1 again, as the latest run reads
+    // already. A P1 calculation would now replace the text by an error.
+    m_model.setP1(QStringLiteral("changed"));
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(edit("p1LineEdit")->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(edit("p2LineEdit")->hasFocus());
+    }
+    QCOMPARE(edit("p1LineEdit")->text(), QStringLiteral("changed"));
+    QCOMPARE(edit("pRatioLineEdit")->text(), QString());
+}
+
+/// Leaving the second operand always calculates, and the message that stands in it is then read as
+/// an operand. This is meant.
+void DbConverterWidgetTest::finishingAMismatchTwiceFindsTheErrorTextInvalid()
+{
+    m_model.setP1(QStringLiteral("1W"));
+    QTest::keyClicks(edit("p2LineEdit"), QStringLiteral("2"));
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("p2LineEdit")->text(), QStringLiteral("unit mismatch"));
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Return);
+    QCOMPARE(edit("p2LineEdit")->text(), QStringLiteral("invalid input"));
+}
+
+/// Leaving the ratio calculates from the text that it shows, rounded as it is. This is meant.
+void DbConverterWidgetTest::tabbingThroughTheRatioRoundsTheDecibels()
+{
+    MainProfile::instance().setDecimalPlaces(1);
+    m_model.setP1(QStringLiteral("3W"));
+    edit("p2LineEdit")->setFocus();
+    QTest::keyClicks(edit("p2LineEdit"), QStringLiteral("2W"));
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Tab);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("2")); // 1.5 with one digit
+    QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("1.76")); // 10 lg 1.5
+    QTest::keyClick(edit("pRatioLineEdit"), Qt::Key_Tab);
+    QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("3.01")); // 10 lg 2
 }
 
 void DbConverterWidgetTest::showsWhatTheModelHolds_data()

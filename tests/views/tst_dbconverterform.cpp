@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "converterpage.h"
+#include "dbconverterwidget.h"
+#include "kellineedit.h"
+#include "testmain.h"
+#include "words.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTest>
+
+/// What the form of the dB converter's page is made of, and where it puts it.
+class DbConverterFormTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void declaresItsSlotsInOrder();
+    void hasAPlainTitle();
+    void eachTabHasAScrollArea_data();
+    void eachTabHasAScrollArea();
+    void eachDbFieldShowsItsUnit_data();
+    void eachDbFieldShowsItsUnit();
+    void readsFromFractionToDecibels_data();
+    void readsFromFractionToDecibels();
+};
+
+void DbConverterFormTest::declaresItsSlotsInOrder()
+{
+    QStringList slotNames;
+    const QMetaObject &type = DbConverterWidget::staticMetaObject;
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i)
+        slotNames += QString::fromLatin1(type.method(i).methodSignature());
+    QCOMPARE(slotNames, words("on_mainTab_currentChanged(int)"
+                              " on_p1LineEdit_editingFinished()"
+                              " on_p2LineEdit_editingFinished()"
+                              " on_pRatioLineEdit_editingFinished()"
+                              " on_pDbLineEdit_editingFinished()"
+                              " on_p1LineEdit_textEdited(QString)"
+                              " on_p2LineEdit_textEdited(QString)"
+                              " on_pRatioLineEdit_textEdited(QString)"
+                              " on_pDbLineEdit_textEdited(QString)"
+                              " on_v1LineEdit_editingFinished()"
+                              " on_v2LineEdit_editingFinished()"
+                              " on_vRatioLineEdit_editingFinished()"
+                              " on_vDbLineEdit_editingFinished()"
+                              " on_v1LineEdit_textEdited(QString)"
+                              " on_v2LineEdit_textEdited(QString)"
+                              " on_vRatioLineEdit_textEdited(QString)"
+                              " on_vDbLineEdit_textEdited(QString)"
+                              " onCurrentModeChanged() onP1Changed() onP2Changed()"
+                              " onPRatioChanged() onPDbChanged() onV1Changed() onV2Changed()"
+                              " onVRatioChanged() onVDbChanged()"));
+}
+
+void DbConverterFormTest::hasAPlainTitle()
+{
+    const DbConverterWidget widget;
+    QCOMPARE(widget.windowTitle(), QStringLiteral("Form"));
+}
+
+void DbConverterFormTest::eachTabHasAScrollArea_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("powers") << 0 << "tab_3";
+    QTest::newRow("voltages") << 1 << "tab_4";
+}
+
+void DbConverterFormTest::eachTabHasAScrollArea()
+{
+    QFETCH(int, index);
+    QFETCH(QString, name);
+
+    const DbConverterWidget widget;
+    const QWidget *tab = widget.findChild<QTabWidget *>(QStringLiteral("mainTab"))->widget(index);
+    QCOMPARE(tab->objectName(), name);
+    QCOMPARE(tab->findChildren<QScrollArea *>().size(), 1);
+}
+
+void DbConverterFormTest::eachDbFieldShowsItsUnit_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("field");
+
+    QTest::newRow("power ratio") << 0 << "pDbLineEdit";
+    QTest::newRow("voltage ratio") << 1 << "vDbLineEdit";
+}
+
+void DbConverterFormTest::eachDbFieldShowsItsUnit()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, field);
+
+    DbConverterWidget widget;
+    const ConverterPage page(widget);
+    page.child<QTabWidget>(QStringLiteral("mainTab")).setCurrentIndex(tab);
+    QStringList shown;
+    const QList<QLabel *> labels = page.field(field).findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->isVisible() && !label->text().isEmpty())
+            shown += label->text();
+    }
+    QCOMPARE(shown, QStringList(QStringLiteral("dB")));
+}
+
+void DbConverterFormTest::readsFromFractionToDecibels_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("half");
+    QTest::addColumn<QString>("labelBar");
+    QTest::addColumn<QString>("fieldBar");
+
+    QTest::newRow("powers") << 0 << "p"
+                            << "line"
+                            << "line_2";
+    QTest::newRow("voltages") << 1 << "v"
+                              << "line_3"
+                              << "line_4";
+}
+
+void DbConverterFormTest::readsFromFractionToDecibels()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, half);
+    QFETCH(QString, labelBar);
+    QFETCH(QString, fieldBar);
+
+    DbConverterWidget widget;
+    const ConverterPage page(widget);
+    page.child<QTabWidget>(QStringLiteral("mainTab")).setCurrentIndex(tab);
+    const auto place = [&page, &widget](const QString &name) {
+        const auto &child = page.child<QWidget>(name);
+        return QRect(child.mapTo(&widget, QPoint()), child.size());
+    };
+    const QRect first = place(half + QStringLiteral("1LineEdit"));
+    const QRect second = place(half + QStringLiteral("2LineEdit"));
+    const QRect ratio = place(half + QStringLiteral("RatioLineEdit"));
+    const QRect decibels = place(half + QStringLiteral("DbLineEdit"));
+
+    QVERIFY(first.bottom() < place(fieldBar).top());
+    QVERIFY(place(fieldBar).bottom() < second.top());
+    QVERIFY(place(half + QStringLiteral("1Label")).bottom() < place(labelBar).top());
+    QVERIFY(place(labelBar).bottom() < place(half + QStringLiteral("2Label")).top());
+    QVERIFY(place(labelBar).right() < place(fieldBar).left());
+    QCOMPARE(page.child<QFrame>(labelBar).frameShape(), QFrame::HLine);
+    QCOMPARE(page.child<QFrame>(fieldBar).frameShape(), QFrame::HLine);
+    QVERIFY(qMax(first.right(), second.right()) < ratio.left());
+    QVERIFY(ratio.right() < decibels.left());
+}
+
+DEZIMO_TEST_MAIN(QApplication, DbConverterFormTest)
+
+#include "tst_dbconverterform.moc"

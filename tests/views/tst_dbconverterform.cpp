@@ -25,6 +25,8 @@ private Q_SLOTS:
     void hasAPlainTitle();
     void eachTabHasAScrollArea_data();
     void eachTabHasAScrollArea();
+    void readsAsAFraction_data();
+    void readsAsAFraction();
     void eachDbFieldShowsItsUnit_data();
     void eachDbFieldShowsItsUnit();
     void readsFromFractionToDecibels_data();
@@ -83,6 +85,42 @@ void DbConverterFormTest::eachTabHasAScrollArea()
     const QWidget *tab = widget.findChild<QTabWidget *>(QStringLiteral("mainTab"))->widget(index);
     QCOMPARE(tab->objectName(), name);
     QCOMPARE(tab->findChildren<QScrollArea *>().size(), 1);
+}
+
+void DbConverterFormTest::readsAsAFraction_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("labels");
+
+    QTest::newRow("powers") << 0 << "Powers"
+                            << QStringList{QStringLiteral("P1"), QStringLiteral(" ="),
+                                           QStringLiteral("="), QStringLiteral("≙"),
+                                           QStringLiteral("P2")};
+    QTest::newRow("voltages") << 1 << "Voltages"
+                              << QStringList{QStringLiteral("V1"), QStringLiteral(" ="),
+                                             QStringLiteral("="), QStringLiteral("≙"),
+                                             QStringLiteral("V2")};
+}
+
+void DbConverterFormTest::readsAsAFraction()
+{
+    QFETCH(int, tab);
+    QFETCH(QString, title);
+    QFETCH(QStringList, labels);
+
+    const DbConverterWidget widget;
+    auto *tabs = widget.findChild<QTabWidget *>(QStringLiteral("mainTab"));
+    QCOMPARE(tabs->tabText(tab), title);
+    QStringList shown;
+    const QList<QLabel *> all = tabs->widget(tab)->findChildren<QLabel *>();
+    for (const QLabel *label : all) {
+        if (qobject_cast<QLineEdit *>(label->parentWidget()) == nullptr)
+            shown += label->text();
+    }
+    shown.sort();
+    labels.sort();
+    QCOMPARE(shown, labels);
 }
 
 void DbConverterFormTest::eachDbFieldShowsItsUnit_data()

@@ -7,7 +7,6 @@
 #include "testmain.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
@@ -22,8 +21,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void readsAsAFraction_data();
-    void readsAsAFraction();
     void typingStoresTheTextAndForgetsTheLatestRun_data();
     void typingStoresTheTextAndForgetsTheLatestRun();
     void leavingAFieldCalculates_data();
@@ -75,41 +72,6 @@ void DbConverterWidgetTest::show(int tab)
     m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->setCurrentIndex(tab);
     m_page->show();
     QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-}
-
-void DbConverterWidgetTest::readsAsAFraction_data()
-{
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QStringList>("labels");
-
-    QTest::newRow("powers") << 0 << "Powers"
-                            << QStringList{QStringLiteral("P1"), QStringLiteral(" ="),
-                                           QStringLiteral("="), QStringLiteral("≙"),
-                                           QStringLiteral("P2")};
-    QTest::newRow("voltages") << 1 << "Voltages"
-                              << QStringList{QStringLiteral("V1"), QStringLiteral(" ="),
-                                             QStringLiteral("="), QStringLiteral("≙"),
-                                             QStringLiteral("V2")};
-}
-
-void DbConverterWidgetTest::readsAsAFraction()
-{
-    QFETCH(int, tab);
-    QFETCH(QString, title);
-    QFETCH(QStringList, labels);
-
-    auto *tabs = m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"));
-    QCOMPARE(tabs->tabText(tab), title);
-    QStringList shown;
-    const QList<QLabel *> all = tabs->widget(tab)->findChildren<QLabel *>();
-    for (const QLabel *label : all) {
-        if (qobject_cast<QLineEdit *>(label->parentWidget()) == nullptr)
-            shown += label->text();
-    }
-    shown.sort();
-    labels.sort();
-    QCOMPARE(shown, labels);
 }
 
 void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun_data()

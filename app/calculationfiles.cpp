@@ -69,9 +69,10 @@ void CalculationFiles::save(MainProfile &profile, const QString &fileName)
 
 void CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringList &arguments)
 {
-    const bool namesOneFile = arguments.size() == 2 && !arguments.at(1).isEmpty();
-    if (namesOneFile)
-        open(profile, arguments.at(1));
+    const QString name = arguments.value(1);
+    const bool looksLikeAnOption = name.startsWith(QLatin1Char('-'));
+    if (arguments.size() == 2 && !name.isEmpty() && !looksLikeAnOption)
+        open(profile, name);
 }
 
 void CalculationFiles::loadDefaults(MainProfile &profile)

@@ -78,7 +78,9 @@ void CalculationFilesTest::cleanup()
 void CalculationFilesTest::trigger(const char *action, const DialogAction &answer)
 {
     bool answered = false;
-    QTimer::singleShot(0, m_window.get(), [&answer, &answered] {
+    QTimer soon;
+    soon.setSingleShot(true);
+    connect(&soon, &QTimer::timeout, m_window.get(), [&answer, &answered] {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         if (dialog == nullptr)
             return;
@@ -87,6 +89,7 @@ void CalculationFilesTest::trigger(const char *action, const DialogAction &answe
         if (dialog->isVisible()) // a comparison failed before the answer was complete
             dialog->reject();
     });
+    soon.start(0);
     m_window->findChild<QAction *>(QLatin1String(action))->trigger();
     QVERIFY(answered);
 }

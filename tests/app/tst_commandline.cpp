@@ -96,7 +96,7 @@ void CommandLineTest::opensOneFile_data()
     QTest::newRow("a name with spaces") << QStringLiteral("two  antennas .dezimo") << true;
     QTest::newRow("a name beyond ASCII")
         << QString::fromUtf8("Dämpfung 10 µW – 测量.dezimo") << true;
-    QTest::newRow("a name that begins with a hyphen") << QStringLiteral("--help") << false;
+    QTest::newRow("a name with a hyphen in it") << QStringLiteral("a-b.dezimo") << false;
     QTest::newRow("a name with another extension") << QStringLiteral("a.ini") << false;
     QTest::newRow("a name with a percent sign") << QStringLiteral("100%20.dezimo") << true;
 }
@@ -131,6 +131,7 @@ void CommandLineTest::ignoresAllElse_data()
     const QString name = QStringLiteral("a.dezimo");
     QTest::newRow("no argument") << QStringList();
     QTest::newRow("an empty argument") << QStringList(QString());
+    QTest::newRow("an option") << QStringList(QStringLiteral("--help"));
     QTest::newRow("two names") << QStringList({name, name});
     QTest::newRow("a name after an option") << QStringList({QStringLiteral("--open"), name});
     QTest::newRow("a name and an empty argument") << QStringList({name, QString()});

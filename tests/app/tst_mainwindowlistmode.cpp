@@ -131,9 +131,10 @@ void MainWindowListModeTest::aModeChangeAnimatesThreeProperties()
     store("windowMode", from);
     openWindow();
     m_profile.setWindowMode(to);
-    for (const QPropertyAnimation *animation : running())
+    const QList<QPropertyAnimation *> started = running();
+    for (const QPropertyAnimation *animation : started)
         QCOMPARE(animation->duration(), 200);
-    QStringList found = inWords(running());
+    QStringList found = inWords(started);
     found.sort();
     animations.sort();
     QCOMPARE(found, animations);
@@ -144,7 +145,8 @@ void MainWindowListModeTest::aChangeInMidFlightTurnsAroundWhereItIs()
 {
     openWindow();
     m_profile.setWindowMode(1);
-    for (QPropertyAnimation *animation : running())
+    const QList<QPropertyAnimation *> expanding = running();
+    for (QPropertyAnimation *animation : expanding)
         animation->setCurrentTime(100);
     m_profile.setWindowMode(0);
 

@@ -19,12 +19,12 @@ void AboutWindowCase::init()
 {
     m_product = {QStringLiteral("Dezimo"), QStringLiteral("calculates levels"),
                  QStringLiteral("3.2.1.0"), QStringLiteral("2022"), QStringLiteral("7TK31")};
-    m_host.system = {
+    m_facts.system = {
         {QStringLiteral("Operating System"),
          {{QStringLiteral("Product name"), QStringLiteral("Debian GNU/Linux 12")},
           {QStringLiteral("Admin rights"), QStringLiteral("No")}}},
         {QStringLiteral("VISA"), {{QStringLiteral("Version"), QStringLiteral("---")}}}};
-    m_host.drivers = {
+    m_facts.drivers = {
         {QStringLiteral("VXI drivers"),
          {{QString(), QStringLiteral("kela.dll (Version 1.0)")},
           {QString(), QStringLiteral("kelb.dll (Version 2.0)")}}},
@@ -40,7 +40,7 @@ void AboutWindowCase::cleanup()
 
 void AboutWindowCase::open()
 {
-    m_window = new KelAboutWindow(m_product, std::make_unique<FakeOsInfo>(m_host));
+    m_window = new KelAboutWindow(m_product, std::make_unique<FakeOsInfo>(m_facts));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
 }

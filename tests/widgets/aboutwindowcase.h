@@ -33,7 +33,7 @@ protected:
     QStringList pressCopy() const;
 
     KelAboutWindow::Product m_product;
-    FakeHost m_host;
+    FakeFacts m_facts;
     QPointer<KelAboutWindow> m_window;
 
 private Q_SLOTS:

@@ -7,30 +7,30 @@
 #include "osinfo.h"
 
 /// What a host is made to say. It outlives the provider that says it.
-struct FakeHost
+struct FakeFacts
 {
     QVector<OSInfo::Section> system;
     QVector<OSInfo::Section> drivers;
     int providers = 0;
 };
 
-/// Says what a FakeHost holds at the moment of the question.
+/// Says what a FakeFacts holds at the moment of the question.
 class FakeOsInfo final : public OSInfo
 {
 public:
-    explicit FakeOsInfo(FakeHost &host) : m_host(host) { ++m_host.providers; }
-    ~FakeOsInfo() override { --m_host.providers; }
+    explicit FakeOsInfo(FakeFacts &facts) : m_facts(facts) { ++m_facts.providers; }
+    ~FakeOsInfo() override { --m_facts.providers; }
 
     QString productName() const override { return QStringLiteral("---"); }
     QString country() const override { return QStringLiteral("---"); }
     QString language() const override { return QStringLiteral("---"); }
     QString localeId() const override { return QStringLiteral("---"); }
     QString sensorControlVersion() const override { return QStringLiteral("---"); }
-    QVector<Section> systemInformation() const override { return m_host.system; }
-    QVector<Section> driverInformation() const override { return m_host.drivers; }
+    QVector<Section> systemInformation() const override { return m_facts.system; }
+    QVector<Section> driverInformation() const override { return m_facts.drivers; }
 
 private:
-    FakeHost &m_host;
+    FakeFacts &m_facts;
 };
 
 #endif

@@ -175,7 +175,7 @@ void KelAboutWindowTest::tabsInOrder()
 
 void KelAboutWindowTest::hasNoDriverTabWithoutDrivers()
 {
-    m_host.drivers.clear();
+    m_facts.drivers.clear();
     open();
     const auto *tabs = child<QTabWidget>("tabs");
     QCOMPARE(tabs->count(), 2);
@@ -249,8 +249,8 @@ void KelAboutWindowTest::valuesAreNoMarkup()
 {
     const QString hostile = QStringLiteral("\"><b>1 & 2</b>&amp;%20'");
     m_product = {hostile, hostile, hostile, hostile, hostile};
-    m_host.system = {{hostile, {{hostile, hostile}}}};
-    m_host.drivers = {{hostile, {{QString(), hostile}}}};
+    m_facts.system = {{hostile, {{hostile, hostile}}}};
+    m_facts.drivers = {{hostile, {{QString(), hostile}}}};
     open();
     QCOMPARE(child<QLabel>("title")->textFormat(), Qt::PlainText);
     QCOMPARE(child<QLabel>("subtitle")->textFormat(), Qt::PlainText);
@@ -294,7 +294,7 @@ void KelAboutWindowTest::fitsItsContents()
 
     m_product.subtitle = QStringLiteral(
         "application for calculating with logarithmic and linear power and voltage values");
-    m_host.system[0].entries[0].value = QStringLiteral("a system with a long name ").repeated(20);
+    m_facts.system[0].entries[0].value = QStringLiteral("a system with a long name ").repeated(20);
     qApp->setStyleSheet(themeSheet(otherTheme));
     open();
     auto *tabs = child<QTabWidget>("tabs");
@@ -329,11 +329,11 @@ void KelAboutWindowTest::isNamedForScreenReaders()
 void KelAboutWindowTest::isDestroyedWhenClosed()
 {
     open();
-    QCOMPARE(m_host.providers, 1);
+    QCOMPARE(m_facts.providers, 1);
     QVERIFY(m_window->testAttribute(Qt::WA_DeleteOnClose));
     m_window->close();
     QTRY_VERIFY(m_window.isNull());
-    QCOMPARE(m_host.providers, 0);
+    QCOMPARE(m_facts.providers, 0);
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelAboutWindowTest)

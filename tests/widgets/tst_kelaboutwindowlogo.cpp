@@ -31,7 +31,7 @@ private Q_SLOTS:
 private:
     QPixmap logo() const;
 
-    FakeHost m_host;
+    FakeFacts m_facts;
     std::unique_ptr<KelAboutWindow> m_window;
 };
 
@@ -64,7 +64,7 @@ void KelAboutWindowLogoTest::initTestCase()
 void KelAboutWindowLogoTest::init()
 {
     m_window = std::make_unique<KelAboutWindow>(KelAboutWindow::Product(),
-                                                std::make_unique<FakeOsInfo>(m_host));
+                                                std::make_unique<FakeOsInfo>(m_facts));
 }
 
 void KelAboutWindowLogoTest::cleanup()

@@ -79,7 +79,7 @@ void KelAboutWindowSupportTest::everyCopyCollectsAnew()
 {
     open();
     QCOMPARE(pressCopy().size(), 2);
-    m_host.system = {{QStringLiteral("A"), {{QStringLiteral("b"), QStringLiteral("µ c")}}}, {}};
+    m_facts.system = {{QStringLiteral("A"), {{QStringLiteral("b"), QStringLiteral("µ c")}}}, {}};
     QGuiApplication::clipboard()->setText(QStringLiteral("something else"));
     QCOMPARE(pressCopy().size(), 2);
     QCOMPARE(QGuiApplication::clipboard()->text(),
@@ -178,7 +178,7 @@ void KelAboutWindowSupportTest::linksCannotBeBrokenOutOf()
 {
     const QString hostile = QStringLiteral("\"><b>1 & 2</b>&amp;%20'");
     m_product = {hostile, hostile, hostile, hostile, hostile};
-    m_host.system = {{hostile, {{hostile, hostile}}}};
+    m_facts.system = {{hostile, {{hostile, hostile}}}};
     open();
     QCOMPARE(plainText(child<QLabel>("product_page")), QStringLiteral("Product page"));
     QCOMPARE(markupFormat(child<QLabel>("product_page")).anchorHref(),

@@ -115,6 +115,7 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     setFixedSize(size());
     onThemeChanged(Bright);
     setAttribute(Qt::WA_DeleteOnClose);
+    m_copyButton->setObjectName(QStringLiteral("copyButton"));
     // Return is not to copy from wherever it is pressed.
     m_copyButton->setAutoDefault(false);
     connect(m_copyButton, &QPushButton::clicked, this, &KelAboutWindow::copy_clicked);
@@ -123,6 +124,7 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     showSystem();
     showProduct();
     showLicense();
+    setTabOrder(m_ui->scroll_system, m_copyButton);
 }
 
 KelAboutWindow::~KelAboutWindow() = default;

@@ -7,6 +7,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -86,4 +89,30 @@ QString plainText(const QLabel *label)
     QTextDocument document;
     document.setHtml(label->text());
     return document.toPlainText();
+}
+
+QString fileText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString themeSheet(const QString &otherTheme)
+{
+    QString sheet;
+    const QDir folder(QStringLiteral(":/Global/Style"));
+    const QStringList names = folder.entryList();
+    for (const QString &name : names) {
+        if (!name.endsWith(otherTheme + QLatin1String(".qss")))
+            sheet += fileText(folder.filePath(name));
+    }
+    return sheet;
+}
+
+void addApplicationFonts()
+{
+    const QDir folder(QStringLiteral(":/Global/Fonts"));
+    const QStringList names = folder.entryList();
+    for (const QString &name : names)
+        QFontDatabase::addApplicationFont(folder.filePath(name));
 }

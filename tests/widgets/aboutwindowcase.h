@@ -45,5 +45,10 @@ private Q_SLOTS:
 QTextCharFormat markupFormat(const QLabel *label);
 /// What a label shows of its markup.
 QString plainText(const QLabel *label);
+/// A text file of the resources. Empty if it cannot be read.
+QString fileText(const QString &path);
+/// All style sheets but those whose names end with @p otherTheme, in one.
+QString themeSheet(const QString &otherTheme);
+void addApplicationFonts();
 
 #endif

@@ -6,9 +6,6 @@
 #include "testmain.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -60,33 +57,6 @@ QStringList labelTexts(const QWidget *content)
             texts.append(label->text());
     }
     return texts;
-}
-
-QString fileText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// All style sheets of a theme in one.
-QString themeSheet(const QString &otherTheme)
-{
-    QString sheet;
-    const QDir folder(QStringLiteral(":/Global/Style"));
-    const QStringList names = folder.entryList();
-    for (const QString &name : names) {
-        if (!name.endsWith(otherTheme + QLatin1String(".qss")))
-            sheet += fileText(folder.filePath(name));
-    }
-    return sheet;
-}
-
-void addApplicationFonts()
-{
-    const QDir folder(QStringLiteral(":/Global/Fonts"));
-    const QStringList names = folder.entryList();
-    for (const QString &name : names)
-        QFontDatabase::addApplicationFont(folder.filePath(name));
 }
 
 } // namespace

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef WIDGETS_KELLINKLABEL_H
+#define WIDGETS_KELLINKLABEL_H
+
+#include <QLabel>
+
+/**
+ * A label that is one link and nothing else. The first press of the Tab key gives it the focus, the
+ * second selects the link, and the third leaves, in both directions.
+ */
+class KelLinkLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+};
+
+#endif

@@ -20,8 +20,9 @@
 
 namespace {
 
-/// The headings' color has too little contrast for small letters, so that they are large and bold.
-constexpr int kHeadingFontSize = 19;
+/// The headings' color has too little contrast for small letters. Letters count as large from 14 pt
+/// bold on, which are 18.7 px at the 96 dots per inch that style sheets are written for.
+constexpr int kHeadingFontPixels = 19;
 constexpr int kDriverTab = 1;
 
 QLabel *createHeading(const QString &name)
@@ -30,7 +31,7 @@ QLabel *createHeading(const QString &name)
         new QLabel(QStringLiteral("<span style=\" font-weight:600;color: rgb(0, 142, 214);\">") +
                    name.toHtmlEscaped() + QStringLiteral("</span>"));
     label->setTextFormat(Qt::RichText);
-    label->setStyleSheet(QStringLiteral("font-size: %1px").arg(kHeadingFontSize));
+    label->setStyleSheet(QStringLiteral("font-size: %1px").arg(kHeadingFontPixels));
     label->setAccessibleName(name);
     return label;
 }
@@ -92,6 +93,44 @@ QPixmap renderLogo(ApplicationTheme theme, const QSize &size)
     return pixmap;
 }
 
+/// The copy button comes below the facts.
+void showSystem(const QVector<OSInfo::Section> &sections, QWidget *content, QPushButton *copyButton)
+{
+    auto *grid = new QGridLayout(content);
+    grid->setColumnStretch(1, 1);
+    int row = 0;
+    for (const OSInfo::Section &section : sections) {
+        grid->addWidget(createHeading(section.name), row++, 0, 1, 2);
+        for (const OSInfo::Entry &entry : section.entries) {
+            QLabel *value = createValue(entry.value);
+            value->setAccessibleName(entry.key + QLatin1String(": ") + entry.value);
+            grid->addWidget(createText(entry.key), row, 0, Qt::AlignTop);
+            grid->addWidget(value, row++, 1);
+        }
+        grid->addWidget(new QLabel, row++, 0, 1, 2);
+    }
+    grid->addWidget(copyButton, row++, 0, 1, 2);
+    grid->setRowStretch(row, 1);
+}
+
+QString supportText(const KelAboutWindow::Product &product,
+                    const QVector<OSInfo::Section> &sections)
+{
+    QString text;
+    QTextStream stream(&text);
+    stream << "*** Global Setup ***\n"
+           << "Product: " << product.name << "\nVersion: " << product.version
+           << "\nDate: " << product.date << "\n\n";
+    for (const OSInfo::Section &section : sections) {
+        stream << "*** " << section.name << " ***\n";
+        for (const OSInfo::Entry &entry : section.entries)
+            stream << entry.key << ": " << entry.value << '\n';
+        stream << '\n';
+    }
+    stream.flush();
+    return text;
+}
+
 } // namespace
 
 KelAboutWindow::KelAboutWindow(const QString &productName, const QString &subtitle,
@@ -106,14 +145,12 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     : QDialog(parent, Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_product(product),
       m_osInfo(std::move(osInfo)),
-      m_mailTarget(mailTarget(m_product.applicationNote, supportText())),
       m_ui(std::make_unique<Ui::AboutWindow>()),
       m_copyButton(new QPushButton(tr("copy support information to clipboard"), this))
 {
     m_ui->setupUi(this);
     setWindowTitle(tr("Information about ") + m_product.name);
     setFixedSize(size());
-    onThemeChanged(Bright);
     setAttribute(Qt::WA_DeleteOnClose);
     m_copyButton->setObjectName(QStringLiteral("copyButton"));
     // Return is not to copy from wherever it is pressed.
@@ -121,8 +158,11 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     connect(m_copyButton, &QPushButton::clicked, this, &KelAboutWindow::copy_clicked);
 
     showDrivers();
-    showSystem();
+    const QVector<OSInfo::Section> system = m_osInfo->systemInformation();
+    showSystem(system, m_ui->scroll_content, m_copyButton);
     showProduct();
+    m_mailTarget = mailTarget(m_product.applicationNote, supportText(m_product, system));
+    onThemeChanged(Bright);
     showLicense();
     setTabOrder(m_ui->scroll_system, m_copyButton);
 }
@@ -139,7 +179,7 @@ void KelAboutWindow::copy_clicked()
 {
     QClipboard *clipboard = QGuiApplication::clipboard();
     clipboard->clear();
-    clipboard->setText(supportText());
+    clipboard->setText(supportText(m_product, m_osInfo->systemInformation()));
     KelMessageBox::ask(nullptr, tr("Support information copied to clipboard."),
                        tr("Support information copied to clipboard.\nUse <CTRL+V> to paste the "
                           "information in your mail program or text editor."),
@@ -161,26 +201,6 @@ void KelAboutWindow::showDrivers()
         layout->addWidget(new QLabel);
     }
     layout->addStretch();
-}
-
-void KelAboutWindow::showSystem()
-{
-    auto *grid = new QGridLayout(m_ui->scroll_content);
-    grid->setColumnStretch(1, 1);
-    int row = 0;
-    const QVector<OSInfo::Section> sections = m_osInfo->systemInformation();
-    for (const OSInfo::Section &section : sections) {
-        grid->addWidget(createHeading(section.name), row++, 0, 1, 2);
-        for (const OSInfo::Entry &entry : section.entries) {
-            QLabel *value = createValue(entry.value);
-            value->setAccessibleName(entry.key + QLatin1String(": ") + entry.value);
-            grid->addWidget(createText(entry.key), row, 0, Qt::AlignTop);
-            grid->addWidget(value, row++, 1);
-        }
-        grid->addWidget(new QLabel, row++, 0, 1, 2);
-    }
-    grid->addWidget(m_copyButton, row++, 0, 1, 2);
-    grid->setRowStretch(row, 1);
 }
 
 void KelAboutWindow::showProduct()
@@ -208,22 +228,4 @@ void KelAboutWindow::showLicense()
     QFile file(QStringLiteral(":/Global/Html/License.html"));
     if (file.open(QIODevice::ReadOnly))
         m_ui->license_box->setHtml(QString::fromUtf8(file.readAll()));
-}
-
-QString KelAboutWindow::supportText() const
-{
-    QString text;
-    QTextStream stream(&text);
-    stream << "*** Global Setup ***\n"
-           << "Product: " << m_product.name << "\nVersion: " << m_product.version
-           << "\nDate: " << m_product.date << "\n\n";
-    const QVector<OSInfo::Section> sections = m_osInfo->systemInformation();
-    for (const OSInfo::Section &section : sections) {
-        stream << "*** " << section.name << " ***\n";
-        for (const OSInfo::Entry &entry : section.entries)
-            stream << entry.key << ": " << entry.value << '\n';
-        stream << '\n';
-    }
-    stream.flush();
-    return text;
 }

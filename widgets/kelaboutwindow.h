@@ -54,17 +54,15 @@ private Q_SLOTS:
 
 private:
     void showDrivers();
-    void showSystem();
     void showProduct();
     void showLinks(ApplicationTheme theme);
     void showLicense();
-    QString supportText() const;
 
     const Product m_product;
     const std::unique_ptr<OSInfo> m_osInfo;
-    const QString m_mailTarget;
     const std::unique_ptr<Ui::AboutWindow> m_ui;
     QPushButton *const m_copyButton;
+    QString m_mailTarget;
 };
 
 #endif

@@ -6,9 +6,13 @@
 
 #include "fakeosinfo.h"
 #include "kelaboutwindow.h"
+#include "kelmessagebox.h"
 
 #include <QPointer>
 #include <QTextCharFormat>
+#include <QVector>
+
+#include <functional>
 
 class QLabel;
 
@@ -21,6 +25,16 @@ class AboutWindowCase : public QObject
     Q_OBJECT
 
 protected:
+    /// A message as it was shown.
+    struct Message
+    {
+        QString title;
+        QString text;
+        QDialogButtonBox::StandardButtons buttons;
+        KelMessageBox::State state;
+        bool hasParent;
+    };
+
     template <typename Widget>
     Widget *child(const char *name) const
     {
@@ -29,8 +43,10 @@ protected:
     void open();
     /// The label in a cell of the system information.
     QLabel *cell(int row, int column) const;
-    /// Presses the copy button and accepts what is then shown: title and text of each message.
-    QStringList pressCopy() const;
+    /// Presses the copy button and closes what is then shown.
+    QVector<Message> pressCopy() const;
+    /// Does what leads to messages, and closes each as soon as it is shown.
+    QVector<Message> messagesOf(const std::function<void()> &action) const;
 
     KelAboutWindow::Product m_product;
     FakeFacts m_facts;

@@ -6,12 +6,16 @@
 
 #include "osinfo.h"
 
+#include <QStringList>
+
 /// What a host is made to say. It outlives the provider that says it.
 struct FakeFacts
 {
     QVector<OSInfo::Section> system;
     QVector<OSInfo::Section> drivers;
     int providers = 0;
+    /// What the providers were asked for: "drivers" or "system", the earliest first.
+    QStringList questions;
 };
 
 /// Says what a FakeFacts holds at the moment of the question.
@@ -26,8 +30,16 @@ public:
     QString language() const override { return QStringLiteral("---"); }
     QString localeId() const override { return QStringLiteral("---"); }
     QString sensorControlVersion() const override { return QStringLiteral("---"); }
-    QVector<Section> systemInformation() const override { return m_facts.system; }
-    QVector<Section> driverInformation() const override { return m_facts.drivers; }
+    QVector<Section> systemInformation() const override
+    {
+        m_facts.questions.append(QStringLiteral("system"));
+        return m_facts.system;
+    }
+    QVector<Section> driverInformation() const override
+    {
+        m_facts.questions.append(QStringLiteral("drivers"));
+        return m_facts.drivers;
+    }
 
 private:
     FakeFacts &m_facts;

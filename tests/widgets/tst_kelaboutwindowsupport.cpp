@@ -27,7 +27,9 @@ private Q_SLOTS:
     void initTestCase();
 
     void copiesTheSupportText();
+    void collectsOnceToShow();
     void everyCopyCollectsAnew();
+    void slotsByName();
     void copyReplacesAllFormats();
     void onlyTheButtonItselfCopies();
     void linksToTheProductPage();
@@ -67,26 +69,57 @@ void KelAboutWindowSupportTest::initTestCase()
 void KelAboutWindowSupportTest::copiesTheSupportText()
 {
     open();
-    const QStringList message{
-        QStringLiteral("Support information copied to clipboard."),
-        QStringLiteral("Support information copied to clipboard.\nUse <CTRL+V> to paste the "
-                       "information in your mail program or text editor.")};
-    QCOMPARE(pressCopy(), message);
+    const QVector<Message> messages = pressCopy();
+    QCOMPARE(messages.size(), 1);
+    const Message &message = messages.constFirst();
+    QCOMPARE(message.title, QStringLiteral("Support information copied to clipboard."));
+    QCOMPARE(message.text,
+             QStringLiteral("Support information copied to clipboard.\nUse <CTRL+V> to paste the "
+                            "information in your mail program or text editor."));
+    QCOMPARE(message.buttons, QDialogButtonBox::Ok);
+    QCOMPARE(message.state, KelMessageBox::StateNormal);
+    QVERIFY(!message.hasParent);
     QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromLatin1(kSupportText));
+}
+
+void KelAboutWindowSupportTest::collectsOnceToShow()
+{
+    open();
+    QStringList questions{QStringLiteral("drivers"), QStringLiteral("system")};
+    QCOMPARE(m_facts.questions, questions);
+    // A change of colors is no reason to ask again.
+    m_window->onThemeChanged(Dark);
+    QCOMPARE(m_facts.questions, questions);
+
+    for (int copy = 0; copy < 2; ++copy) {
+        pressCopy();
+        questions.append(QStringLiteral("system"));
+        QCOMPARE(m_facts.questions, questions);
+    }
 }
 
 void KelAboutWindowSupportTest::everyCopyCollectsAnew()
 {
     open();
-    QCOMPARE(pressCopy().size(), 2);
+    QCOMPARE(pressCopy().size(), 1);
     m_facts.system = {{QStringLiteral("A"), {{QStringLiteral("b"), QStringLiteral("µ c")}}}, {}};
     QGuiApplication::clipboard()->setText(QStringLiteral("something else"));
-    QCOMPARE(pressCopy().size(), 2);
+    QCOMPARE(pressCopy().size(), 1);
     QCOMPARE(QGuiApplication::clipboard()->text(),
              QStringLiteral("*** Global Setup ***\nProduct: Dezimo\nVersion: 3.2.1.0\nDate: 2022\n"
                             "\n*** A ***\nb: µ c\n\n***  ***\n\n"));
     // What is shown stays as it was.
     QCOMPARE(plainText(cell(0, 0)), QStringLiteral("Operating System"));
+}
+
+void KelAboutWindowSupportTest::slotsByName()
+{
+    open();
+    const QVector<Message> messages =
+        messagesOf([this] { QMetaObject::invokeMethod(m_window, "copy_clicked"); });
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromLatin1(kSupportText));
+    QVERIFY(m_window->metaObject()->indexOfSlot("onThemeChanged(ApplicationTheme)") >= 0);
 }
 
 void KelAboutWindowSupportTest::copyReplacesAllFormats()

@@ -16,7 +16,7 @@ constexpr char kPrefixTable[17] = {'f', 'p', 'n', 'u', 'm', 'k', 'M', 'G', 'T',
                                    'P', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
 
 /// The regular expression engine repeats nothing more often than this.
-constexpr int kMaximalRepetitions = 1000;
+constexpr int kMaximalRepetitions = 1024;
 
 QString digitsPattern(int maximum)
 {

@@ -285,6 +285,10 @@ void KelNumericLineEditTest::aNewSettingTakesEffectAtOnce()
     edit.setUnitText(QStringLiteral("V"));
     type(edit, QStringLiteral("V"));
     QCOMPARE(edit.text(), QStringLiteral("1234.567V"));
+    edit.clear();
+    edit.setUnitText(QString());
+    type(edit, QStringLiteral("1 V"));
+    QCOMPARE(edit.text(), QStringLiteral("1 "));
     QCOMPARE(edit.findChildren<QValidator *>().size(), 1);
 }
 
@@ -307,9 +311,9 @@ void KelNumericLineEditTest::takesTheGreatestNumbersOfDigits_data()
     QTest::addColumn<int>("digits");
     QTest::addColumn<int>("taken");
 
-    QTest::newRow("the last number that is kept exactly") << 1000 << 1000;
-    QTest::newRow("above it the pattern stays there") << 1001 << 1000;
-    QTest::newRow("the greatest number of the setting") << 65535 << 1000;
+    QTest::newRow("the last number that is kept exactly") << 1024 << 1024;
+    QTest::newRow("above it the pattern stays there") << 1025 << 1024;
+    QTest::newRow("the greatest number of the setting") << 65535 << 1024;
 }
 
 void KelNumericLineEditTest::takesTheGreatestNumbersOfDigits()

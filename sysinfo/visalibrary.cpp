@@ -42,17 +42,24 @@ VisaLibrary VisaLibrary::find(const QStringList &folders)
 
 QStringList VisaLibrary::usualFolders()
 {
-    QStringList folders = {
+    const QString libraries = QStringLiteral("/usr/lib");
+    QStringList folders;
+    // Of several architectures side by side the program can only use the libraries of its own.
+    const QString own = QStringLiteral(DEZIMO_LIBRARY_ARCHITECTURE);
+    if (!own.isEmpty())
+        folders.append(libraries + QLatin1Char('/') + own);
+    folders += {
         QStringLiteral("/usr/local/vxipnp/linux/lib64"),
         QStringLiteral("/usr/local/lib64"),
         QStringLiteral("/usr/local/lib"),
         QStringLiteral("/usr/lib64"),
-        QStringLiteral("/usr/lib"),
+        libraries,
     };
-    // Systems that install several architectures side by side have a folder for each.
-    const QDir libraries(QStringLiteral("/usr/lib"));
-    for (const QString &name :
-         libraries.entryList({QStringLiteral("*-linux-gnu*")}, QDir::Dirs, QDir::Name))
-        folders.append(libraries.filePath(name));
+    const QStringList names =
+        QDir(libraries).entryList({QStringLiteral("*-linux-gnu*")}, QDir::Dirs, QDir::Name);
+    for (const QString &name : names) {
+        if (name != own)
+            folders.append(libraries + QLatin1Char('/') + name);
+    }
     return folders;
 }

@@ -19,7 +19,7 @@ struct VisaLibrary
 
     /// The highest version in the first of @p folders that has any. Only file names are read.
     static VisaLibrary find(const QStringList &folders);
-    /// Where libraries are installed on the systems of today.
+    /// Where libraries are installed on the systems of today, the program's own architecture first.
     static QStringList usualFolders();
 };
 

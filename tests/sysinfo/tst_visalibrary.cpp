@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theFirstFolderWithALibraryHolds();
     void missingFolders();
     void usualFolders();
+    void ownArchitectureComesFirst();
 };
 
 namespace {
@@ -117,6 +118,17 @@ void VisaLibraryTest::usualFolders()
     for (const QString &folder : folders)
         QVERIFY2(QDir::isAbsolutePath(folder), qPrintable(folder));
     QCOMPARE(folders.count(QString()), 0);
+}
+
+void VisaLibraryTest::ownArchitectureComesFirst()
+{
+    const QString architecture = QStringLiteral(DEZIMO_LIBRARY_ARCHITECTURE);
+    if (architecture.isEmpty())
+        QSKIP("This system has one folder for libraries.");
+    const QString own = QStringLiteral("/usr/lib/") + architecture;
+    const QStringList folders = VisaLibrary::usualFolders();
+    QCOMPARE(folders.constFirst(), own);
+    QCOMPARE(folders.count(own), 1);
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, VisaLibraryTest)

@@ -4,6 +4,7 @@
 #include "aboutwindowcase.h"
 #include "resources.h"
 #include "testmain.h"
+#include "ui_kelaboutwindow.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -24,6 +25,7 @@ private Q_SLOTS:
 
     void isAPlainDialogOfFixedSize();
     void form();
+    void designTexts();
     void tellsTheProduct();
     void tabsInOrder();
     void hasNoDriverTabWithoutDrivers();
@@ -33,10 +35,13 @@ private Q_SLOTS:
     void valuesCanBeSelected();
     void valuesAreNoMarkup();
     void showsTheLegalPage();
+    void legalPageNamesTheLicenses_data();
+    void legalPageNamesTheLicenses();
     void showsNothingWithoutALegalPage();
     void fitsItsContents_data();
     void fitsItsContents();
     void isNamedForScreenReaders();
+    void isDestroyedWhenClosed_data();
     void isDestroyedWhenClosed();
 };
 
@@ -116,6 +121,20 @@ void KelAboutWindowTest::form()
     QVERIFY(child<QLabel>("product_page")->openExternalLinks());
     QVERIFY(child<QLabel>("mail")->openExternalLinks());
     QVERIFY(child<QTextEdit>("license_box")->isReadOnly());
+}
+
+void KelAboutWindowTest::designTexts()
+{
+    QDialog dialog;
+    Ui::AboutWindow form;
+    form.setupUi(&dialog);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("AboutWindow"));
+    QCOMPARE(form.title->text(), QStringLiteral("SupportTool"));
+    QCOMPARE(form.version->text(), QStringLiteral("Version 2.0.0 (01.03.2014)"));
+    // The typing error is the form's own.
+    QCOMPARE(form.subtitle->text(), QStringLiteral("a tool to get imortant system information"));
+    QCOMPARE(form.product_page->text(), QStringLiteral("Product page"));
+    QCOMPARE(form.mail->text(), QStringLiteral("Support mail"));
 }
 
 void KelAboutWindowTest::tellsTheProduct()
@@ -241,6 +260,33 @@ void KelAboutWindowTest::showsTheLegalPage()
     QCOMPARE(child<QTextEdit>("license_box")->toPlainText(), page.toPlainText());
 }
 
+void KelAboutWindowTest::legalPageNamesTheLicenses_data()
+{
+    QTest::addColumn<QString>("words");
+
+    QTest::newRow("of the program itself") << "Dezimo is free software under the MIT License:";
+    QTest::newRow("of Qt") << "under the GNU Lesser General Public License, version 3.";
+    QTest::newRow("the text of Qt's license")
+        << "GNU LESSER GENERAL PUBLIC LICENSE Version 3, 29 June 2007";
+    QTest::newRow("the text of the license that Qt's builds on")
+        << "GNU GENERAL PUBLIC LICENSE Version 3, 29 June 2007";
+    QTest::newRow("where Qt's source is")
+        << "The source code of Qt can be had from the Debian source packages "
+           "qtbase-opensource-src and qtsvg-opensource-src";
+    QTest::newRow("of the fonts' outlines") << "Apache License, Version 2.0";
+    QTest::newRow("of the fonts' added glyphs") << "DejaVu fonts license";
+}
+
+void KelAboutWindowTest::legalPageNamesTheLicenses()
+{
+    QFETCH(QString, words);
+
+    open();
+    // Line breaks, and the blanks that no line breaks at, are a matter of layout.
+    const QString page = child<QTextEdit>("license_box")->toPlainText().simplified();
+    QVERIFY2(page.contains(words), qPrintable(words));
+}
+
 void KelAboutWindowTest::showsNothingWithoutALegalPage()
 {
     removeLegalPage();
@@ -296,12 +342,25 @@ void KelAboutWindowTest::isNamedForScreenReaders()
         QVERIFY2(!child<QWidget>(name)->accessibleName().isEmpty(), name);
 }
 
+void KelAboutWindowTest::isDestroyedWhenClosed_data()
+{
+    QTest::addColumn<bool>("byEscape");
+
+    QTest::newRow("by Escape") << true;
+    QTest::newRow("by its title bar") << false;
+}
+
 void KelAboutWindowTest::isDestroyedWhenClosed()
 {
+    QFETCH(bool, byEscape);
+
     open();
     QCOMPARE(m_facts.providers, 1);
     QVERIFY(m_window->testAttribute(Qt::WA_DeleteOnClose));
-    m_window->close();
+    if (byEscape)
+        QTest::keyClick(m_window, Qt::Key_Escape);
+    else
+        m_window->close();
     QTRY_VERIFY(m_window.isNull());
     QCOMPARE(m_facts.providers, 0);
 }

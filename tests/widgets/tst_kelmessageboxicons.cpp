@@ -76,7 +76,6 @@ void KelMessageBoxIconsTest::everyStateHasItsOwnIcon()
     for (const auto state : {KelMessageBox::StateOk, KelMessageBox::StateWarning,
                              KelMessageBox::StateError, KelMessageBox::StateQuestion}) {
         const QImage icon = drawnIcon(state);
-
         QVERIFY2(!icons.contains(icon),
                  QMetaEnum::fromType<KelMessageBox::State>().valueToKey(state));
         icons.append(icon);

@@ -101,9 +101,25 @@ QString WindowsOSInfo::fact(Fact fact) const
         return internetExplorerVersion();
     case Fact::IeeeDriver:
         return ieeeDriverVersion();
-    default:
-        return QString();
+    case Fact::ProductName:
+    case Fact::Country:
+    case Fact::Language:
+    case Fact::LocaleId:
+    case Fact::VbRuntime:
+    case Fact::CviRuntime:
+    case Fact::MsiRuntime:
+    case Fact::NiAnalysis:
+    case Fact::NiUserInterface:
+    case Fact::Ni3dGraph:
+    case Fact::VisaName:
+    case Fact::VisaVersion:
+    case Fact::VisaCompany:
+    case Fact::RemoteControl:
+    case Fact::SensorControl:
+        // Of the tables above.
+        break;
     }
+    return QString();
 }
 
 std::optional<QVector<FactBasedOSInfo::Driver>> WindowsOSInfo::drivers(DriverKind kind) const

@@ -33,7 +33,7 @@ VisaLibrary findIn(const QString &folder)
 VisaLibrary VisaLibrary::find(const QStringList &folders)
 {
     for (const QString &folder : folders) {
-        const VisaLibrary library = findIn(folder);
+        VisaLibrary library = findIn(folder);
         if (!library.name.isEmpty())
             return library;
     }

@@ -40,23 +40,23 @@ constexpr RegistryFact kRegistryFacts[] = {
 struct LibraryFact
 {
     Fact fact;
+    VersionField field;
     /// In the system folder.
     const char *fileName;
-    VersionField field;
 };
 
 constexpr LibraryFact kLibraryFacts[] = {
-    {Fact::VbRuntime, R"(\msvbvm60.dll)", VersionField::FileVersion},
-    {Fact::CviRuntime, R"(\cvirte.dll)", VersionField::FileVersion},
-    {Fact::MsiRuntime, R"(\msi.dll)", VersionField::FileVersion},
-    {Fact::NiAnalysis, R"(\cwanalysis.ocx)", VersionField::FileVersion},
-    {Fact::NiUserInterface, R"(\cwui.ocx)", VersionField::FileVersion},
-    {Fact::Ni3dGraph, R"(\cw3dgrph.ocx)", VersionField::FileVersion},
-    {Fact::VisaName, R"(\visa32.dll)", VersionField::ProductName},
-    {Fact::VisaVersion, R"(\visa32.dll)", VersionField::FileVersion},
-    {Fact::VisaCompany, R"(\visa32.dll)", VersionField::CompanyName},
-    {Fact::RemoteControl, R"(\kelremote.dll)", VersionField::FileVersion},
-    {Fact::SensorControl, R"(\kelsensor.dll)", VersionField::FileVersion},
+    {Fact::VbRuntime, VersionField::FileVersion, R"(\msvbvm60.dll)"},
+    {Fact::CviRuntime, VersionField::FileVersion, R"(\cvirte.dll)"},
+    {Fact::MsiRuntime, VersionField::FileVersion, R"(\msi.dll)"},
+    {Fact::NiAnalysis, VersionField::FileVersion, R"(\cwanalysis.ocx)"},
+    {Fact::NiUserInterface, VersionField::FileVersion, R"(\cwui.ocx)"},
+    {Fact::Ni3dGraph, VersionField::FileVersion, R"(\cw3dgrph.ocx)"},
+    {Fact::VisaName, VersionField::ProductName, R"(\visa32.dll)"},
+    {Fact::VisaVersion, VersionField::FileVersion, R"(\visa32.dll)"},
+    {Fact::VisaCompany, VersionField::CompanyName, R"(\visa32.dll)"},
+    {Fact::RemoteControl, VersionField::FileVersion, R"(\kelremote.dll)"},
+    {Fact::SensorControl, VersionField::FileVersion, R"(\kelsensor.dll)"},
 };
 
 /// The GPIB library of the interface board's maker, or else the one of the older SICL layer.
@@ -169,7 +169,7 @@ QString WindowsOSInfo::internetExplorerVersion() const
 QString WindowsOSInfo::ieeeDriverVersion() const
 {
     for (const char *library : kIeeeLibraries) {
-        const QString version = fileVersion(below(m_host->systemFolder(), library));
+        QString version = fileVersion(below(m_host->systemFolder(), library));
         if (!version.isEmpty())
             return version;
     }
@@ -197,7 +197,8 @@ QString WindowsOSInfo::iviFolder() const
 QVector<FactBasedOSInfo::Driver> WindowsOSInfo::librariesIn(const QString &folder) const
 {
     QVector<Driver> found;
-    for (const QString &name : makerFilesIn(folder, QStringLiteral(".dll")))
+    const QStringList names = makerFilesIn(folder, QStringLiteral(".dll"));
+    for (const QString &name : names)
         found.append({name, fileVersion(folder + QLatin1Char('\\') + name)});
     return found;
 }
@@ -208,8 +209,9 @@ QVector<FactBasedOSInfo::Driver> WindowsOSInfo::usbDrivers() const
     const QString windows = m_host->windowsFolder();
     const QString driverFolder = below(windows, R"(\SYSTEM32\Drivers)");
     const QString extension = QStringLiteral(".inf");
+    const QStringList names = makerFilesIn(below(windows, R"(\INF)"), extension);
     QVector<Driver> found;
-    for (const QString &name : makerFilesIn(below(windows, R"(\INF)"), extension)) {
+    for (const QString &name : names) {
         const QString driver = name.chopped(extension.size()) + QLatin1String(".SYS");
         found.append({driver, fileVersion(driverFolder + QLatin1Char('\\') + driver)});
     }

@@ -122,13 +122,13 @@ void VisaLibraryTest::usualFolders()
 
 void VisaLibraryTest::ownArchitectureComesFirst()
 {
+    // A system with one folder for all libraries has no such name.
     const QString architecture = QStringLiteral(DEZIMO_LIBRARY_ARCHITECTURE);
-    if (architecture.isEmpty())
-        QSKIP("This system has one folder for libraries.");
-    const QString own = QStringLiteral("/usr/lib/") + architecture;
+    const QString first = architecture.isEmpty() ? QStringLiteral("/usr/local/vxipnp/linux/lib64")
+                                                 : QStringLiteral("/usr/lib/") + architecture;
     const QStringList folders = VisaLibrary::usualFolders();
-    QCOMPARE(folders.constFirst(), own);
-    QCOMPARE(folders.count(own), 1);
+    QCOMPARE(folders.constFirst(), first);
+    QCOMPARE(folders.count(first), 1);
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, VisaLibraryTest)

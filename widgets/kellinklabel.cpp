@@ -5,8 +5,8 @@
 
 bool KelLinkLabel::focusNextPrevChild(bool next)
 {
-    // Before a link at the very beginning of the text Qt finds that link again, and again.
+    // Before a link at the very beginning of the text QLabel finds that link again, and again.
     if (!next && hasSelectedText())
-        return QWidget::focusNextPrevChild(next);
+        return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
     return QLabel::focusNextPrevChild(next);
 }

@@ -59,7 +59,9 @@ using Answer = std::function<void(KelMessageBox &)>;
 int askAndAnswer(Buttons buttons, const Answer &answer)
 {
     bool wasShown = false;
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer onceShown;
+    onceShown.setSingleShot(true);
+    QObject::connect(&onceShown, &QTimer::timeout, qApp, [&] {
         auto *box = qobject_cast<KelMessageBox *>(QApplication::activeModalWidget());
         if (!box)
             return;
@@ -68,6 +70,7 @@ int askAndAnswer(Buttons buttons, const Answer &answer)
         if (box->isVisible())
             box->close();
     });
+    onceShown.start(0);
     const auto result =
         KelMessageBox::ask(nullptr, QStringLiteral("Title"), QStringLiteral("Text"), buttons);
     return wasShown ? int(result) : -1;

@@ -71,12 +71,15 @@ void KelPanelSubWidget::on_titleButton_clicked()
     toggle();
 }
 
-/// A click on the header beside the title's button counts as one on the title.
+/// A click on the header beside the title's button counts as one on the title; as with a
+/// button, one that is let go elsewhere does nothing.
 bool KelPanelSubWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-        toggle();
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton && m_ui->header->rect().contains(mouse->pos()))
+            toggle();
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -267,23 +267,29 @@ void KelPanelSubWidgetTest::aClickOnTheHeaderToggles_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<int>("button");
+    QTest::addColumn<QPoint>("release");
     QTest::addColumn<bool>("toggles");
 
-    QTest::newRow("the title") << "titleButton" << int(Qt::LeftButton) << true;
-    QTest::newRow("the arrow") << "disclosure" << int(Qt::LeftButton) << true;
-    QTest::newRow("the space around them") << "header" << int(Qt::LeftButton) << true;
+    const QPoint inside(2, 2);
+    QTest::newRow("the title") << "titleButton" << int(Qt::LeftButton) << inside << true;
+    QTest::newRow("the arrow") << "disclosure" << int(Qt::LeftButton) << inside << true;
+    QTest::newRow("the space around them") << "header" << int(Qt::LeftButton) << inside << true;
     QTest::newRow("the arrow with the right button")
-        << "disclosure" << int(Qt::RightButton) << false;
+        << "disclosure" << int(Qt::RightButton) << inside << false;
+    QTest::newRow("the header, let go below it")
+        << "header" << int(Qt::LeftButton) << QPoint(2, 200) << false;
 }
 
 void KelPanelSubWidgetTest::aClickOnTheHeaderToggles()
 {
     QFETCH(QString, target);
     QFETCH(int, button);
+    QFETCH(QPoint, release);
     QFETCH(bool, toggles);
 
     auto *widget = m_section->findChild<QWidget *>(target);
-    QTest::mouseClick(widget, Qt::MouseButton(button), Qt::NoModifier, QPoint(2, 2));
+    QTest::mousePress(widget, Qt::MouseButton(button), Qt::NoModifier, QPoint(2, 2));
+    QTest::mouseRelease(widget, Qt::MouseButton(button), Qt::NoModifier, release);
     QCOMPARE(m_section->isExpanded(), !toggles);
 }
 

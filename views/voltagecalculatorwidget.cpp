@@ -11,13 +11,13 @@
 VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
     : KeypadCalculatorWidget(MainProfile::instance().voltageCalculator(), parent),
       m_ui(std::make_unique<Ui::VoltageCalculatorWidget>()),
-      m_profile(MainProfile::instance().voltageCalculator())
+      m_voltages(MainProfile::instance().voltageCalculator())
 {
     m_ui->setupUi(this);
     setUp(*m_ui);
     m_ui->phaseSpinBox->setRange(VoltageCalculatorProfile::kMinimumPhase,
                                  VoltageCalculatorProfile::kMaximumPhase);
-    connect(&m_profile, &VoltageCalculatorProfile::phaseChanged, this,
+    connect(&m_voltages, &VoltageCalculatorProfile::phaseChanged, this,
             &VoltageCalculatorWidget::onPhaseChanged);
     onPhaseChanged();
 }
@@ -36,7 +36,7 @@ void VoltageCalculatorWidget::on_phaseSpinBox_valueChanged(int degrees)
 {
     if (degrees == shownPhase())
         return;
-    m_profile.setPhase(degrees);
+    m_voltages.setPhase(degrees);
     recalculate();
 }
 
@@ -47,6 +47,6 @@ void VoltageCalculatorWidget::onPhaseChanged()
 
 int VoltageCalculatorWidget::shownPhase() const
 {
-    return qRound(qBound(double(VoltageCalculatorProfile::kMinimumPhase), m_profile.phase(),
+    return qRound(qBound(double(VoltageCalculatorProfile::kMinimumPhase), m_voltages.phase(),
                          double(VoltageCalculatorProfile::kMaximumPhase)));
 }

@@ -37,7 +37,7 @@ private:
     int shownPhase() const;
 
     const std::unique_ptr<Ui::VoltageCalculatorWidget> m_ui;
-    VoltageCalculatorProfile &m_profile;
+    VoltageCalculatorProfile &m_voltages;
 };
 
 #endif

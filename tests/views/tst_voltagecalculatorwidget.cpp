@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculatorpage.h"
+#include "settingsfile.h"
 #include "testmain.h"
 #include "voltagecalculatorwidget.h"
 
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void aPlainNumberHidesTheSelector();
     void offersWhatMakesSense();
     void takesOverTheResult();
+    void showsALoadedStateAsItWasStored_data();
+    void showsALoadedStateAsItWasStored();
 
     void phaseIsInWholeDegrees();
     void aTypedPhaseCalculates();
@@ -222,6 +225,41 @@ void VoltageCalculatorWidgetTest::takesOverTheResult()
     // sqrt(5^2 + 12^2)
     page.type("+12mV");
     QCOMPARE(page.result(), QStringLiteral("13 mV"));
+}
+
+void VoltageCalculatorWidgetTest::showsALoadedStateAsItWasStored_data()
+{
+    QTest::addColumn<QString>("output");
+
+    QTest::newRow("no result yet") << "---";
+    QTest::newRow("another result than the input has") << "8.88";
+    QTest::newRow("an empty result") << "";
+}
+
+/// Neither the text, nor the phase that the box shows without its decimals, calculates.
+void VoltageCalculatorWidgetTest::showsALoadedStateAsItWasStored()
+{
+    QFETCH(QString, output);
+    CalculatorPage page = shownPage();
+    page.type("1V-2V");
+
+    SettingsFile file;
+    file.settings().beginGroup(QStringLiteral("VoltageCalculatorProfile"));
+    file.settings().setValue(QStringLiteral("input"), QStringLiteral(" 3mV+4mV "));
+    file.settings().setValue(QStringLiteral("output"), output);
+    file.settings().setValue(QStringLiteral("outputUnit"), 1);
+    file.settings().setValue(QStringLiteral("mode"), 1);
+    file.settings().setValue(QStringLiteral("phase"), 33.3);
+    file.settings().endGroup();
+    m_profile.loadSettings(file.settings());
+
+    QCOMPARE(page.input().text(), QStringLiteral(" 3mV+4mV "));
+    QCOMPARE(page.output().text(), output);
+    QCOMPARE(m_profile.output(), output);
+    QCOMPARE(page.unit().currentText(), QStringLiteral("V"));
+    QCOMPARE(page.mode().currentIndex(), 1);
+    QCOMPARE(phaseOf(page).value(), 33);
+    QCOMPARE(m_profile.phase(), 33.3);
 }
 
 void VoltageCalculatorWidgetTest::phaseIsInWholeDegrees()

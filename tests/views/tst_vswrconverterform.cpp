@@ -30,6 +30,7 @@ private Q_SLOTS:
     void everyRowIsNamedForScreenReaders();
     void offersTheUnits_data();
     void offersTheUnits();
+    void hasTheProgramsFont();
     void putsPowersAndVoltagesOnTabs();
     void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
@@ -248,6 +249,13 @@ void VswrConverterFormTest::offersTheUnits()
         QCOMPARE(page.items(combo), units);
         QCOMPARE(page.combo(combo).currentIndex(), 0);
     }
+}
+
+void VswrConverterFormTest::hasTheProgramsFont()
+{
+    open();
+    QCOMPARE(m_page->font().family(), QStringLiteral("Tessan"));
+    QCOMPARE(m_page->font().style(), QFont::StyleNormal);
 }
 
 void VswrConverterFormTest::putsPowersAndVoltagesOnTabs()

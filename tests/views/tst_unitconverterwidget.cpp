@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 #include <memory>
@@ -40,16 +39,12 @@ private Q_SLOTS:
     void aChosenUnitRewritesItsFieldOnly();
     void aMirroredUnitRewritesNothing_data();
     void aMirroredUnitRewritesNothing();
-    void aChosenModeCalculatesFromTheLinearPower_data();
-    void aChosenModeCalculatesFromTheLinearPower();
-    void aMirroredModeCalculatesNothing();
     void aLoadedFileIsShownAsItIs();
     void aChangeOfLanguageKeepsEveryField();
     void finishesTheEditWhenItGoes();
 
 private:
     ConverterPage open();
-    void focusMode(const QString &text) const;
     QStringList lines(const PropertyValues &changes = {}) const
     {
         return propertyLines(m_model, changes);
@@ -92,16 +87,6 @@ ConverterPage UnitConverterWidgetTest::open()
 {
     m_page = std::make_unique<UnitConverterWidget>();
     return ConverterPage(*m_page);
-}
-
-void UnitConverterWidgetTest::focusMode(const QString &text) const
-{
-    const QList<QPushButton *> buttons =
-        m_page->findChild<KelToggleButton *>()->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->text() == text)
-            button->setFocus(Qt::TabFocusReason);
-    }
 }
 
 void UnitConverterWidgetTest::showsWhatTheModelHeldBefore()
@@ -295,50 +280,6 @@ void UnitConverterWidgetTest::aMirroredUnitRewritesNothing()
     const QStringList expected = lines({{property, 1}});
     setProperties(m_model, {{property, 1}});
     QCOMPARE(page.combo(combo).currentIndex(), 1);
-    QCOMPARE(lines(), expected);
-}
-
-void UnitConverterWidgetTest::aChosenModeCalculatesFromTheLinearPower_data()
-{
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<PropertyValues>("results");
-
-    // 1 mW at 50 ohm: 223.607 mV RMS. Times 2.82842714: 632.456 mV, -3.98 dBV.
-    QTest::newRow("peak to peak") << 1
-                                  << PropertyValues{{"voltageMode", 1},
-                                                    {"logPower", "0.00"},
-                                                    {"linVoltage", "632"},
-                                                    {"logVoltage", "-3.98"}};
-    // 632.456 mV / pi = 201.317 mV
-    QTest::newRow("average") << 2
-                             << PropertyValues{{"voltageMode", 2},
-                                               {"logPower", "0.00"},
-                                               {"linVoltage", "201"},
-                                               {"logVoltage", "-13.92"}};
-}
-
-void UnitConverterWidgetTest::aChosenModeCalculatesFromTheLinearPower()
-{
-    QFETCH(int, steps);
-    QFETCH(PropertyValues, results);
-
-    const ConverterPage page = open();
-    focusMode(QStringLiteral("Vrms"));
-    setProperties(m_model, kUnrelatedValues);
-    const QStringList expected = lines(results);
-    for (int i = 0; i < steps; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QCOMPARE(lines(), expected);
-    QCOMPARE(page.field(QStringLiteral("voltLineEdit")).text(), m_model.linVoltage());
-}
-
-void UnitConverterWidgetTest::aMirroredModeCalculatesNothing()
-{
-    const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedValues);
-    const QStringList expected = lines({{"voltageMode", 2}});
-    m_model.setVoltageMode(2);
-    QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 2);
     QCOMPARE(lines(), expected);
 }
 

@@ -191,6 +191,11 @@ void UnitConverterWidget::onLinVoltageChanged()
     mirrorText(m_ui->voltLineEdit, m_profile->linVoltage());
 }
 
+void UnitConverterWidget::onImpedanceChanged()
+{
+    mirrorText(m_ui->impedanceLineEdit, m_profile->impedance());
+}
+
 void UnitConverterWidget::onLogPowerUnitChanged()
 {
     m_ui->dbmUnitComboBox->setCurrentIndex(m_profile->logPowerUnit());
@@ -209,11 +214,6 @@ void UnitConverterWidget::onLogVoltageUnitChanged()
 void UnitConverterWidget::onLinVoltageUnitChanged()
 {
     m_ui->voltUnitComboBox->setCurrentIndex(m_profile->linVoltageUnit());
-}
-
-void UnitConverterWidget::onImpedanceChanged()
-{
-    mirrorText(m_ui->impedanceLineEdit, m_profile->impedance());
 }
 
 void UnitConverterWidget::onVoltageModeChanged()

@@ -56,11 +56,11 @@ private Q_SLOTS:
     void onLinPowerChanged();
     void onLogVoltageChanged();
     void onLinVoltageChanged();
+    void onImpedanceChanged();
     void onLogPowerUnitChanged();
     void onLinPowerUnitChanged();
     void onLogVoltageUnitChanged();
     void onLinVoltageUnitChanged();
-    void onImpedanceChanged();
     void onVoltageModeChanged();
 
 private:

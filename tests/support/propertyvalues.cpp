@@ -28,6 +28,16 @@ QVariant valueAfter(const PropertyValues &changes, const QMetaProperty &property
     return property.read(&object);
 }
 
+QStringList methodNames(const QMetaObject &type, QMetaMethod::MethodType kind)
+{
+    QStringList names;
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+        if (type.method(i).methodType() == kind)
+            names += QString::fromLatin1(type.method(i).name());
+    }
+    return names;
+}
+
 } // namespace
 
 std::vector<QMetaProperty> declaredProperties(const QObject &object)
@@ -59,12 +69,12 @@ QStringList propertyLines(const QObject &object, const PropertyValues &changes)
 
 QStringList signalNames(const QMetaObject &type)
 {
-    QStringList names;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
-        if (type.method(i).methodType() == QMetaMethod::Signal)
-            names += QString::fromLatin1(type.method(i).name());
-    }
-    return names;
+    return methodNames(type, QMetaMethod::Signal);
+}
+
+QStringList slotNames(const QMetaObject &type)
+{
+    return methodNames(type, QMetaMethod::Slot);
 }
 
 ChangeLog::ChangeLog(const QObject &object) : m_object(object)

@@ -43,6 +43,9 @@ QStringList propertyLines(const QObject &object, const PropertyValues &changes =
 /// The signals that a class declares, in the order of declaration.
 QStringList signalNames(const QMetaObject &type);
 
+/// The slots that a class declares, in the order of declaration.
+QStringList slotNames(const QMetaObject &type);
+
 /// Names the properties of an object in the order in which they announced a change.
 class ChangeLog final : public QObject
 {

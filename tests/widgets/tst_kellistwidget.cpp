@@ -19,6 +19,7 @@ private Q_SLOTS:
     void init();
 
     void aClickLeavesTheFocusWhereItIs();
+    void takesTheFocusByTabOnly();
     void tabReachesIt();
     void showsNoFocusRectangleOfThePlatform();
 
@@ -50,6 +51,11 @@ void KelListWidgetTest::aClickLeavesTheFocusWhereItIs()
     QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
     QCOMPARE(m_list->currentRow(), 1);
     QVERIFY(m_edit->hasFocus());
+}
+
+void KelListWidgetTest::takesTheFocusByTabOnly()
+{
+    QCOMPARE(m_list->focusPolicy(), Qt::TabFocus);
 }
 
 void KelListWidgetTest::tabReachesIt()

@@ -3,29 +3,10 @@
 
 #include "calculatorpage.h"
 
-#include "resources.h"
-#include "settingsfile.h"
-
-#include <QApplication>
-#include <QFile>
 #include <QMoveEvent>
 #include <QTest>
 
 #include <algorithm>
-
-void loadDefaults()
-{
-    SettingsFile empty;
-    MainProfile::instance().loadSettings(empty.settings());
-}
-
-void applyStyleSheet()
-{
-    initDezimoResources();
-    QFile sheet(QStringLiteral(":/Global/Style/global.qss"));
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromLatin1(sheet.readAll()));
-}
 
 CalculatorPage::CalculatorPage(std::unique_ptr<QWidget> page) : m_page(std::move(page)) {}
 

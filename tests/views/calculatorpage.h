@@ -5,6 +5,7 @@
 #define TESTS_VIEWS_CALCULATORPAGE_H
 
 #include "mainprofile.h"
+#include "programstate.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -15,12 +16,6 @@
 
 #include <memory>
 #include <vector>
-
-/// Gives every module its defaults, as at first start.
-void loadDefaults();
-
-/// Gives the application the sizes that the program's own style sheet sets.
-void applyStyleSheet();
 
 /// A calculator's page in a window of its own, found by object names and driven by events.
 class CalculatorPage

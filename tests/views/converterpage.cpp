@@ -4,15 +4,10 @@
 #include "converterpage.h"
 
 #include "kellineedit.h"
-#include "mainprofile.h"
-#include "resources.h"
-#include "settingsfile.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QFontDatabase>
 #include <QLabel>
 #include <QTest>
 
@@ -92,39 +87,4 @@ QString ConverterPage::fieldTexts() const
             texts.append(field->text());
     }
     return texts.join(QStringLiteral(" | "));
-}
-
-void loadDefaults()
-{
-    SettingsFile empty;
-    MainProfile::instance().loadModuleSettings(empty.settings());
-}
-
-void loadFile(const QStringList &lines)
-{
-    SettingsFile file;
-    for (const QString &line : lines) {
-        const int equals = line.indexOf(QLatin1Char('='));
-        file.settings().setValue(line.left(equals), line.mid(equals + 1));
-    }
-    MainProfile::instance().loadModuleSettings(file.settings());
-}
-
-void useProgramStyle()
-{
-    initDezimoResources();
-    const QDir fonts(QStringLiteral(":/Global/Fonts"));
-    const QStringList fontFiles = fonts.entryList();
-    for (const QString &file : fontFiles)
-        QFontDatabase::addApplicationFont(fonts.filePath(file));
-
-    QString sheet;
-    const QDir sheets(QStringLiteral(":/Global/Style"));
-    const QStringList sheetFiles = sheets.entryList({QStringLiteral("*.qss")});
-    for (const QString &name : sheetFiles) {
-        QFile file(sheets.filePath(name));
-        if (!name.endsWith(QStringLiteral("_dark.qss")) && file.open(QIODevice::ReadOnly))
-            sheet += QString::fromLatin1(file.readAll());
-    }
-    qApp->setStyleSheet(sheet);
 }

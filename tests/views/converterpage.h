@@ -4,6 +4,8 @@
 #ifndef TESTS_VIEWS_CONVERTERPAGE_H
 #define TESTS_VIEWS_CONVERTERPAGE_H
 
+#include "programstate.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -50,12 +52,5 @@ public:
 private:
     QWidget &m_page;
 };
-
-/// Brings all models back to what they hold at the first start.
-void loadDefaults();
-/// Loads all modules from a calculation file with these lines.
-void loadFile(const QStringList &lines);
-/// Gives the application the fonts and the style sheets of the bright theme.
-void useProgramStyle();
 
 #endif

@@ -210,7 +210,7 @@ void UnitConverterFormTest::fitsItsPage()
 {
     QFETCH(QSize, size);
 
-    useProgramStyle();
+    applyStyleSheet();
     const ConverterPage page = open();
     m_page->resize(size);
     QTRY_COMPARE(m_page->size(), size);

@@ -312,7 +312,7 @@ void VswrConverterFormTest::columnsAreAlignedAcrossAllRows()
 {
     QFETCH(QSize, size);
 
-    useProgramStyle();
+    applyStyleSheet();
     const ConverterPage page = open();
     m_page->resize(size);
     QTRY_COMPARE(m_page->size(), size);
@@ -359,7 +359,7 @@ QStringList VswrConverterFormTest::labelsTooNarrow() const
 
 void VswrConverterFormTest::aLowWindowScrolls()
 {
-    useProgramStyle();
+    applyStyleSheet();
     const ConverterPage page = open();
     m_page->resize(560, 200);
     const auto &area = page.child<QScrollArea>(QStringLiteral("scrollArea_2"));

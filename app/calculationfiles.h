@@ -25,9 +25,9 @@ void open(MainProfile &profile, const QString &fileName);
 void save(MainProfile &profile, const QString &fileName);
 
 /// Opens the one file that the command line names, as a double click in a file manager passes it.
-/// @p arguments begin with the program's own name. Without a name or with several nothing is opened,
-/// nor is an option, of which the program has none: taking it for a file that cannot be read would
-/// give every module its defaults.
+/// @p arguments begin with the program's own name. Without a name or with several nothing is
+/// opened, nor is an option, of which the program has none: taking it for a file that cannot be
+/// read would give every module its defaults.
 void openFromCommandLine(MainProfile &profile, const QStringList &arguments);
 
 /// Gives every module its default values.

@@ -45,8 +45,11 @@ private:
 namespace {
 
 /// 10 mW, 500 mV and 0 dBV do not belong together, so that a calculation would be seen.
-const PropertyValues kUnrelatedValues{
-    {"logPower", "10.00"}, {"linPower", "1"}, {"linVoltage", "500"}, {"logVoltage", "0.00"}};
+PropertyValues unrelatedValues()
+{
+    return {
+        {"logPower", "10.00"}, {"linPower", "1"}, {"linVoltage", "500"}, {"logVoltage", "0.00"}};
+}
 
 } // namespace
 
@@ -103,7 +106,7 @@ void UnitConverterModesTest::aChosenModeCalculatesFromTheLinearPower()
 
     const ConverterPage page = open();
     mode(QStringLiteral("Vrms")).setFocus(Qt::TabFocusReason);
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     const QStringList expected = lines(results);
     for (int i = 0; i < steps; ++i)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
@@ -116,7 +119,7 @@ void UnitConverterModesTest::theModeAlreadyChosenCalculatesAgain()
     open();
     QPushButton &chosen = mode(QStringLiteral("Vrms"));
     chosen.setFocus(Qt::TabFocusReason);
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     // 1 mW at 50 ohm: 223.607 mV, 20 log10 of 0.223607 V
     const QStringList expected =
         lines({{"logPower", "0.00"}, {"linVoltage", "224"}, {"logVoltage", "-13.01"}});
@@ -131,7 +134,7 @@ void UnitConverterModesTest::theModeAlreadyChosenCalculatesAgain()
 void UnitConverterModesTest::aMirroredModeCalculatesNothing()
 {
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     const QStringList expected = lines({{"voltageMode", 2}});
     m_model.setVoltageMode(2);
     QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 2);

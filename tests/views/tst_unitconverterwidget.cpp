@@ -59,17 +59,25 @@ namespace {
 const QString kFirstField = QStringLiteral("dbmLineEdit");
 
 /// 10 mW, 500 mV and 0 dBV do not belong together, so that a calculation would be seen.
-const PropertyValues kUnrelatedValues{
-    {"logPower", "10.00"}, {"linPower", "1"}, {"linVoltage", "500"}, {"logVoltage", "0.00"}};
+PropertyValues unrelatedValues()
+{
+    return {
+        {"logPower", "10.00"}, {"linPower", "1"}, {"linVoltage", "500"}, {"logVoltage", "0.00"}};
+}
 
-const PropertyValues kLoadedValues{
-    {"logPower", "1.234"}, {"linPower", "2.345"}, {"logVoltage", "3.456"}, {"linVoltage", "4.567"},
-    {"logPowerUnit", 1},   {"linPowerUnit", 1},   {"logVoltageUnit", 2},   {"linVoltageUnit", 1},
-    {"impedance", "75"},   {"voltageMode", 1}};
+PropertyValues loadedValues()
+{
+    return {{"logPower", "1.234"},   {"linPower", "2.345"}, {"logVoltage", "3.456"},
+            {"linVoltage", "4.567"}, {"logPowerUnit", 1},   {"linPowerUnit", 1},
+            {"logVoltageUnit", 2},   {"linVoltageUnit", 1}, {"impedance", "75"},
+            {"voltageMode", 1}};
+}
 
-const PropertyValues kOtherSelections{{"logPowerUnit", 1},   {"linPowerUnit", 1},
-                                      {"logVoltageUnit", 2}, {"linVoltageUnit", 1},
-                                      {"impedance", "75"},   {"voltageMode", 2}};
+PropertyValues otherSelections()
+{
+    return {{"logPowerUnit", 1},   {"linPowerUnit", 1}, {"logVoltageUnit", 2},
+            {"linVoltageUnit", 1}, {"impedance", "75"}, {"voltageMode", 2}};
+}
 
 } // namespace
 
@@ -91,8 +99,8 @@ ConverterPage UnitConverterWidgetTest::open()
 
 void UnitConverterWidgetTest::showsWhatTheModelHeldBefore()
 {
-    setProperties(m_model, kUnrelatedValues);
-    setProperties(m_model, kOtherSelections);
+    setProperties(m_model, unrelatedValues());
+    setProperties(m_model, otherSelections());
     const QStringList before = lines();
     const ConverterPage page = open();
     QCOMPARE(lines(), before);
@@ -121,7 +129,7 @@ void UnitConverterWidgetTest::typingOnlyStores()
 
     const ConverterPage page = open();
     page.focus(field);
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     const QStringList expected = lines({{property, "75x"}});
     page.type(field, QStringLiteral("75x"));
     QCOMPARE(lines(), expected);
@@ -215,7 +223,7 @@ void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues()
     const QString field = QStringLiteral("impedanceLineEdit");
     const ConverterPage page = open();
     page.focus(field);
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     page.type(field, QStringLiteral("75"));
     QTest::keyClick(&page.field(field), Qt::Key(key));
     QCOMPARE(page.fieldTexts(), QStringLiteral(" |  | 75 |  | "));
@@ -249,14 +257,14 @@ void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly()
 
     const ConverterPage page = open();
     page.focus(combo);
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     const QStringList expected = lines(changes);
     page.press(combo, Qt::Key_Down, steps);
     QCOMPARE(lines(), expected);
 
     // And back again: the quantity has stayed the same.
     page.press(combo, Qt::Key_Up, steps);
-    QCOMPARE(lines(), lines(kUnrelatedValues));
+    QCOMPARE(lines(), lines(unrelatedValues()));
 }
 
 void UnitConverterWidgetTest::aMirroredUnitRewritesNothing_data()
@@ -276,7 +284,7 @@ void UnitConverterWidgetTest::aMirroredUnitRewritesNothing()
     QFETCH(QByteArray, property);
 
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedValues);
+    setProperties(m_model, unrelatedValues());
     const QStringList expected = lines({{property, 1}});
     setProperties(m_model, {{property, 1}});
     QCOMPARE(page.combo(combo).currentIndex(), 1);
@@ -288,10 +296,10 @@ void UnitConverterWidgetTest::aLoadedFileIsShownAsItIs()
     const QString chosen = QStringLiteral("dbvUnitComboBox");
     const ConverterPage page = open();
     page.focus(chosen);
-    setProperties(m_model, kUnrelatedValues);
-    const QStringList expected = lines(kLoadedValues);
+    setProperties(m_model, unrelatedValues());
+    const QStringList expected = lines(loadedValues());
     QStringList file;
-    for (const PropertyValue &value : kLoadedValues) {
+    for (const PropertyValue &value : loadedValues()) {
         file.append(QStringLiteral("UnitConverterProfile/") + QString::fromLatin1(value.name) +
                     QLatin1Char('=') + value.value.toString());
     }
@@ -310,8 +318,8 @@ void UnitConverterWidgetTest::aLoadedFileIsShownAsItIs()
 void UnitConverterWidgetTest::aChangeOfLanguageKeepsEveryField()
 {
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedValues);
-    setProperties(m_model, kOtherSelections);
+    setProperties(m_model, unrelatedValues());
+    setProperties(m_model, otherSelections());
     const QStringList before = lines();
     const QString texts = page.fieldTexts();
     page.label(QStringLiteral("linPowerLabel")).setText(QStringLiteral("Lineare Leistung"));

@@ -300,7 +300,7 @@ void FactBasedOSInfoTest::severalDriversOfAKind()
         QStringLiteral(": kelb.SYS (Version 2.0)"),
     };
     QCOMPARE(sectionLines(info.driverInformation()), expected);
-    QCOMPARE(sectionLines({info.systemInformation().last()}),
+    QCOMPARE(sectionLines({info.systemInformation().constLast()}),
              QStringList({QStringLiteral("[Kel USB Drivers]"),
                           QStringLiteral("Drivers: kela.SYS (Version 1.0)"),
                           QStringLiteral("Drivers: kelb.SYS (Version 2.0)")}));

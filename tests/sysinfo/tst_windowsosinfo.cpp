@@ -315,7 +315,7 @@ void WindowsOSInfoTest::usbDriverFile()
     machine.files[text("C:\\Windows\\INF\\kel*.inf")] = {setUpFile};
     machine.fileVersions[text("C:\\Windows\\SYSTEM32\\Drivers\\") + driverFile] = text("1.5");
     QCOMPARE(systemValue(machine, "Drivers"), expected);
-    QCOMPARE(driverLines(machine).last(), QString(QLatin1String(": ") + expected));
+    QCOMPARE(driverLines(machine).constLast(), QString(QLatin1String(": ") + expected));
 }
 
 void WindowsOSInfoTest::namesAreSorted()

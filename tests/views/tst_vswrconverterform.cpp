@@ -48,13 +48,28 @@ private:
 
 namespace {
 
-const QStringList kRowsAboveTheTabs{QStringLiteral("vswr"), QStringLiteral("r"),
-                                    QStringLiteral("r2"), QStringLiteral("ar"),
-                                    QStringLiteral("am")};
-const QStringList kPowerRows{QStringLiteral("forwardPower"), QStringLiteral("reflectedPower"),
-                             QStringLiteral("absorbedPower")};
-const QStringList kVoltageRows{QStringLiteral("forwardVoltage"), QStringLiteral("reflectedVoltage"),
-                               QStringLiteral("absorbedVoltage")};
+const QStringList &rowsAboveTheTabs()
+{
+    static const QStringList value{QStringLiteral("vswr"), QStringLiteral("r"),
+                                   QStringLiteral("r2"), QStringLiteral("ar"),
+                                   QStringLiteral("am")};
+    return value;
+}
+
+const QStringList &powerRows()
+{
+    static const QStringList value{QStringLiteral("forwardPower"), QStringLiteral("reflectedPower"),
+                                   QStringLiteral("absorbedPower")};
+    return value;
+}
+
+const QStringList &voltageRows()
+{
+    static const QStringList value{QStringLiteral("forwardVoltage"),
+                                   QStringLiteral("reflectedVoltage"),
+                                   QStringLiteral("absorbedVoltage")};
+    return value;
+}
 
 /// A symbol of which a part, marked by underscores around it, stands below the line.
 QString symbol(const QString &marked)
@@ -219,7 +234,7 @@ void VswrConverterFormTest::everyRowIsNamedForScreenReaders()
 
     const ConverterPage page = open();
     QCOMPARE(page.field(row + QStringLiteral("LineEdit")).accessibleName(), name);
-    if (!kRowsAboveTheTabs.contains(row)) {
+    if (!rowsAboveTheTabs().contains(row)) {
         QCOMPARE(page.combo(row + QStringLiteral("UnitComboBox")).accessibleName(),
                  name + QStringLiteral(" unit"));
     }
@@ -230,10 +245,10 @@ void VswrConverterFormTest::offersTheUnits_data()
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<QStringList>("units");
 
-    QTest::newRow("powers") << kPowerRows
+    QTest::newRow("powers") << powerRows()
                             << QStringList{QStringLiteral("dBm"), QStringLiteral("dBW"),
                                            QStringLiteral("W"), QStringLiteral("mW")};
-    QTest::newRow("voltages") << kVoltageRows
+    QTest::newRow("voltages") << voltageRows()
                               << QStringList{QStringLiteral("dBV"), QStringLiteral("dBµV"),
                                              QStringLiteral("V"), QStringLiteral("mV")};
 }
@@ -266,11 +281,11 @@ void VswrConverterFormTest::putsPowersAndVoltagesOnTabs()
     QCOMPARE(tabs.tabText(0), QStringLiteral("Powers"));
     QCOMPARE(tabs.tabText(1), QStringLiteral("Voltages"));
     QCOMPARE(tabs.currentIndex(), 0);
-    for (const QString &row : kPowerRows)
+    for (const QString &row : powerRows())
         QVERIFY(tabs.widget(0)->isAncestorOf(&page.field(row + QStringLiteral("LineEdit"))));
-    for (const QString &row : kVoltageRows)
+    for (const QString &row : voltageRows())
         QVERIFY(tabs.widget(1)->isAncestorOf(&page.field(row + QStringLiteral("LineEdit"))));
-    for (const QString &row : kRowsAboveTheTabs)
+    for (const QString &row : rowsAboveTheTabs())
         QVERIFY(page.field(row + QStringLiteral("LineEdit")).isVisible());
 }
 
@@ -279,8 +294,8 @@ void VswrConverterFormTest::tabGoesFromTopToBottom_data()
     QTest::addColumn<int>("tab");
     QTest::addColumn<QStringList>("rowsOfTheTab");
 
-    QTest::newRow("with the powers shown") << 0 << kPowerRows;
-    QTest::newRow("with the voltages shown") << 1 << kVoltageRows;
+    QTest::newRow("with the powers shown") << 0 << powerRows();
+    QTest::newRow("with the voltages shown") << 1 << voltageRows();
 }
 
 void VswrConverterFormTest::tabGoesFromTopToBottom()
@@ -291,7 +306,7 @@ void VswrConverterFormTest::tabGoesFromTopToBottom()
     const ConverterPage page = open();
     page.child<QTabWidget>(QStringLiteral("mainTab")).setCurrentIndex(tab);
     QStringList expected;
-    for (const QString &row : kRowsAboveTheTabs)
+    for (const QString &row : rowsAboveTheTabs())
         expected.append(row + QStringLiteral("LineEdit"));
     expected.append(QStringLiteral("qt_tabwidget_tabbar"));
     for (const QString &row : qAsConst(rowsOfTheTab))
@@ -316,13 +331,13 @@ void VswrConverterFormTest::columnsAreAlignedAcrossAllRows()
     const ConverterPage page = open();
     m_page->resize(size);
     QTRY_COMPARE(m_page->size(), size);
-    for (const QStringList &rowsOfTheTab : {kPowerRows, kVoltageRows}) {
+    for (const QStringList &rowsOfTheTab : {powerRows(), voltageRows()}) {
         page.child<QTabWidget>(QStringLiteral("mainTab"))
-            .setCurrentIndex(rowsOfTheTab == kVoltageRows ? 1 : 0);
+            .setCurrentIndex(rowsOfTheTab == voltageRows() ? 1 : 0);
         QCoreApplication::processEvents();
-        const QStringList rows = kRowsAboveTheTabs + rowsOfTheTab;
+        const QStringList rows = rowsAboveTheTabs() + rowsOfTheTab;
         for (const QString &row : rows)
-            QCOMPARE(columns(page, row), columns(page, kRowsAboveTheTabs.first()));
+            QCOMPARE(columns(page, row), columns(page, rowsAboveTheTabs().first()));
         QCOMPARE(labelsTooNarrow(), QStringList());
     }
     const auto &area = page.child<QScrollArea>(QStringLiteral("scrollArea_2"));

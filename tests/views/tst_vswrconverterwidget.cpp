@@ -64,14 +64,22 @@ const QString kVswr = QStringLiteral("vswrLineEdit");
 const QString kTabs = QStringLiteral("mainTab");
 
 /// Texts that do not belong together, so that a calculation would be seen.
-const PropertyValues kUnrelatedTexts{
-    {"vswr", "1.01"},     {"r", "0.02"},          {"r2", "3.03"},         {"ar", "4.04"},
-    {"am", "5.05"},       {"pForward", "6.06"},   {"pReflected", "7.07"}, {"pAbsorbed", "8.08"},
-    {"vForward", "9.09"}, {"vReflected", "10.1"}, {"vAbsorbed", "11.1"}};
+const PropertyValues &unrelatedTexts()
+{
+    static const PropertyValues value{
+        {"vswr", "1.01"},     {"r", "0.02"},          {"r2", "3.03"},         {"ar", "4.04"},
+        {"am", "5.05"},       {"pForward", "6.06"},   {"pReflected", "7.07"}, {"pAbsorbed", "8.08"},
+        {"vForward", "9.09"}, {"vReflected", "10.1"}, {"vAbsorbed", "11.1"}};
+    return value;
+}
 
-const PropertyValues kOtherSelections{
-    {"currentMode", 1},  {"pForwardUnit", 1},   {"pReflectedUnit", 2}, {"pAbsorbedUnit", 3},
-    {"vForwardUnit", 3}, {"vReflectedUnit", 2}, {"vAbsorbedUnit", 1}};
+const PropertyValues &otherSelections()
+{
+    static const PropertyValues value{
+        {"currentMode", 1},  {"pForwardUnit", 1},   {"pReflectedUnit", 2}, {"pAbsorbedUnit", 3},
+        {"vForwardUnit", 3}, {"vReflectedUnit", 2}, {"vAbsorbedUnit", 1}};
+    return value;
+}
 
 const QString kUnrelatedFields =
     QStringLiteral("1.01 | 0.02 | 3.03 | 4.04 | 5.05 | 6.06 | 7.07 | 8.08 | 9.09 | 10.1 | 11.1");
@@ -137,8 +145,8 @@ void VswrConverterWidgetTest::addUnits() const
 
 void VswrConverterWidgetTest::showsWhatTheModelHeldBefore()
 {
-    setProperties(m_model, kOtherSelections);
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, otherSelections());
+    setProperties(m_model, unrelatedTexts());
     const QStringList before = lines();
     const ConverterPage page = open();
     QCOMPARE(page.fieldTexts(), kUnrelatedFields);
@@ -162,7 +170,7 @@ void VswrConverterWidgetTest::typingOnlyStores()
     const ConverterPage page = open();
     m_model.setCurrentMode(tab);
     page.focus(field);
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, unrelatedTexts());
     const QStringList expected = lines({{property, "0.5x"}});
     page.type(field, QStringLiteral("0.5x"));
     QCOMPARE(lines(), expected);
@@ -265,7 +273,7 @@ void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly()
     const ConverterPage page = open();
     m_model.setCurrentMode(tab);
     page.focus(combo);
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, unrelatedTexts());
     setProperties(m_model, {{text, "10"}});
     // 10 dBm = 0.01 W; 10 dBV = 10^0.5 V = 3.16 V
     const QStringList expected = lines({{unit, 2}, {text, tab == 0 ? "0.01" : "3.16"}});
@@ -287,7 +295,7 @@ void VswrConverterWidgetTest::aMirroredUnitIsShown()
     QFETCH(QByteArray, unit);
 
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, unrelatedTexts());
     setProperties(m_model, {{text, "x"}});
     const QStringList others = lines({{unit, 3}, {text, ""}});
     ChangeLog changes(m_model);
@@ -300,7 +308,7 @@ void VswrConverterWidgetTest::aMirroredUnitIsShown()
 void VswrConverterWidgetTest::aChosenTabIsStored()
 {
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, unrelatedTexts());
     page.focus(kTabs);
     const QStringList expected = lines({{"currentMode", 1}});
     ChangeLog changes(m_model);
@@ -316,7 +324,7 @@ void VswrConverterWidgetTest::aChosenTabIsStored()
 void VswrConverterWidgetTest::aMirroredTabIsShown()
 {
     const ConverterPage page = open();
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, unrelatedTexts());
     const QStringList expected = lines({{"currentMode", 1}});
     m_model.setCurrentMode(1);
     QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
@@ -329,7 +337,7 @@ void VswrConverterWidgetTest::aLoadedFileIsShownAsItIs()
     const ConverterPage page = open();
     setProperties(m_model, {{"vswr", "2"}, {"pForward", "10"}, {"vForward", "20"}});
     QStringList file;
-    for (const PropertyValues &values : {kUnrelatedTexts, kOtherSelections}) {
+    for (const PropertyValues &values : {unrelatedTexts(), otherSelections()}) {
         for (const PropertyValue &value : values) {
             file.append(QStringLiteral("VswrConverterProfile/") + QString::fromLatin1(value.name) +
                         QLatin1Char('=') + value.value.toString());
@@ -350,15 +358,15 @@ void VswrConverterWidgetTest::aLoadedFileIsShownAsItIs()
              QStringLiteral("V"));
     QCOMPARE(page.combo(QStringLiteral("absorbedVoltageUnitComboBox")).currentText(),
              QStringLiteral("dBµV"));
-    QCOMPARE(lines(kUnrelatedTexts), lines());
-    QCOMPARE(lines(kOtherSelections), lines());
+    QCOMPARE(lines(unrelatedTexts()), lines());
+    QCOMPARE(lines(otherSelections()), lines());
 }
 
 void VswrConverterWidgetTest::aChangeOfLanguageEmptiesTheVswrFieldOnly()
 {
     const ConverterPage page = open();
-    setProperties(m_model, kOtherSelections);
-    setProperties(m_model, kUnrelatedTexts);
+    setProperties(m_model, otherSelections());
+    setProperties(m_model, unrelatedTexts());
     const QStringList before = lines();
     page.label(QStringLiteral("amLabel")).setText(QStringLiteral("Fehlanpassung"));
 

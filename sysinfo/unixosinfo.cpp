@@ -46,7 +46,7 @@ std::optional<QVector<FactBasedOSInfo::Driver>> UnixOSInfo::drivers(DriverKind) 
 QString UnixOSInfo::systemName() const
 {
     for (const QString &path : m_places.osReleaseFiles) {
-        const QString name = OsRelease::systemName(path);
+        QString name = OsRelease::systemName(path);
         if (!name.isEmpty())
             return name;
     }

@@ -135,7 +135,9 @@ private:
 void GlyphsTest::collectDialog(MainWindow &window, const char *action)
 {
     bool collected = false;
-    QTimer::singleShot(0, &window, [this, &collected] {
+    QTimer watcher;
+    watcher.setSingleShot(true);
+    connect(&watcher, &QTimer::timeout, &window, [this, &collected] {
         const QList<QWidget *> tops = QApplication::topLevelWidgets();
         for (QWidget *top : tops) {
             auto *dialog = qobject_cast<QDialog *>(top);
@@ -146,6 +148,7 @@ void GlyphsTest::collectDialog(MainWindow &window, const char *action)
             dialog->close();
         }
     });
+    watcher.start(0);
     window.findChild<QAction *>(QLatin1String(action))->trigger();
     QTRY_VERIFY(collected);
 }

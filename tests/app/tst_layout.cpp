@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStyle>
 #include <QStyleOption>
@@ -110,6 +111,10 @@ void checkText(const QWidget &widget)
     if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
         if (button->fontMetrics().horizontalAdvance(button->text()) > button->width())
             complaints() += nameOf(*button) + QStringLiteral(" is too narrow");
+    }
+    if (const auto *area = qobject_cast<const QScrollArea *>(&widget)) {
+        if (area->horizontalScrollBar()->maximum() > 0)
+            complaints() += nameOf(*area) + QStringLiteral(" scrolls sideways");
     }
     if (const auto *edit = qobject_cast<const QLineEdit *>(&widget)) {
         if (edit->width() > kWidestField)

@@ -17,6 +17,7 @@ declare -A packages=(
     [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"
     [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy shellcheck"
+    [bench]="libbenchmark-dev"
     [windows-check]="g++-mingw-w64-x86-64-posix"
 )
 declare -A commands=(
@@ -27,6 +28,7 @@ declare -A commands=(
     [package-test]="lintian desktop-file-validate appstreamcli xmllint update-mime-database man"
     [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy-standalone shellcheck"
+    [bench]=""
     [windows-check]="x86_64-w64-mingw32-g++-posix"
 )
 

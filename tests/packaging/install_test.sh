@@ -12,6 +12,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
+# shellcheck source=tests/packaging/menu_entry.sh
+. tests/packaging/menu_entry.sh
+
 cache=build/install-test
 person=1000 # the user that starts the program
 file="Zwei Geräte, 10 µW.dezimo"
@@ -81,41 +84,18 @@ snapshot() {
     )
 }
 
-# The words of the menu entry's Exec line, with %f replaced by the given file or left out.
-exec_words() {
-    local entry words word
-    entry=$(compgen -G "$root/usr/share/applications/*.dezimo.desktop")
-    read -r -a words <<<"$(sed --quiet 's/^Exec=//p' "$entry")"
-    for word in "${words[@]}"; do
-        if [[ $word != %f ]]; then
-            echo "$word"
-        elif [[ $# -gt 0 ]]; then
-            echo "$1"
-        fi
-    done
-}
-
-# start_and_quit [FILE]: starts the program as the person's desktop would, waits for its window and
-# leaves by the keys of the menu's Quit.
+# start_and_quit [FILE]: starts the program as the person's desktop would, and leaves it.
 start_and_quit() {
-    local words program window
-    mapfile -t words < <(exec_words "$@")
+    local words
+    mapfile -t words < <(exec_words "$root" "$@")
     echo "Starting: ${words[*]}"
     chroot --userspec="$person:$person" "$root" env --ignore-environment --chdir=/home/person \
         PATH=/usr/local/bin:/usr/bin:/bin HOME=/home/person XDG_RUNTIME_DIR=/home/person/.runtime \
         LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" "${words[@]}" &
-    program=$!
-    window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Dezimo \[') ||
-        { kill "$program" || true; fail "no window appeared"; }
-    xwininfo -id "$window" | grep --extended-regexp 'Window id|Width|Height|Map State'
-    xdotool windowfocus --sync "$window" key ctrl+q
-    wait "$program" || fail "the program ended with status $?"
+    quit_by_keyboard $!
 }
 
-# stored KEY: a value of the dB converter in the state that the program left.
-stored() {
-    sed --quiet "/^\[DbConverterProfile\]/,/^\[/s/^$1=//p" "$root/home/person/.config/Vantrel/Dezimo.conf"
-}
+stored() { stored_p1 "$root/home/person"; }
 
 clean_up() {
     [[ -z ${server:-} ]] || kill "$server" 2>/dev/null || true
@@ -144,22 +124,16 @@ install --directory --mode=700 --owner="$person" --group="$person" "$root/home/p
 printf '[DbConverterProfile]\np1=5W\n' >"$root/home/person/$file"
 snapshot >"$cache/before"
 
-coproc display { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -ac 2>"$cache/xvfb.log"; }
-# shellcheck disable=SC2154
-server=$display_PID
-# shellcheck disable=SC2154
-read -r -t 60 number <&"${display[0]}" || fail "no X server"
-export DISPLAY=:$number
-
+start_display "$cache/xvfb.log"
 cp "$package" "$root/var/cache/apt/"
 apt_in_root install "/var/cache/apt/${package##*/}"
 grep --quiet 'application/x-dezimo' "$root/usr/share/mime/globs2" || fail "*.dezimo is unknown"
 start_and_quit
-[[ -z $(stored p1) ]] || fail "a first start shows a value: $(stored p1)"
+[[ -z $(stored) ]] || fail "a first start shows a value: $(stored)"
 start_and_quit "/home/person/$file"
-[[ $(stored p1) == 5W ]] || fail "the file was not opened: $(stored p1)"
+[[ $(stored) == 5W ]] || fail "the file was not opened: $(stored)"
 
 apt_in_root remove dezimo
 snapshot | diff "$cache/before" - || fail "the package left something behind"
-[[ $(stored p1) == 5W ]] || fail "the person's state is gone"
+[[ $(stored) == 5W ]] || fail "the person's state is gone"
 echo "Installed, started, removed; only the person's state is left."

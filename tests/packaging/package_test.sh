@@ -10,7 +10,10 @@ shopt -s nullglob
 packages=(build/package/*.deb)
 package=${packages[0]:-}
 scratch=$(mktemp --directory)
-trap 'rm -rf "$scratch"' EXIT
+server=
+trap '[[ -z $server ]] || kill "$server"; rm -rf "$scratch"' EXIT
+# shellcheck source=tests/packaging/menu_entry.sh
+. tests/packaging/menu_entry.sh
 
 fail() { echo "$*" >&2; exit 1; }
 
@@ -96,6 +99,40 @@ desktop_knows_the_files() {
         fail "the desktop entry does not pass the file on"
 }
 
+# start [ARGUMENT...]: starts the unpacked program by its menu entry, and leaves it.
+start() {
+    local words
+    mapfile -t words < <(exec_words "$scratch/root" "$@")
+    env --chdir="$home" --unset=XDG_CONFIG_HOME --unset=WAYLAND_DISPLAY --unset=QT_QPA_PLATFORM \
+        PATH="$scratch/root/usr/bin:$PATH" HOME="$home" XDG_RUNTIME_DIR="$home" LC_ALL=C.UTF-8 \
+        "${words[@]}" &
+    quit_by_keyboard $!
+}
+
+# The program itself: a first start, a file by its full name and by its name in the current folder,
+# what is no file name, and a file that is not there.
+starts() {
+    unpack
+    local home=$scratch/home file='Zwei Geräte, 10 µW.dezimo'
+    mkdir --mode=700 "$home"
+    printf '[DbConverterProfile]\np1=5W\n' >"$home/$file"
+    printf '[DbConverterProfile]\np1=6W\n' >"$home/other.dezimo"
+    start_display "$scratch/xvfb.log"
+    start
+    expect "first start" "" "$(stored_p1 "$home")"
+    start "$home/$file"
+    expect "with a file" 5W "$(stored_p1 "$home")"
+    start other.dezimo
+    expect "with a file in the current folder" 6W "$(stored_p1 "$home")"
+    start --version
+    expect "with an option" 6W "$(stored_p1 "$home")"
+    start "$home/$file" "$home/$file"
+    expect "with two files" 6W "$(stored_p1 "$home")"
+    start "$home/none.dezimo"
+    expect "without the file" "" "$(stored_p1 "$home")"
+    [[ ! -e $home/none.dezimo ]] || fail "a file that is only read was made"
+}
+
 man_page() {
     unpack
     local complaints
@@ -114,7 +151,8 @@ lintian() {
 # code_block LANGUAGE PAGE: what stands between the fences of a language.
 code_block() { sed --quiet "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$2"; }
 
-# The documented example, taken from the page as it stands, against the installed models.
+# The documented example, taken from the page as it stands, against the installed models. The models
+# ask for the C++ that they need, also where a compiler or a project would settle for an older one.
 use_of_the_models() {
     local page=docs/use-the-models.md
     cmake --install build/package --component devel --prefix "$scratch/installed" >/dev/null
@@ -122,7 +160,8 @@ use_of_the_models() {
     code_block cmake "$page" >"$scratch/example/CMakeLists.txt"
     code_block cpp "$page" >"$scratch/example/main.cpp"
     cmake -G Ninja -S "$scratch/example" -B "$scratch/build" \
-        -D CMAKE_PREFIX_PATH="$scratch/installed" -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >/dev/null
+        -D CMAKE_PREFIX_PATH="$scratch/installed" -D CMAKE_CXX_STANDARD=14 \
+        -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >/dev/null
     cmake --build "$scratch/build"
     "$scratch/build/antenna" >"$scratch/found"
     code_block text "$page" | diff - "$scratch/found"

@@ -4,6 +4,7 @@
 #include "identity.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 
 QString Identity::productName()
 {
@@ -22,4 +23,5 @@ void Identity::apply()
     QCoreApplication::setApplicationName(productName());
     QCoreApplication::setApplicationVersion(version());
     QGuiApplication::setDesktopFileName(QStringLiteral(DEZIMO_ID));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Global/Icons_SVG/custom/dezimo.svg")));
 }

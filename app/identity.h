@@ -15,8 +15,8 @@ namespace Identity {
 QString productName();
 QString version();
 
-/// Gives the application object its names and version, and the name of the desktop entry by which
-/// the desktop finds the icon of its windows.
+/// Gives the application object its names and version, the name of the desktop entry by which a
+/// desktop finds the icon of its windows, and that icon for desktops that do not look for it.
 void apply();
 
 } // namespace Identity

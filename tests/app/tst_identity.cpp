@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "identity.h"
+#include "kelapplication.h"
 #include "testmain.h"
 
-#include <QGuiApplication>
+#include <QIcon>
+#include <QImage>
 #include <QSettings>
 #include <QTest>
+#include <QWidget>
 
 class IdentityTest : public QObject
 {
@@ -14,6 +17,7 @@ class IdentityTest : public QObject
 
 private Q_SLOTS:
     void givesTheApplicationItsNames();
+    void givesEveryWindowTheIcon();
     void findsTheSettingsUnderOrganizationAndApplication();
 };
 
@@ -27,6 +31,16 @@ void IdentityTest::givesTheApplicationItsNames()
     QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("example.vantrel.dezimo"));
 }
 
+/// Desktops that know no desktop entry show the icon that the window brings.
+void IdentityTest::givesEveryWindowTheIcon()
+{
+    Identity::apply();
+    const QWidget window;
+    const QImage icon = window.windowIcon().pixmap(48, 48).toImage();
+    QCOMPARE(icon.size(), QSize(48, 48));
+    QVERIFY(qAlpha(icon.pixel(24, 24)) > 0);
+}
+
 void IdentityTest::findsTheSettingsUnderOrganizationAndApplication()
 {
     Identity::apply();
@@ -37,6 +51,9 @@ void IdentityTest::findsTheSettingsUnderOrganizationAndApplication()
     QCOMPARE(settings.format(), QSettings::NativeFormat);
 }
 
-DEZIMO_TEST_MAIN(QCoreApplication, IdentityTest)
+int main(int argc, char **argv)
+{
+    return runTestMain<KelApplication, IdentityTest>(argc, argv, true);
+}
 
 #include "tst_identity.moc"

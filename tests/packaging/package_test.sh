@@ -71,6 +71,14 @@ contents() {
     diff "$expected" "$found"
 }
 
+# Without a package, the install step puts the same files under a prefix of one's choice.
+prefix() {
+    unpack
+    cmake --install build/package --component application --prefix "$scratch/prefix" >/dev/null
+    diff <(cd "$scratch/root/usr" && find . -type f | sort) \
+        <(cd "$scratch/prefix" && find . -type f | sort)
+}
+
 # Each picture has the size of its folder, and the desktop entry names them.
 icons() {
     unpack
@@ -140,6 +148,9 @@ man_page() {
         "$scratch/root/usr/share/man/man1/dezimo.1.gz" 2>&1 >"$scratch/page")
     expect "complaints" "" "$complaints"
     grep --quiet "Dezimo $DEZIMO_VERSION" "$scratch/page" || fail "the page does not tell the version"
+    local examples
+    examples=$(grep --only-matching '/[a-z/]*/examples' "$scratch/page") || fail "no examples told of"
+    [[ -d $scratch/root$examples ]] || fail "there is no $examples"
 }
 
 lintian() {

@@ -17,7 +17,9 @@ declare -A packages=(
     [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"
     [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy shellcheck"
-    [bench]="libbenchmark-dev"
+    [bench]="libbenchmark-dev libmuparser-dev pkg-config libxcb1-dev libxcb-damage0-dev
+        libxcb-xtest0-dev xvfb xauth"
+    [peers]="speedcrunch kcalc galculator qalculate-gtk"
     [windows-check]="g++-mingw-w64-x86-64-posix"
 )
 declare -A commands=(
@@ -28,7 +30,8 @@ declare -A commands=(
     [package-test]="lintian desktop-file-validate appstreamcli xmllint update-mime-database man"
     [install-test]="debootstrap"
     [lint]="git clang-format clang-tidy clazy-standalone shellcheck"
-    [bench]=""
+    [bench]="pkg-config xvfb-run"
+    [peers]=""
     [windows-check]="x86_64-w64-mingw32-g++-posix"
 )
 

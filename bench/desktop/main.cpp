@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+/**
+ * Starts Dezimo, a floor program and installed peers in turn and measures them from outside, as a
+ * client of the same X server. See docs/performance.md.
+ *
+ * usage: desktop_benchmark [--runs NUMBER] [WORD...]
+ *
+ * With words, only those programs are measured whose name contains one of them.
+ */
+
+#include "display.h"
+#include "program.h"
+#include "table.h"
+
+#include <stdlib.h>
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A folder that goes with the object.
+class TemporaryFolder final
+{
+public:
+    TemporaryFolder() : m_path(fs::temp_directory_path() / "dezimo-benchmark-XXXXXX")
+    {
+        std::string pattern = m_path.string();
+        if (!mkdtemp(pattern.data()))
+            throw std::runtime_error("no temporary folder");
+        m_path = pattern;
+    }
+    ~TemporaryFolder()
+    {
+        std::error_code ignored;
+        fs::remove_all(m_path, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+
+    const fs::path &path() const { return m_path; }
+
+private:
+    fs::path m_path;
+};
+
+struct Request
+{
+    int runs = 9;
+    std::vector<std::string> words;
+};
+
+Request request(const std::vector<std::string> &arguments)
+{
+    Request request;
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == "--runs" && i + 1 < arguments.size())
+            request.runs = std::stoi(arguments[++i]);
+        else
+            request.words.push_back(arguments[i]);
+    }
+    return request;
+}
+
+void keepWanted(std::vector<Program> &programs, const std::vector<std::string> &words)
+{
+    const auto isUnwanted = [&words](const Program &program) {
+        return !words.empty() && std::none_of(words.begin(), words.end(), [&](const auto &word) {
+            return program.name.find(word) != std::string::npos;
+        });
+    };
+    programs.erase(std::remove_if(programs.begin(), programs.end(), isUnwanted), programs.end());
+}
+
+/// The programs take turns, so that whatever else the machine does meets all of them. Each has its
+/// own home, in which a first start that is not counted leaves what the program caches.
+std::vector<Row> measured(const std::vector<Program> &programs, int runs)
+{
+    const TemporaryFolder homes;
+    Display display;
+    std::vector<Row> rows;
+    rows.reserve(programs.size());
+    for (const Program &program : programs)
+        rows.push_back({program.name, {}});
+    for (int round = 0; round <= runs; ++round) {
+        for (size_t i = 0; i < programs.size(); ++i) {
+            const Run run = measuredRun(display, programs[i], homes.path() / std::to_string(i));
+            if (round > 0)
+                rows[i].runs.push_back(run);
+        }
+        std::cerr << "round " << round << " of " << runs << '\n';
+    }
+    return rows;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    try {
+        const Request wanted = request({argv + 1, argv + argc});
+        std::vector<Program> programs = programsToCompare(fs::path(argv[0]).parent_path());
+        keepWanted(programs, wanted.words);
+        writeTable(std::cout, measured(programs, wanted.runs));
+    } catch (const std::exception &error) {
+        std::cerr << "desktop_benchmark: " << error.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "run.h"
+
+#include "display.h"
+#include "process.h"
+#include "program.h"
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kLongestStart = 30s;
+constexpr auto kSettledPause = 300ms;
+/// What is painted later answers no key: a fading tooltip, or a cursor that blinks.
+constexpr auto kBurstPause = 50ms;
+/// Between two keys.
+constexpr auto kTypingPause = 200ms;
+
+constexpr char kDigits[] = "12345678";
+constexpr xcb_keysym_t kHomeKey = 0xff50;
+
+/// Where Dezimo's module list has its rows in the window.
+constexpr int kRows = 5;
+constexpr int kRowX = 20;
+constexpr int kFirstRowY = 48;
+constexpr int kRowHeight = 36;
+
+class Measurement final
+{
+public:
+    Measurement(Display &display, const Program &program, const std::filesystem::path &home)
+        : m_display(display),
+          m_program(program),
+          m_process(program.path, home)
+    {}
+
+    Run run();
+
+private:
+    struct Burst
+    {
+        Clock::time_point first;
+        Clock::time_point last;
+    };
+
+    void waitForWindow();
+    void waitForContent();
+    void waitForPause();
+    void prepareTyping();
+    void typeDigits();
+    void clickRows();
+    std::optional<Burst> burst(Clock::duration pause);
+    Display::Event nextEvent(Display::Change change);
+    double sinceStart(Clock::time_point time) const;
+
+    Display &m_display;
+    const Program &m_program;
+    const Process m_process;
+    xcb_window_t m_window = XCB_NONE;
+    Run m_run;
+};
+
+Run Measurement::run()
+{
+    waitForWindow();
+    waitForContent();
+    waitForPause();
+    m_run.processorTime = m_process.processorMilliseconds();
+    m_run.privateMemory = m_process.privateMebibytes();
+    prepareTyping();
+    typeDigits();
+    if (m_program.module)
+        clickRows();
+    return m_run;
+}
+
+void Measurement::waitForWindow()
+{
+    while (m_window == XCB_NONE) {
+        const Display::Event event = nextEvent(Display::Change::Mapped);
+        m_run.mapped = sinceStart(event.time);
+        if (m_display.isMainWindow(event.window))
+            m_window = event.window;
+    }
+}
+
+void Measurement::waitForContent()
+{
+    do
+        m_run.painted = sinceStart(nextEvent(Display::Change::Painted).time);
+    while (!m_display.hasContent(m_window));
+    m_run.settled = m_run.painted;
+}
+
+void Measurement::waitForPause()
+{
+    if (const auto start = burst(kSettledPause))
+        m_run.settled = sinceStart(start->last);
+}
+
+/// Dezimo's voltage calculator starts with a unit, before which the digits belong.
+void Measurement::prepareTyping()
+{
+    m_display.focus(m_window);
+    if (m_program.module)
+        m_display.typeKey(kHomeKey);
+    burst(kTypingPause);
+}
+
+void Measurement::typeDigits()
+{
+    for (const char digit : std::string(kDigits)) {
+        const Clock::time_point press = Clock::now();
+        m_display.typeKey(xcb_keysym_t(digit));
+        const auto answer = burst(kBurstPause);
+        burst(kTypingPause);
+        if (answer) {
+            m_run.keyFirst.push_back(milliseconds(answer->first - press));
+            m_run.keyLast.push_back(milliseconds(answer->last - press));
+        }
+    }
+}
+
+/// Every row once, beginning with the one after the current module's, so that each but the last
+/// shows its page for the first time.
+void Measurement::clickRows()
+{
+    for (int i = 1; i <= kRows; ++i) {
+        const int row = (*m_program.module + i) % kRows;
+        const std::string title = m_display.title(m_window);
+        m_display.movePointer(m_window, kRowX, kFirstRowY + row * kRowHeight);
+        burst(kTypingPause);
+        const Clock::time_point press = Clock::now();
+        m_display.click();
+        const auto answer = burst(kBurstPause);
+        if (!answer || m_display.title(m_window) == title)
+            throw std::runtime_error("a click on row " + std::to_string(row) + " shows no page");
+        m_run.clickLast.push_back(milliseconds(answer->last - press));
+    }
+}
+
+/// What is painted until nothing is for that long, if anything is.
+std::optional<Measurement::Burst> Measurement::burst(Clock::duration pause)
+{
+    std::optional<Burst> burst;
+    while (const auto event = m_display.nextEvent((burst ? burst->last : Clock::now()) + pause)) {
+        if (event->change != Display::Change::Painted)
+            continue;
+        if (!burst)
+            burst = Burst{event->time, event->time};
+        burst->last = event->time;
+    }
+    return burst;
+}
+
+Display::Event Measurement::nextEvent(Display::Change change)
+{
+    for (;;) {
+        const auto event = m_display.nextEvent(m_process.startTime() + kLongestStart);
+        if (!event)
+            throw std::runtime_error(m_program.name + " shows no window");
+        if (event->change == change)
+            return *event;
+    }
+}
+
+double Measurement::sinceStart(Clock::time_point time) const
+{
+    return milliseconds(time - m_process.startTime());
+}
+
+/// The windows of a program that has ended go a little later.
+void forgetWindows(Display &display)
+{
+    while (display.nextEvent(Clock::now() + kTypingPause)) {
+    }
+}
+
+} // namespace
+
+Run measuredRun(Display &display, const Program &program, const std::filesystem::path &home)
+{
+    prepareSettings(program, home);
+    Run run = Measurement(display, program, home).run();
+    forgetWindows(display);
+    return run;
+}

@@ -13,6 +13,7 @@ debian() {
     released=$(sed --quiet 's/^## .*, \([0-9-]*\)$/\1/p' CHANGELOG.md | head --lines=1)
     export SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(date --utc --date="$released" +%s)}"
     umask 022
+    export LC_ALL=C.UTF-8 # CPack cannot read a path beyond ASCII otherwise
     rm -f build/package/*.deb
     cmake --preset package >/dev/null # warnings and errors still show
     cmake --build --preset package

@@ -178,16 +178,18 @@ use_of_the_models() {
     code_block text "$page" | diff - "$scratch/found"
 }
 
-# Again from sources in another place, at another hour and without what the first build left behind.
+# Again from sources in another place, which need not have a plain name, at another hour and without
+# what the first build left behind.
 reproducible() {
-    mkdir "$scratch/sources"
-    tar --create --exclude=./build --exclude=./.git . | tar --extract --touch --directory "$scratch/sources"
+    local sources="$scratch/Dezimo für alle"
+    mkdir "$sources"
+    tar --create --exclude=./build --exclude=./.git . | tar --extract --touch --directory "$sources"
     (
         umask 027
-        cd "$scratch/sources"
+        cd "$sources"
         env TZ=Pacific/Kiritimati LC_ALL=C CCACHE_DISABLE=1 ./package.sh >/dev/null
     )
-    cmp "$package" "$scratch/sources/$package"
+    cmp "$package" "$sources/$package"
 }
 
 [[ $# -eq 1 && $(type -t "$1") == function ]] || fail "usage: package_test.sh CHECK"

@@ -16,11 +16,4 @@ if [[ -n ${DISPLAY:-} || -n ${WAYLAND_DISPLAY:-} ]]; then
 fi
 
 echo "No display (neither DISPLAY nor WAYLAND_DISPLAY): playing the guided tour into build/tour/"
-# A home of its own, so that the tour neither shows nor changes the person's settings.
-home=$(mktemp -d)
-trap 'rm -rf "$home"' EXIT
-mkdir -m 0700 "$home/runtime"
-mkdir -p build/tour
-env --unset=XDG_CONFIG_DIRS HOME="$home" XDG_CONFIG_HOME="$home/config" \
-    XDG_CACHE_HOME="$home/cache" XDG_DATA_HOME="$home/data" XDG_RUNTIME_DIR="$home/runtime" \
-    QT_QPA_PLATFORM=offscreen build/release/bin/dezimo-tour build/tour
+tools/play_tour.sh build/tour

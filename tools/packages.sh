@@ -21,6 +21,7 @@ declare -A packages=(
         libxcb-xtest0-dev xvfb xauth"
     [peers]="speedcrunch kcalc galculator qalculate-gtk"
     [windows-check]="g++-mingw-w64-x86-64-posix"
+    [pictures]="pngquant"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -33,6 +34,7 @@ declare -A commands=(
     [bench]="pkg-config xvfb-run"
     [peers]=""
     [windows-check]="x86_64-w64-mingw32-g++-posix"
+    [pictures]="pngquant"
 )
 
 # Those of the given packages that dpkg does not have installed.

@@ -58,7 +58,9 @@ contents() {
     local expected=$scratch/expected found=$scratch/found
     {
         echo ./usr/bin/dezimo
-        printf './usr/share/doc/dezimo/%s\n' NEWS.gz changelog.gz copyright
+        printf './usr/share/doc/dezimo/%s\n' NEWS.gz changelog.gz copyright guide.md
+        printf './usr/share/doc/dezimo/pictures/%s.png\n' dbm-calculator voltage-calculator \
+            unit-converter db-converter vswr-converter
         printf './usr/share/doc/dezimo/examples/%s.dezimo\n' \
             antenna-mismatch receiver-chain two-transmitters
         printf './usr/share/%s\n' "applications/$DEZIMO_ID.desktop" man/man1/dezimo.1.gz \
@@ -151,6 +153,17 @@ man_page() {
     local examples
     examples=$(grep --only-matching '/[a-z/]*/examples' "$scratch/page") || fail "no examples told of"
     [[ -d $scratch/root$examples ]] || fail "there is no $examples"
+}
+
+# The man page leads to the guide, and each picture that the guide shows lies where it says.
+guide() {
+    unpack
+    local folder=$scratch/root/usr/share/doc/dezimo picture
+    zcat "$scratch/root/usr/share/man/man1/dezimo.1.gz" | grep --quiet '^\.I /usr/share/doc/dezimo/guide\.md$' ||
+        fail "the man page does not name the guide"
+    while read -r picture; do
+        [[ -s $folder/$picture ]] || fail "the guide shows $picture, which is not there"
+    done < <(grep --only-matching --perl-regexp '(?<=\]\()[^)]*\.png' "$folder/guide.md")
 }
 
 lintian() {

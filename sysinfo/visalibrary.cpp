@@ -11,12 +11,18 @@ namespace {
 
 VisaLibrary findIn(const QString &folder)
 {
+    return VisaLibrary::among(
+        QDir(folder).entryList({QStringLiteral("libvisa.so*")}, QDir::Files, QDir::Name));
+}
+
+} // namespace
+
+VisaLibrary VisaLibrary::among(const QStringList &fileNames)
+{
     static const QRegularExpression fileName(
         QStringLiteral("\\A(libvisa)\\.so(?:\\.([0-9]{1,9}(?:\\.[0-9]{1,9}){0,3}))?\\z"));
     VisaLibrary best;
-    const QStringList names =
-        QDir(folder).entryList({QStringLiteral("libvisa.so*")}, QDir::Files, QDir::Name);
-    for (const QString &name : names) {
+    for (const QString &name : fileNames) {
         const QRegularExpressionMatch match = fileName.match(name);
         if (!match.hasMatch())
             continue;
@@ -27,8 +33,6 @@ VisaLibrary findIn(const QString &folder)
     }
     return best;
 }
-
-} // namespace
 
 VisaLibrary VisaLibrary::find(const QStringList &folders)
 {

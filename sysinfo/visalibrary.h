@@ -17,6 +17,8 @@ struct VisaLibrary
     QString name;
     QString version;
 
+    /// The highest version among the names of files in one folder.
+    static VisaLibrary among(const QStringList &fileNames);
     /// The highest version in the first of @p folders that has any. Only file names are read.
     static VisaLibrary find(const QStringList &folders);
     /// Where libraries are installed on the systems of today, the program's own architecture first.

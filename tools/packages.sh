@@ -22,6 +22,7 @@ declare -A packages=(
     [peers]="speedcrunch kcalc galculator qalculate-gtk"
     [windows-check]="g++-mingw-w64-x86-64-posix"
     [pictures]="pngquant"
+    [fuzz]="clang libclang-rt-14-dev"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -35,6 +36,7 @@ declare -A commands=(
     [peers]=""
     [windows-check]="x86_64-w64-mingw32-g++-posix"
     [pictures]="pngquant"
+    [fuzz]="clang++"
 )
 
 # Those of the given packages that dpkg does not have installed.

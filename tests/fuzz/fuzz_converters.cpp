@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+// The three converters, driven through sequences of edits and calculations by the lines that
+// EditScript reads. A name that several of them have goes to all.
+
+#include "dbconverterprofile.h"
+#include "editscript.h"
+#include "mainprofile.h"
+#include "require.h"
+#include "unitconverterprofile.h"
+#include "vswrconverterprofile.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    requireSilence();
+    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
+    UnitConverterProfile units;
+    DbConverterProfile ratios;
+    VswrConverterProfile reflections;
+    EditScript script({&MainProfile::instance(), &units, &ratios, &reflections});
+    const QStringList lines = linesOf(data, size);
+    for (const QString &line : lines)
+        script.run(line);
+    return 0;
+}

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+// The input as a calculation file: it is opened, saved, and what was saved is opened again.
+
+#include "changewatch.h"
+#include "everyprofile.h"
+#include "mainprofile.h"
+#include "require.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace {
+
+/// A name that no file had before: a store that is opened again might be one that Qt remembers.
+QString newFileName()
+{
+    static const QTemporaryDir folder;
+    static int count = 0;
+    return folder.filePath(QStringLiteral("%1.dezimo").arg(++count));
+}
+
+QString written(const std::uint8_t *data, std::size_t size)
+{
+    QFile file(newFileName());
+    require(file.open(QIODevice::WriteOnly), "a file can be written", file.fileName());
+    file.write(reinterpret_cast<const char *>(data), qint64(size));
+    return file.fileName();
+}
+
+void load(MainProfile &profile, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    profile.loadSettings(file);
+}
+
+void save(MainProfile &profile, const QString &fileName)
+{
+    QSettings file(fileName, QSettings::IniFormat);
+    profile.saveSettings(file);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    requireSilence();
+    MainProfile opened;
+    std::vector<std::unique_ptr<ChangeWatch>> watches;
+    for (const Profile *profile : everyProfile(opened))
+        watches.push_back(std::make_unique<ChangeWatch>(*profile));
+
+    const QString original = written(data, size);
+    load(opened, original);
+    for (const auto &watch : watches)
+        watch->requireAllAnnounced();
+
+    const QString copy = newFileName();
+    save(opened, copy);
+    MainProfile reopened;
+    load(reopened, copy);
+    require(differences(opened, reopened).isEmpty(), "what was opened can be saved and reopened",
+            differences(opened, reopened).join(QLatin1Char(' ')));
+    QFile::remove(original);
+    QFile::remove(copy);
+    return 0;
+}

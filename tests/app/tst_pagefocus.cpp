@@ -27,6 +27,7 @@ private Q_SLOTS:
     void afterAClickOnItsRow();
     void afterAClickOnTheRowThatIsCurrent_data() { pages(); }
     void afterAClickOnTheRowThatIsCurrent();
+    void theListKeepsTheArrowKeys();
 
 private:
     static void pages();
@@ -112,6 +113,18 @@ void PageFocusTest::afterAClickOnTheRowThatIsCurrent()
     QCOMPARE(focused(), QStringLiteral("changeWindowModeButton"));
     click(row);
     QTEST(focused(), "field");
+}
+
+void PageFocusTest::theListKeepsTheArrowKeys()
+{
+    openWindow(0);
+    auto *list = m_window->findChild<QListWidget *>(QStringLiteral("menuItemsWidget"));
+    list->setFocus(Qt::TabFocusReason);
+    for (int row = 1; row <= 2; ++row) {
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(list->currentRow(), row);
+        QCOMPARE(focused(), QStringLiteral("menuItemsWidget"));
+    }
 }
 
 int main(int argc, char **argv)

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void restoresTheLimitsOfTheContent();
     void aClickOnTheHeaderToggles_data();
     void aClickOnTheHeaderToggles();
+    void aSecondClickUnfolds();
     void foldedContentTakesNoFocus();
     void unfoldsWhatWasFoldedBeforeItWasShown();
 
@@ -291,6 +292,14 @@ void KelPanelSubWidgetTest::aClickOnTheHeaderToggles()
     QTest::mousePress(widget, Qt::MouseButton(button), Qt::NoModifier, QPoint(2, 2));
     QTest::mouseRelease(widget, Qt::MouseButton(button), Qt::NoModifier, release);
     QCOMPARE(m_section->isExpanded(), !toggles);
+}
+
+void KelPanelSubWidgetTest::aSecondClickUnfolds()
+{
+    collapseWholly();
+    QTest::mouseClick(child<QPushButton>("titleButton"), Qt::LeftButton);
+    QVERIFY(m_section->isExpanded());
+    QTRY_COMPARE(m_content->height(), kContentHeight);
 }
 
 void KelPanelSubWidgetTest::foldedContentTakesNoFocus()

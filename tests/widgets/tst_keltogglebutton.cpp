@@ -265,6 +265,12 @@ void KelToggleButtonTest::screenReadersChooseAnItem()
     QCOMPARE(indexes.count(), 1);
     QVERIFY(last->state().checked);
 
+    // What every widget can do, it still can.
+    m_switch->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_switch.get()));
+    last->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(buttons().at(2)->hasFocus());
+
     buttons().at(2)->setEnabled(false);
     QVERIFY(!last->actionInterface()->actionNames().contains(
         QAccessibleActionInterface::toggleAction()));

@@ -10,10 +10,15 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QEvent>
+#include <QFontMetrics>
 #include <QPushButton>
 #include <QStandardItemModel>
 
 namespace {
+
+/// Pixels beside the text of the unit selector: its frame, its padding and its arrow.
+constexpr int kUnitFrame = 44;
 
 /// The keys with a slot of their own. Every other one types its text.
 bool isFunctionKey(const QPushButton *key)
@@ -39,6 +44,13 @@ void KeypadCalculatorWidget::hideEvent(QHideEvent *event)
 {
     m_slide.finish();
     QWidget::hideEvent(event);
+}
+
+bool KeypadCalculatorWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_output && event->type() == QEvent::Resize)
+        fitUnitSelector();
+    return QWidget::eventFilter(watched, event);
 }
 
 void KeypadCalculatorWidget::recalculate()
@@ -158,6 +170,7 @@ void KeypadCalculatorWidget::setUpOutput()
     m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
+    m_output->installEventFilter(this);
 }
 
 /// Typing goes on in the input line, whatever had the focus when a key was clicked.
@@ -214,6 +227,19 @@ QString KeypadCalculatorWidget::resultWithUnit() const
 void KeypadCalculatorWidget::showUnitSelector()
 {
     m_outputUnit->setVisible(hasResult() && hasUnit());
+}
+
+/// The arrow stays beside the unit, however low the row is. The width goes by the largest size of a
+/// result in this row, not by the size of the present one: that one depends on what room it has.
+void KeypadCalculatorWidget::fitUnitSelector()
+{
+    QFont largest = m_outputUnit->font();
+    largest.setPixelSize(qMax(m_output->largestFontSize(), 1));
+    const QFontMetrics metrics(largest);
+    int widest = 0;
+    for (int i = 0; i < m_outputUnit->count(); ++i)
+        widest = qMax(widest, metrics.horizontalAdvance(m_outputUnit->itemText(i)));
+    m_outputUnit->setFixedWidth(widest + kUnitFrame);
 }
 
 /// What the person has typed during the slide has its result already, which stays.

@@ -46,6 +46,7 @@ protected:
     }
 
     void hideEvent(QHideEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// For a choice of the person that an existing result depends on.
     void recalculate();
@@ -80,6 +81,7 @@ private:
     bool hasUnit() const;
     QString resultWithUnit() const;
     void showUnitSelector();
+    void fitUnitSelector();
     void endTakeOver();
 
     ExpressionProfile &m_profile;

@@ -19,6 +19,11 @@ KelAutoResizeLineEdit::KelAutoResizeLineEdit(QWidget *parent) : KelLineEdit(pare
     connect(this, &QLineEdit::textChanged, this, &KelAutoResizeLineEdit::adjustTextSizeAuto);
 }
 
+int KelAutoResizeLineEdit::largestFontSize() const
+{
+    return height() - kFrame - 1;
+}
+
 void KelAutoResizeLineEdit::adjustTextSizeAuto()
 {
     const int size = fittingFontSize();

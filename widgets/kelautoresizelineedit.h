@@ -20,6 +20,9 @@ class KelAutoResizeLineEdit final : public KelLineEdit
 public:
     explicit KelAutoResizeLineEdit(QWidget *parent = nullptr);
 
+    /// The size in pixels at which a text is shown that fits easily. Only the height decides on it.
+    int largestFontSize() const;
+
 public Q_SLOTS:
     void adjustTextSizeAuto();
 

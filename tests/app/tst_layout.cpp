@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "errortexts.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
@@ -14,6 +15,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTabBar>
@@ -36,6 +38,10 @@ private Q_SLOTS:
     void seesWhatIsWrong();
     void everyPageIsRight_data();
     void everyPageIsRight();
+    void errorWordsFitTheSmallestFields_data();
+    void errorWordsFitTheSmallestFields();
+    void theArrowStandsBesideTheUnit_data();
+    void theArrowStandsBesideTheUnit();
 
 private:
     void check(const MainWindow &window);
@@ -88,14 +94,29 @@ void checkTabs(const QTabBar &tabs)
     }
 }
 
-void checkItems(const QComboBox &box)
+int roomForText(const QComboBox &box)
 {
     QStyleOptionComboBox option;
     option.initFrom(&box);
-    const QRect field = box.style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                    QStyle::SC_ComboBoxEditField, &box);
+    return box.style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+        .width();
+}
+
+/// Qt keeps two pixels on either side of a line edit's text.
+int roomForText(const QLineEdit &edit)
+{
+    QStyleOptionFrame option;
+    option.initFrom(&edit);
+    const QRect contents =
+        edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit);
+    return contents.width() - edit.textMargins().left() - edit.textMargins().right() - 2 * 2;
+}
+
+void checkItems(const QComboBox &box)
+{
     for (int i = 0; i < box.count(); ++i) {
-        if (box.fontMetrics().horizontalAdvance(box.itemText(i)) > field.width())
+        if (box.fontMetrics().horizontalAdvance(box.itemText(i)) > roomForText(box))
             complaints() += nameOf(box) + QStringLiteral(" clips ") + box.itemText(i);
     }
 }
@@ -225,6 +246,85 @@ void LayoutTest::everyPageIsRight()
                                .arg(folder, QString::fromLatin1(QTest::currentDataTag()))
                                .arg(window.devicePixelRatioF()));
     QCOMPARE(complaints().join(QLatin1Char('\n')), QString());
+}
+
+void LayoutTest::errorWordsFitTheSmallestFields_data()
+{
+    QTest::addColumn<int>("module");
+    QTest::addColumn<int>("tab");
+
+    QTest::newRow("unit converter") << 2 << 0;
+    QTest::newRow("dB converter, powers") << 3 << 0;
+    QTest::newRow("dB converter, voltages") << 3 << 1;
+    QTest::newRow("VSWR converter, powers") << 4 << 0;
+    QTest::newRow("VSWR converter, voltages") << 4 << 1;
+}
+
+void LayoutTest::errorWordsFitTheSmallestFields()
+{
+    QFETCH(int, module);
+    QFETCH(int, tab);
+
+    MainWindow window;
+    window.resize(1, 1);
+    window.show();
+    MainProfile &profile = MainProfile::instance();
+    profile.dbConverter().setCurrentMode(tab);
+    profile.vswrConverter().setCurrentMode(tab);
+    profile.setCurrentModule(module);
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    int fields = 0;
+    const QList<QLineEdit *> edits = window.findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits) {
+        if (!edit->isVisible())
+            continue;
+        ++fields;
+        edit->setText(ErrorText::invalidInput());
+        if (edit->fontMetrics().horizontalAdvance(edit->text()) > roomForText(*edit))
+            complaints() += nameOf(*edit) + QStringLiteral(" clips ") + edit->text();
+    }
+    QVERIFY(fields >= 4);
+    QCOMPARE(complaints().join(QLatin1Char('\n')), QString());
+}
+
+void LayoutTest::theArrowStandsBesideTheUnit_data()
+{
+    QTest::addColumn<int>("module");
+    QTest::addColumn<QSize>("size");
+
+    for (int module = 0; module < 2; ++module) {
+        const char *name = module == 0 ? "dBm calculator" : "voltage calculator";
+        QTest::addRow("%s, smallest size", name) << module << QSize(1, 1);
+        QTest::addRow("%s, first size", name) << module << QSize(958, 605);
+        QTest::addRow("%s, 2560 x 1440", name) << module << QSize(2560, 1440);
+    }
+}
+
+/// The selector is as wide as its widest unit needs, and hardly wider.
+void LayoutTest::theArrowStandsBesideTheUnit()
+{
+    QFETCH(int, module);
+    QFETCH(QSize, size);
+
+    MainWindow window;
+    window.resize(size);
+    window.show();
+    MainProfile &profile = MainProfile::instance();
+    profile.dbmCalculator().setOutput(QStringLiteral("5.00"));
+    profile.voltageCalculator().setOutput(QStringLiteral("5"));
+    profile.setCurrentModule(module);
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const QWidget *page =
+        window.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentWidget();
+    const auto *units = page->findChild<QComboBox *>(QStringLiteral("outputUnitComboBox"));
+    QVERIFY(units->isVisible());
+    int widest = 0;
+    for (int i = 0; i < units->count(); ++i)
+        widest = qMax(widest, units->fontMetrics().horizontalAdvance(units->itemText(i)));
+    const int spare = roomForText(*units) - widest;
+    QVERIFY2(spare >= 0 && spare <= 8, QByteArray::number(spare).constData());
 }
 
 void LayoutTest::check(const MainWindow &window)

@@ -5,11 +5,16 @@
 
 #include "animations.h"
 #include "calculationfiles.h"
+#include "dbconverterwidget.h"
+#include "dbmcalculatorwidget.h"
 #include "identity.h"
 #include "kelaboutwindow.h"
 #include "mainprofile.h"
 #include "stylesheets.h"
 #include "ui_mainwindow.h"
+#include "unitconverterwidget.h"
+#include "voltagecalculatorwidget.h"
+#include "vswrconverterwidget.h"
 #include "windowplacement.h"
 
 #include <QLineEdit>
@@ -42,6 +47,14 @@ QVector<QRect> screenRects()
     return rects;
 }
 
+template <typename View>
+void addView(QWidget *page, const char *name)
+{
+    auto *view = new View(page);
+    view->setObjectName(QLatin1String(name));
+    page->layout()->addWidget(view);
+}
+
 } // namespace
 
 /// Where the parts of the window that depend on the list mode end up.
@@ -57,7 +70,9 @@ MainWindow::MainWindow(QWidget *parent)
       m_ui(std::make_unique<Ui::MainWindow>()),
       m_profile(MainProfile::instance())
 {
+    applyStyleSheet(Bright);
     m_ui->setupUi(this);
+    addViews();
     m_ui->menuPlaceholder->hide();
     m_ui->headerWidget->hide();
     onThemeChanged(Bright);
@@ -163,10 +178,7 @@ void MainWindow::on_menuItemsWidget_currentRowChanged(int currentRow)
 
 void MainWindow::onThemeChanged(ApplicationTheme theme)
 {
-    const auto style = StyleSheets::read(theme == Dark ? QStringLiteral(":/main_dark.qss")
-                                                       : QStringLiteral(":/main_light.qss"));
-    if (style)
-        setStyleSheet(*style);
+    applyStyleSheet(theme);
     updateModeButton(theme);
     for (int row = 0; row < int(kModuleIcons.size()); ++row) {
         const QString icon = QString::fromLatin1(kModuleIcons.at(size_t(row)));
@@ -182,6 +194,26 @@ void MainWindow::on_actionAbout_triggered()
         tr("application for calculating with logarithmic and linear power and voltage values"),
         Identity::version(), QStringLiteral("2022"), QStringLiteral("7TK31"), this);
     about->show();
+}
+
+/// The form has the pages. Their views are made once those are in place: every move of a widget to
+/// another parent styles it and all that it holds anew.
+void MainWindow::addViews()
+{
+    addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");
+    addView<VoltageCalculatorWidget>(m_ui->page_2, "voltageCalculatorWidget");
+    addView<UnitConverterWidget>(m_ui->page_3, "unitConverterWidget");
+    addView<DbConverterWidget>(m_ui->page_4, "dbConverterWidget");
+    addView<VswrConverterWidget>(m_ui->page_5, "vswrConverterWidget");
+}
+
+/// A sheet that is set again would style every widget of the window once more, to the same looks.
+void MainWindow::applyStyleSheet(ApplicationTheme theme)
+{
+    const auto style = StyleSheets::read(theme == Dark ? QStringLiteral(":/main_dark.qss")
+                                                       : QStringLiteral(":/main_light.qss"));
+    if (style && *style != styleSheet())
+        setStyleSheet(*style);
 }
 
 MainWindow::Target MainWindow::windowModeTarget() const

@@ -47,6 +47,8 @@ private Q_SLOTS:
 private:
     struct Target;
 
+    void addViews();
+    void applyStyleSheet(ApplicationTheme theme);
     Target windowModeTarget() const;
     void applyWindowMode();
     void restoreGeometryFromProfile();

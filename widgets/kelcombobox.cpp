@@ -12,7 +12,7 @@ KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
     auto *style = new KelComboBoxStyle;
     style->setParent(this);
     setStyle(style);
-    setView(new QListView(this));
+    setView(new QListView);
 }
 
 void KelComboBox::showPopup()

@@ -3,11 +3,14 @@
 
 #include "accessiblewidgets.h"
 
+#include "accessiblecombobox.h"
+#include "accessiblelineedit.h"
 #include "kellineedit.h"
 #include "keltogglebutton.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -77,6 +80,10 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
     if (className == QLatin1String("KelToggleButton"))
         return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Grouping);
+    if (className == QLatin1String("KelLineEdit"))
+        return new AccessibleLineEdit(static_cast<QLineEdit *>(object));
+    if (className == QLatin1String("KelComboBox"))
+        return new AccessibleComboBox(static_cast<QComboBox *>(object));
     if (className == QLatin1String("KelIconWidget"))
         return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Graphic);
     if (className == QLatin1String("QPushButton") &&

@@ -3,8 +3,12 @@
 
 #include "kelcombobox.h"
 
+#include "accessiblewidgets.h"
 #include "kelcomboboxstyle.h"
 
+#include <QCoreApplication>
+#include <QCursor>
+#include <QEvent>
 #include <QListView>
 
 KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
@@ -13,10 +17,14 @@ KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
     style->setParent(this);
     setStyle(style);
     setView(new QListView);
+    installAccessibleWidgets();
+    connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &KelComboBox::selectCurrentItem);
 }
 
 void KelComboBox::showPopup()
 {
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     QSizePolicy policy = view()->sizePolicy();
     policy.setHorizontalPolicy(QSizePolicy::MinimumExpanding);
@@ -24,4 +32,28 @@ void KelComboBox::showPopup()
     view()->setMinimumWidth(width());
     // The view sits in a frame, which is the popup's window.
     view()->parentWidget()->move(mapToGlobal(QPoint(0, height())));
+}
+
+/// A choice by key is read from the list only after it is hidden.
+void KelComboBox::hidePopup()
+{
+    QComboBox::hidePopup();
+    QMetaObject::invokeMethod(this, &KelComboBox::endPopup, Qt::QueuedConnection);
+}
+
+/// A list that was left without a choice has selected what the pointer or the keys were last on.
+/// And while it was open, the box was not told that the pointer has left.
+void KelComboBox::endPopup()
+{
+    selectCurrentItem();
+    if (!underMouse() || rect().contains(mapFromGlobal(QCursor::pos())))
+        return;
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(this, &leave);
+    update();
+}
+
+void KelComboBox::selectCurrentItem()
+{
+    view()->setCurrentIndex(model()->index(currentIndex(), modelColumn(), rootModelIndex()));
 }

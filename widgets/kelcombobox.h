@@ -8,7 +8,8 @@
 
 /**
  * A combo box whose list opens directly below the box and is at least as wide, on every platform.
- * The list is a plain list view, so that style sheets reach its items.
+ * The list is a plain list view, so that style sheets reach its items. Whether it is open or not,
+ * the item selected in it is the chosen one, which assistive technology reads there.
  */
 class KelComboBox final : public QComboBox
 {
@@ -18,6 +19,11 @@ public:
     explicit KelComboBox(QWidget *parent = nullptr);
 
     void showPopup() override;
+    void hidePopup() override;
+
+private:
+    void endPopup();
+    void selectCurrentItem();
 };
 
 #endif

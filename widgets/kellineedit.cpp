@@ -108,7 +108,7 @@ void KelLineEdit::updateDescription()
         return;
     QStringList texts{m_prefixLabel->text(), m_suffixLabel->text()};
     texts.removeAll(QString());
-    m_labelDescription = texts.join(QLatin1Char(' '));
+    m_labelDescription = texts.join(QLatin1Char(' ')).trimmed();
     setAccessibleDescription(m_labelDescription);
 }
 

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void opensBelowTheBox_data();
     void opensBelowTheBox();
     void choosesByKeyboard();
+    void itsListSelectsTheChosenItem();
+    void aListThatIsLeftSelectsTheChosenItemAgain();
+    void isNotUnderAPointerThatLeftWhileTheListWasOpen();
 };
 
 namespace {
@@ -151,6 +154,50 @@ void KelComboBoxTest::choosesByKeyboard()
     QTest::keyClick(box.view(), Qt::Key_Return);
     QCOMPARE(box.currentText(), QStringLiteral("mW"));
     QTRY_VERIFY(!box.view()->isVisible());
+}
+
+void KelComboBoxTest::itsListSelectsTheChosenItem()
+{
+    KelComboBox box;
+    box.addItems(units());
+    box.setCurrentIndex(2);
+    QCOMPARE(box.view()->currentIndex().data().toString(), QStringLiteral("W"));
+    QVERIFY(box.view()->selectionModel()->isSelected(box.model()->index(2, 0)));
+    QVERIFY(!box.view()->selectionModel()->isSelected(box.model()->index(0, 0)));
+}
+
+void KelComboBoxTest::aListThatIsLeftSelectsTheChosenItemAgain()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    KelComboBox box;
+    box.addItems(units());
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+    QTest::keyClick(box.view(), Qt::Key_Down);
+    QCOMPARE(box.view()->currentIndex().row(), 1);
+    QTest::keyClick(box.view(), Qt::Key_Escape);
+    QTRY_COMPARE(box.view()->currentIndex().row(), 0);
+    QCOMPARE(box.currentIndex(), 0);
+}
+
+void KelComboBoxTest::isNotUnderAPointerThatLeftWhileTheListWasOpen()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    KelComboBox box;
+    box.addItems(units());
+    box.setGeometry(100, 50, 200, 28);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    box.setAttribute(Qt::WA_UnderMouse);
+
+    QCursor::setPos(500, 400);
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    QTRY_VERIFY(!box.underMouse());
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelComboBoxTest)

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef WIDGETS_ACCESSIBLECOMBOBOX_H
+#define WIDGETS_ACCESSIBLECOMBOBOX_H
+
+#include <QAccessibleWidget>
+
+class QComboBox;
+
+/**
+ * What assistive technology meets in a combo box of the toolkit. Qt's own interface gives the
+ * chosen item as the name on Unix, whatever the box is for. Here the name is the box's and the item
+ * is its value, which is also readable as text, since AT-SPI knows no other way to tell it. The
+ * actions Increase and Decrease choose the next and the previous item as the arrow keys do, leaving
+ * out the items that cannot be chosen.
+ */
+class AccessibleComboBox final : public QAccessibleWidget, public QAccessibleTextInterface
+{
+public:
+    explicit AccessibleComboBox(QComboBox *box);
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+    int childCount() const override;
+    QAccessibleInterface *child(int index) const override;
+    int indexOfChild(const QAccessibleInterface *child) const override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString &name) override;
+
+    void selection(int index, int *start, int *end) const override;
+    int selectionCount() const override;
+    void addSelection(int start, int end) override;
+    void removeSelection(int index) override;
+    void setSelection(int index, int start, int end) override;
+    int cursorPosition() const override;
+    void setCursorPosition(int position) override;
+    QString text(int start, int end) const override;
+    int characterCount() const override;
+    QRect characterRect(int offset) const override;
+    int offsetAtPoint(const QPoint &point) const override;
+    void scrollToSubstring(int start, int end) override;
+    QString attributes(int offset, int *start, int *end) const override;
+
+private:
+    void pressKey(Qt::Key key);
+
+    QComboBox *const m_box;
+};
+
+#endif

@@ -7,4 +7,12 @@ KelListWidget::KelListWidget(QWidget *parent) : QListWidget(parent)
 {
     setAttribute(Qt::WA_MacShowFocusRect, false);
     setFocusPolicy(Qt::TabFocus);
+    connect(this, &QListWidget::itemSelectionChanged, this, &KelListWidget::followSelection);
+}
+
+void KelListWidget::followSelection()
+{
+    const QList<QListWidgetItem *> selected = selectedItems();
+    if (selected.size() == 1)
+        setCurrentItem(selected.first());
 }

@@ -10,6 +10,9 @@
  * A list that is reached by Tab only: a click on an item chooses it and leaves the keyboard focus
  * where it is, so that typing goes on in the page that the item opens. It shows no focus rectangle
  * of the platform.
+ *
+ * An item that is selected without being made current becomes current: assistive technology does
+ * no more than select.
  */
 class KelListWidget final : public QListWidget
 {
@@ -17,6 +20,9 @@ class KelListWidget final : public QListWidget
 
 public:
     explicit KelListWidget(QWidget *parent = nullptr);
+
+private:
+    void followSelection();
 };
 
 #endif

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void takesTheFocusByTabOnly();
     void tabReachesIt();
     void showsNoFocusRectangleOfThePlatform();
+    void anItemThatIsSelectedBecomesCurrent();
 
 private:
     std::unique_ptr<QWidget> m_window;
@@ -67,6 +68,17 @@ void KelListWidgetTest::tabReachesIt()
 void KelListWidgetTest::showsNoFocusRectangleOfThePlatform()
 {
     QVERIFY(!m_list->testAttribute(Qt::WA_MacShowFocusRect));
+}
+
+/// This is all that a screen reader does.
+void KelListWidgetTest::anItemThatIsSelectedBecomesCurrent()
+{
+    m_list->setCurrentRow(0);
+    m_list->clearSelection();
+    QCOMPARE(m_list->currentRow(), 0);
+    m_list->selectionModel()->select(m_list->model()->index(1, 0), QItemSelectionModel::Select);
+    QCOMPARE(m_list->currentRow(), 1);
+    QVERIFY(m_list->item(1)->isSelected());
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelListWidgetTest)

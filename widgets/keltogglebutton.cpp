@@ -32,6 +32,8 @@ KelToggleButton::KelToggleButton(QWidget *parent)
     m_layout->setSpacing(kSpacing);
     m_group->setExclusive(true);
     setMinimumHeight(kHeight);
+    connect(m_group, QOverload<QAbstractButton *, bool>::of(&QButtonGroup::buttonToggled), this,
+            &KelToggleButton::updateTabStop);
     connectGroup();
 }
 
@@ -66,6 +68,7 @@ void KelToggleButton::addItems(const QStringList &texts)
         m_layout->addWidget(button);
         m_group->addButton(button, m_nextId++);
     }
+    updateTabStop();
     updateGeometry();
 }
 
@@ -93,6 +96,16 @@ void KelToggleButton::paintEvent(QPaintEvent *)
     option.initFrom(this);
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
+
+/// Tab stops once at a switch, at the checked button, from whichever side it comes; without one
+/// every button is a stop. The arrow keys go from button to button.
+void KelToggleButton::updateTabStop()
+{
+    const QAbstractButton *checked = m_group->checkedButton();
+    const QList<QAbstractButton *> buttons = m_group->buttons();
+    for (QAbstractButton *button : buttons)
+        button->setFocusPolicy(button == checked || !checked ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void KelToggleButton::connectGroup()

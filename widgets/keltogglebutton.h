@@ -40,6 +40,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void updateTabStop();
     void connectGroup();
 
     QHBoxLayout *const m_layout;

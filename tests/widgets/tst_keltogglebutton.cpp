@@ -33,6 +33,7 @@ private Q_SLOTS:
     void clearRemovesEveryButton();
     void canBeClearedByItsOwnClick();
     void arrowKeysMoveTheChoice();
+    void tabStopsAtTheCheckedButtonOnly();
     void drawsTheBackgroundOfAStyleSheet();
     void isARadioGroupForScreenReaders();
     void screenReadersChooseAnItem();
@@ -220,6 +221,24 @@ void KelToggleButtonTest::arrowKeysMoveTheChoice()
     QVERIFY(buttons().at(1)->hasFocus());
     QCOMPARE(m_switch->currentIndex(), 1);
     QCOMPARE(indexes.count(), 1);
+}
+
+/// Also before the switch had the keyboard for the first time, and after a choice by the program.
+void KelToggleButtonTest::tabStopsAtTheCheckedButtonOnly()
+{
+    const auto stops = [this] {
+        QList<bool> found;
+        const QList<QPushButton *> all = buttons();
+        for (const QPushButton *button : all)
+            found += (button->focusPolicy() & Qt::TabFocus) != 0;
+        return found;
+    };
+    addModes();
+    QCOMPARE(stops(), QList<bool>({true, true, true}));
+    m_switch->setCurrentIndex(1);
+    QCOMPARE(stops(), QList<bool>({false, true, false}));
+    m_switch->setCurrentIndex(2);
+    QCOMPARE(stops(), QList<bool>({false, false, true}));
 }
 
 void KelToggleButtonTest::drawsTheBackgroundOfAStyleSheet()

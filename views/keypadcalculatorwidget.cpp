@@ -224,9 +224,13 @@ QString KeypadCalculatorWidget::resultWithUnit() const
     return m_profile.output() + QLatin1Char(' ') + m_profile.unitText(m_profile.outputUnit());
 }
 
+/// A screen reader tells the unit together with the result.
 void KeypadCalculatorWidget::showUnitSelector()
 {
-    m_outputUnit->setVisible(hasResult() && hasUnit());
+    const bool isShown = hasResult() && hasUnit();
+    m_outputUnit->setVisible(isShown);
+    m_output->setAccessibleDescription(isShown ? m_profile.unitText(m_profile.outputUnit())
+                                               : QString());
 }
 
 /// The arrow stays beside the unit, however low the row is. The width goes by the largest size of a

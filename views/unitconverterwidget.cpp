@@ -7,6 +7,7 @@
 #include "mainprofile.h"
 #include "mirroredtext.h"
 #include "ui_unitconverterwidget.h"
+#include "unitdescription.h"
 
 #include <QEvent>
 #include <QPushButton>
@@ -21,6 +22,10 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
     for (KelLineEdit *field : fields)
         field->setErrorTexts(ErrorText::all());
+    describeByUnit(m_ui->dbmLineEdit, m_ui->dbmUnitComboBox);
+    describeByUnit(m_ui->wattLineEdit, m_ui->wattUnitComboBox);
+    describeByUnit(m_ui->voltLineEdit, m_ui->voltUnitComboBox);
+    describeByUnit(m_ui->dbvLineEdit, m_ui->dbvUnitComboBox);
     addVoltageModes();
     showModel();
 }

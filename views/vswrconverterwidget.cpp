@@ -7,6 +7,7 @@
 #include "mainprofile.h"
 #include "mirroredtext.h"
 #include "ui_vswrconverterwidget.h"
+#include "unitdescription.h"
 
 #include <QEvent>
 
@@ -44,6 +45,12 @@ void VswrConverterWidget::setUpFields()
     const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
     for (KelLineEdit *field : fields)
         field->setErrorTexts(ErrorText::all());
+    describeByUnit(m_ui->forwardPowerLineEdit, m_ui->forwardPowerUnitComboBox);
+    describeByUnit(m_ui->reflectedPowerLineEdit, m_ui->reflectedPowerUnitComboBox);
+    describeByUnit(m_ui->absorbedPowerLineEdit, m_ui->absorbedPowerUnitComboBox);
+    describeByUnit(m_ui->forwardVoltageLineEdit, m_ui->forwardVoltageUnitComboBox);
+    describeByUnit(m_ui->reflectedVoltageLineEdit, m_ui->reflectedVoltageUnitComboBox);
+    describeByUnit(m_ui->absorbedVoltageLineEdit, m_ui->absorbedVoltageUnitComboBox);
 }
 
 /// Leaving a field, or Enter in it, calculates from its row.

@@ -7,6 +7,7 @@
 #include "stylesheets.h"
 
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLocale>
 
 namespace {
@@ -33,6 +34,14 @@ void addApplicationFonts()
     }
 }
 
+/// AltGr is not Alt; where it arrives as Ctrl and Alt together, it types as well.
+bool isLetterWithAlt(const QKeyEvent &key)
+{
+    return key.modifiers().testFlag(Qt::AltModifier) &&
+           !key.modifiers().testFlag(Qt::ControlModifier) && !key.text().isEmpty() &&
+           key.text().at(0).isPrint();
+}
+
 } // namespace
 
 KelApplication::KelApplication(int &argc, char **argv, bool flag)
@@ -45,9 +54,19 @@ KelApplication::KelApplication(int &argc, char **argv, bool flag)
     addApplicationFonts();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::AnyCountry));
     installStyleSheet(Bright);
+    installEventFilter(this);
 }
 
 void KelApplication::installStyleSheet(ApplicationTheme theme)
 {
     setStyleSheet(StyleSheets::combined(QStringLiteral(":/Global/Style/"), theme));
+}
+
+/// Qt's fields type a letter whether Alt is held or not, except on some platforms.
+bool KelApplication::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+        isLetterWithAlt(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QApplication::eventFilter(watched, event);
 }

@@ -13,6 +13,8 @@
  * made: the fonts of the program, English as the default locale (numbers are written with a point
  * whatever the system's locale), and the style sheets of the bright theme. A font or style sheet
  * that cannot be loaded is skipped.
+ *
+ * A letter that is pressed together with Alt is a command and never typed.
  */
 class KelApplication final : public QApplication
 {
@@ -23,6 +25,8 @@ public:
 
     /// Builds the application-wide style sheet of @p theme and installs it.
     void installStyleSheet(ApplicationTheme theme);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     /// Kept as given; nothing depends on them.

@@ -22,6 +22,7 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 
 #include <algorithm>
 #include <array>
@@ -88,7 +89,7 @@ MainWindow::MainWindow(QWidget *parent)
     applyWindowMode();
     restoreGeometryFromProfile();
     connect(&m_profile, &MainProfile::windowModeChanged, this, &MainWindow::onWindowModeChanged);
-    connect(m_ui->menuItemsWidget, &QListWidget::itemClicked, this, &MainWindow::focusPage);
+    connectKeyboard();
     onCurrentModuleChanged();
 }
 
@@ -245,12 +246,27 @@ void MainWindow::restoreGeometryFromProfile()
     move(reachablePosition(m_profile.windowPosition(), size(), screens));
 }
 
+/// Alt reaches the menus by itself; F10 opens them, too, as it does everywhere on a desktop. Return
+/// goes from the list of modules into the page.
+void MainWindow::connectKeyboard()
+{
+    const auto *menuKey = new QShortcut(Qt::Key_F10, this);
+    connect(menuKey, &QShortcut::activated, this,
+            [this] { m_ui->menubar->setActiveAction(m_ui->menuFile->menuAction()); });
+    connect(m_ui->menuItemsWidget, &QListWidget::itemClicked, this, &MainWindow::focusPage);
+    connect(m_ui->menuItemsWidget, &QListWidget::itemActivated, this, &MainWindow::focusFirstField);
+}
+
 /// The person can type at once on a page that was just chosen. A list that has the keyboard keeps
 /// it, so that the arrow keys walk through the modules.
 void MainWindow::focusPage()
 {
-    if (m_ui->menuItemsWidget->hasFocus())
-        return;
+    if (!m_ui->menuItemsWidget->hasFocus())
+        focusFirstField();
+}
+
+void MainWindow::focusFirstField()
+{
     const QWidget *page = m_ui->stackedWidget->currentWidget();
     const QList<QLineEdit *> edits = page->findChildren<QLineEdit *>();
     const auto first = std::find_if(edits.begin(), edits.end(), [page](const QLineEdit *edit) {

@@ -52,7 +52,9 @@ private:
     Target windowModeTarget() const;
     void applyWindowMode();
     void restoreGeometryFromProfile();
+    void connectKeyboard();
     void focusPage();
+    void focusFirstField();
     void updateWindowTitle();
     void updateModeButton(ApplicationTheme theme);
 

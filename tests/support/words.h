@@ -12,4 +12,16 @@ inline QStringList words(const char *line)
     return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+/// The lines of @p text without their indentation, as a raw literal holds them.
+inline QStringList lines(const char *text)
+{
+    QStringList result;
+    const QStringList all = QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : all) {
+        if (!line.trimmed().isEmpty())
+            result += line.trimmed();
+    }
+    return result;
+}
+
 #endif

@@ -22,6 +22,11 @@ KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
             &KelComboBox::selectCurrentItem);
 }
 
+KelComboBox::~KelComboBox()
+{
+    view()->clearFocus();
+}
+
 void KelComboBox::showPopup()
 {
     view()->setAccessibleName(accessibleName());

@@ -17,6 +17,8 @@ class KelComboBox final : public QComboBox
 
 public:
     explicit KelComboBox(QWidget *parent = nullptr);
+    /// The list gives up the focus first: what it says of losing it must find the whole box.
+    ~KelComboBox() override;
 
     void showPopup() override;
     void hidePopup() override;

@@ -10,6 +10,8 @@
 #include <QListView>
 #include <QTest>
 
+#include <memory>
+
 class KelComboBoxTest : public QObject
 {
     Q_OBJECT
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void itsListSelectsTheChosenItem();
     void aListThatIsLeftSelectsTheChosenItemAgain();
     void isNotUnderAPointerThatLeftWhileTheListWasOpen();
+    void goesWhileTheListIsOpen();
 };
 
 namespace {
@@ -198,6 +201,22 @@ void KelComboBoxTest::isNotUnderAPointerThatLeftWhileTheListWasOpen()
     QTRY_VERIFY(box.view()->isVisible());
     QTest::keyClick(box.view(), Qt::Key_Return);
     QTRY_VERIFY(!box.underMouse());
+}
+
+/// As when the session ends while a unit is being chosen.
+void KelComboBoxTest::goesWhileTheListIsOpen()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    qApp->setStyleSheet(QStringLiteral("QComboBox QAbstractItemView { padding: 2px }"));
+    auto window = std::make_unique<QWidget>();
+    auto *box = new KelComboBox(window.get());
+    box->addItems({QStringLiteral("W"), QStringLiteral("mW")});
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    box->showPopup();
+    QTRY_COMPARE(QApplication::focusWidget(), box->view());
+    window.reset();
+    QCOMPARE(QApplication::focusWidget(), nullptr);
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelComboBoxTest)

@@ -4,6 +4,7 @@
 #include "calculationfiles.h"
 
 #include "mainprofile.h"
+#include "soundstore.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -57,12 +58,13 @@ QString CalculationFiles::askForFileToSave(QWidget *parent)
 
 void CalculationFiles::open(MainProfile &profile, const QString &fileName)
 {
-    QSettings file(fileName, QSettings::IniFormat);
-    profile.loadModuleSettings(file);
+    SoundStore::readFile(fileName, [&](QSettings &file) { profile.loadModuleSettings(file); });
 }
 
 void CalculationFiles::save(MainProfile &profile, const QString &fileName)
 {
+    if (!SoundStore::makeWritable(fileName))
+        return;
     QSettings file(fileName, QSettings::IniFormat);
     profile.saveSettings(file);
 }
@@ -79,5 +81,5 @@ void CalculationFiles::loadDefaults(MainProfile &profile)
 {
     // A store of an organization that does not exist holds nothing, so every key takes its default.
     QSettings nothing(QStringLiteral("none"), QString());
-    profile.loadModuleSettings(nothing);
+    SoundStore::read(nothing, [&](QSettings &store) { profile.loadModuleSettings(store); });
 }

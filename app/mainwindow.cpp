@@ -10,6 +10,7 @@
 #include "identity.h"
 #include "kelaboutwindow.h"
 #include "mainprofile.h"
+#include "soundstore.h"
 #include "stylesheets.h"
 #include "ui_mainwindow.h"
 #include "unitconverterwidget.h"
@@ -83,7 +84,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_ui->menuDecimal_Places, &QMenu::aboutToShow, this,
             &MainWindow::onDecimalPlacesMenuAboutToShow);
     QSettings settings;
-    m_profile.loadSettings(settings);
+    SoundStore::read(settings, [this](QSettings &store) { m_profile.loadSettings(store); });
 
     onThemeChanged(Bright);
     applyWindowMode();
@@ -99,7 +100,8 @@ MainWindow::~MainWindow()
 {
     m_ui.reset();
     QSettings settings;
-    m_profile.saveSettings(settings);
+    if (SoundStore::makeWritable(settings.fileName()))
+        m_profile.saveSettings(settings);
 }
 
 void MainWindow::moveEvent(QMoveEvent *event)

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// The input as a calculation file: it is opened, saved, and what was saved is opened again.
+// The input as a calculation file: what is sound in it is opened, saved, and what was saved is
+// opened again.
 
 #include "changewatch.h"
 #include "everyprofile.h"
+#include "initext.h"
 #include "mainprofile.h"
 #include "require.h"
 
@@ -30,7 +32,7 @@ QString written(const std::uint8_t *data, std::size_t size)
 {
     QFile file(newFileName());
     require(file.open(QIODevice::WriteOnly), "a file can be written", file.fileName());
-    file.write(reinterpret_cast<const char *>(data), qint64(size));
+    file.write(IniText::sound(QByteArray(reinterpret_cast<const char *>(data), int(size))));
     return file.fileName();
 }
 

@@ -44,7 +44,8 @@ QString CalculationFiles::askForFileToOpen(QWidget *parent)
 
 QString CalculationFiles::askForFileToSave(QWidget *parent)
 {
-    const QString today = QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"));
+    // A date in a pattern of one's own would have the digits of the system's language.
+    const QString today = QDate::currentDate().toString(Qt::ISODate); // yyyy-MM-dd
     QFileDialog dialog(parent,
                        QCoreApplication::translate("CalculationFiles", "Save dB Calulation ..."),
                        QString(), fileFilter());

@@ -61,6 +61,8 @@ QSpinBox &phaseOf(const CalculatorPage &page)
 
 void VoltageCalculatorWidgetTest::initTestCase()
 {
+    // The program's locale, so that the phase has no digits of the system's language.
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::AnyCountry));
     applyStyleSheet();
 }
 

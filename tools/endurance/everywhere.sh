@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# tools/endurance/everywhere.sh: a session of the program and then the whole test suite, in four
+# locales and on three window systems, none of which has a screen. A session must end with status 0
+# and print nothing. The tests of the package are left out: they fix their own surroundings. The log
+# is build/everywhere.log; a table closes the run.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+
+tools/packages.sh build run test endurance
+cmake --preset asan >/dev/null # warnings and errors still show
+cmake --build --preset asan
+cmake --preset endurance >/dev/null
+cmake --build --preset endurance --target dezimo-session
+export ASAN_OPTIONS=detect_leaks=1
+export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
+export UBSAN_OPTIONS=print_stacktrace=1
+loaded=()
+if setarch --addr-no-randomize true 2>/dev/null; then
+    loaded=(setarch --addr-no-randomize)
+fi
+
+scratch=$(mktemp -d)
+compositor=
+trap '[[ -z $compositor ]] || kill "$compositor"; rm -rf "$scratch"' EXIT
+mkdir -m 0700 "$scratch/runtime"
+log=build/everywhere.log
+: >"$log"
+table=()
+failures=0
+
+# row NAME STATUS DETAIL
+row() {
+    local result=passed
+    [[ $2 -eq 0 ]] || result=FAILED failures=$((failures + 1))
+    table+=("$1" "$result" "$3")
+    printf '%-22s %-7s %s\n' "$1" "$result" "$3"
+}
+
+# Qt's own words about what the offscreen platform lacks.
+own_words() { { grep --invert-match 'This plugin does not support' || true; } <"$1"; }
+
+# session NAME COMMAND...: COMMAND runs what follows it in the right surroundings.
+session() {
+    local name=$1 status=0 said
+    shift
+    "$@" env HOME="$scratch" XDG_RUNTIME_DIR="$scratch/runtime" XDG_CONFIG_HOME="$scratch/config" \
+        build/endurance/bin/dezimo-session quit \
+        >>"$log" 2>"$scratch/said" || status=$?
+    said=$(own_words "$scratch/said")
+    [[ -z $said ]] || { status=1; echo "$said" >>"$log"; }
+    row "session, $name" "$status" "${#said} bytes on standard error"
+}
+
+# tests NAME COMMAND...
+tests() {
+    local name=$1 status=0 start=$SECONDS
+    shift
+    "$@" "${loaded[@]}" ctest --preset asan --parallel 2 --exclude-regex '^packaging_' >"$scratch/tests" 2>&1 || status=$?
+    cat "$scratch/tests" >>"$log"
+    row "tests, $name" "$status" \
+        "$(grep 'tests passed' "$scratch/tests" || echo 'no summary'), $((SECONDS - start)) s"
+}
+
+for locale in de_DE.UTF-8 ar_EG.UTF-8 tr_TR.UTF-8 C; do
+    session "$locale" env LC_ALL="$locale" LANG="$locale" QT_QPA_PLATFORM=offscreen
+    tests "$locale" env LC_ALL="$locale" LANG="$locale" QT_QPA_PLATFORM=offscreen
+done
+
+x_server=(env QT_QPA_PLATFORM=xcb xvfb-run --auto-servernum '--server-args=-screen 0 1920x1080x24')
+session xcb "${x_server[@]}"
+tests xcb "${x_server[@]}"
+
+XDG_RUNTIME_DIR=$scratch/runtime weston --backend=headless-backend.so --socket=dezimo \
+    --width=1920 --height=1080 --idle-time=0 >>"$log" 2>&1 &
+compositor=$!
+while [[ ! -S $scratch/runtime/dezimo ]]; do sleep 0.1; done
+wayland=(env QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY="$scratch/runtime/dezimo")
+session wayland "${wayland[@]}"
+tests wayland "${wayland[@]}"
+
+echo
+printf '%-22s %-7s %s\n' "${table[@]}"
+exit $((failures > 0))

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "monkey.h"
+
+#include "calculationfiles.h"
+#include "mainprofile.h"
+#include "mainwindow.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+
+#include <array>
+#include <malloc.h>
+
+namespace {
+
+constexpr qint64 kSampleMilliseconds = 5000;
+constexpr int kMostWindows = 4;
+
+const QString &typed()
+{
+    static const QString characters =
+        QString::fromUtf8("0123456789.,-+*/()eE dBmWVkuµMGp%@\"\\=;[]ΩäشI−💥");
+    return characters;
+}
+
+constexpr std::array<Qt::Key, 19> kKeys = {
+    Qt::Key_Tab,       Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Escape,
+    Qt::Key_Backspace, Qt::Key_Delete,  Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Up,
+    Qt::Key_Down,      Qt::Key_Home,    Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown,
+    Qt::Key_Space,     Qt::Key_F10,     Qt::Key_Menu,   Qt::Key_F4,
+};
+constexpr std::array<Qt::Key, 12> kShortcuts = {
+    Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Z, Qt::Key_Y,
+    Qt::Key_O, Qt::Key_S, Qt::Key_Q, Qt::Key_F, Qt::Key_H, Qt::Key_Backspace,
+};
+
+QList<QWidget *> shownWindows()
+{
+    QList<QWidget *> shown;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (QWidget *window : all) {
+        const bool isWindow =
+            window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+        if (isWindow && window->isVisible())
+            shown += window;
+    }
+    return shown;
+}
+
+} // namespace
+
+Monkey::Monkey(unsigned seed, qint64 milliseconds, const QString &folder)
+    : m_random(seed),
+      m_milliseconds(milliseconds),
+      m_folder(folder),
+      m_window(std::make_unique<MainWindow>())
+{
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, &Monkey::step);
+}
+
+Monkey::~Monkey() = default;
+
+void Monkey::start()
+{
+    m_window->show();
+    m_time.start();
+    m_next.start();
+}
+
+bool Monkey::report() const
+{
+    std::printf("%d steps, %d ends, %d file dialogs, %d links not followed\n", m_steps, m_ends,
+                m_files, m_links);
+    m_memory.print();
+    return m_memory.isUpward();
+}
+
+void Monkey::dropLink(const QUrl &)
+{
+    ++m_links;
+}
+
+/// The next step is on its way before this one acts, as an action may wait in a dialog's event loop
+/// for what the next steps do.
+void Monkey::step()
+{
+    if (m_time.elapsed() > m_milliseconds) {
+        QApplication::closeAllWindows();
+        QCoreApplication::quit();
+        return;
+    }
+    m_next.start();
+    ++m_steps;
+    QWidget *top = target();
+    if (top == nullptr)
+        tidyUp();
+    else if (m_time.elapsed() >= m_nextSample && isAtRest())
+        sampleMemory();
+    else
+        act(*top);
+}
+
+bool Monkey::isAtRest()
+{
+    return QApplication::activePopupWidget() == nullptr &&
+           QApplication::activeModalWidget() == nullptr;
+}
+
+/// Always in the same state, without what was typed: only then the samples compare. What the
+/// program has freed goes back to the system first.
+void Monkey::sampleMemory()
+{
+    tidyUp();
+    CalculationFiles::loadDefaults(MainProfile::instance());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    malloc_trim(0);
+    m_memory.sample();
+    m_nextSample += kSampleMilliseconds;
+}
+
+QWidget *Monkey::target()
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    const QList<QWidget *> windows = shownWindows();
+    const bool isMissing = !windows.contains(m_window.get());
+    return isMissing || windows.size() > kMostWindows ? nullptr : windows.at(below(windows.size()));
+}
+
+void Monkey::act(QWidget &top)
+{
+    if (auto *dialog = qobject_cast<QFileDialog *>(&top)) {
+        answer(*dialog);
+        return;
+    }
+    const int choice = below(100);
+    if (choice < 45)
+        click(top);
+    else if (choice < 98)
+        type(top);
+    else
+        resizeWindow();
+}
+
+/// One of ten names: an own file, one that is no file, or none at all.
+void Monkey::answer(QFileDialog &dialog)
+{
+    ++m_files;
+    auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (name == nullptr || below(3) == 0) {
+        dialog.reject();
+        return;
+    }
+    name->setText(m_folder + QStringLiteral("/%1.dezimo").arg(below(10)));
+    static_cast<QDialog &>(dialog).accept();
+    if (QApplication::activeModalWidget() == &dialog) // there is no such file
+        dialog.reject();
+}
+
+void Monkey::click(QWidget &top)
+{
+    QList<QWidget *> widgets{&top};
+    const QList<QWidget *> children = top.findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (child->isVisible() && child->window() == &top && !child->size().isEmpty())
+            widgets += child;
+    }
+    QPointer<QWidget> widget = widgets.at(below(widgets.size()));
+    const QPoint at(below(std::max(1, widget->width())), below(std::max(1, widget->height())));
+    const Qt::MouseButton button = below(12) == 0 ? Qt::RightButton : Qt::LeftButton;
+    switch (below(6)) {
+    case 0:
+        QTest::mouseDClick(widget, button, Qt::NoModifier, at);
+        break;
+    case 1:
+        QTest::mousePress(widget, button, Qt::NoModifier, at);
+        if (widget)
+            QTest::mouseMove(widget, widget->rect().center());
+        if (widget)
+            QTest::mouseRelease(widget, button, Qt::NoModifier, widget->rect().center());
+        break;
+    default:
+        QTest::mouseClick(widget, button, Qt::NoModifier, at);
+    }
+}
+
+void Monkey::type(QWidget &top)
+{
+    QWidget *focused = top.focusWidget() != nullptr ? top.focusWidget() : &top;
+    const int choice = below(100);
+    if (choice < 60)
+        QTest::sendKeyEvent(QTest::Click, focused, Qt::Key_unknown,
+                            QString(typed().at(below(typed().size()))), Qt::NoModifier);
+    else if (choice < 90)
+        QTest::keyClick(focused, kKeys.at(size_t(below(int(kKeys.size())))));
+    else if (choice < 97)
+        QTest::keyClick(focused, kShortcuts.at(size_t(below(int(kShortcuts.size())))),
+                        Qt::ControlModifier);
+    else
+        QTest::keyClick(focused, kShortcuts.at(size_t(below(int(kShortcuts.size())))),
+                        Qt::AltModifier);
+}
+
+void Monkey::resizeWindow()
+{
+    m_window->resize(below(1600), below(1000));
+}
+
+/// Closes what stands about, and brings the main window back if that is what was closed.
+void Monkey::tidyUp()
+{
+    const QList<QWidget *> windows = shownWindows();
+    for (QWidget *window : windows) {
+        if (window != m_window.get())
+            window->close();
+    }
+    if (m_window->isVisible())
+        return;
+    m_window->show();
+    ++m_ends;
+}
+
+int Monkey::below(int bound)
+{
+    return std::uniform_int_distribution<int>(0, bound - 1)(m_random);
+}

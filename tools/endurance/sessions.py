@@ -1,0 +1,66 @@
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+"""Sessions of the program for the scripts beside: each has a home and a store of its own."""
+
+import os
+import pathlib
+import re
+import subprocess
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SESSION = ROOT / "build/endurance/bin/dezimo-session"
+PROGRAM = ROOT / "build/endurance/bin/dezimo"
+NOBODY = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
+
+
+def build():
+    """The optimized program, as it is shipped, and the tools."""
+    subprocess.run(["tools/packages.sh", "build", "run", "test", "endurance"], cwd=ROOT, check=True)
+    subprocess.run(["cmake", "--preset", "endurance"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    targets = ["dezimo", "dezimo-session", "dezimo-soak", "dezimo-monkey"]
+    subprocess.run(["cmake", "--build", "--preset", "endurance", "--target", *targets],
+                   cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+
+
+class Home:
+    """A fresh home in a temporary folder, or in @p folder."""
+
+    def __init__(self, folder=None):
+        self.folder = pathlib.Path(folder or tempfile.mkdtemp())
+        # What an unprivileged user must reach lies in it.
+        self.folder.chmod(0o755)
+        self.store = self.folder / "config/Vantrel/Dezimo.conf"
+        self.store.parent.mkdir(parents=True)
+        self.runtime = tempfile.mkdtemp()
+
+    def environment(self):
+        """The variables of a session here."""
+        return dict(os.environ, HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder / "config"),
+                    XDG_RUNTIME_DIR=self.runtime, QT_QPA_PLATFORM="offscreen")
+
+    def start(self, *arguments, program=SESSION, prefix=()):
+        """A session that runs beside."""
+        return subprocess.Popen([*prefix, program, *map(str, arguments)], env=self.environment(),
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+
+    def run(self, *arguments, prefix=()):
+        """Runs a session to its end, within a minute. Returns what it printed, or raises if it was
+        not clean."""
+        if prefix:
+            os.chown(self.runtime, 65534, 65534)
+        process = self.start(*arguments, prefix=prefix)
+        out, said = process.communicate(timeout=60)
+        said = [line for line in said.splitlines() if "This plugin does not support" not in line]
+        if process.returncode != 0 or said:
+            raise SystemExit(f"{arguments}: status {process.returncode}, said {said}")
+        return out
+
+
+def generation(text):
+    """Which generation a stored text belongs to, or None unless it is whole: six groups, and every
+    text of one and the same generation."""
+    groups = re.findall(r"^\[(\w+Profile)\]$", text, re.MULTILINE)
+    texts = re.findall(r"^\w+=generation (\d+)$", text, re.MULTILINE)
+    whole = len(groups) == 6 and len(set(texts)) == 1 and text.endswith("\n")
+    return (int(texts[0]), len(texts)) if whole else None

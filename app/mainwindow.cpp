@@ -67,6 +67,7 @@ struct MainWindow::Target
     int placeholderHeight;
 };
 
+/// The window has its style sheet before it has widgets, so that these are styled once.
 MainWindow::MainWindow(QWidget *parent)
     : KelMainWindow(parent),
       m_ui(std::make_unique<Ui::MainWindow>()),

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelscrollarea.h"
+#include "kelscrollpage.h"
+#include "testmain.h"
+
+#include <QApplication>
+#include <QTest>
+
+class KelScrollPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPageOfAScrollAreaIsItsContents();
+    void aPageOfAnotherWidgetStaysItsChild();
+};
+
+void KelScrollPageTest::aPageOfAScrollAreaIsItsContents()
+{
+    KelScrollArea area;
+    KelScrollPage page(&area);
+    QCOMPARE(area.widget(), &page);
+}
+
+void KelScrollPageTest::aPageOfAnotherWidgetStaysItsChild()
+{
+    QWidget parent;
+    const KelScrollPage page(&parent);
+    QCOMPARE(page.parentWidget(), &parent);
+}
+
+DEZIMO_TEST_MAIN(QApplication, KelScrollPageTest)
+#include "tst_kelscrollpage.moc"

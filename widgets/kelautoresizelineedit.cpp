@@ -26,6 +26,7 @@ int KelAutoResizeLineEdit::largestFontSize() const
 
 void KelAutoResizeLineEdit::adjustTextSizeAuto()
 {
+    ensurePolished(); // measures with the family of the style sheets
     const int size = fittingFontSize();
     if (size != m_fontSize) {
         m_fontSize = size;
@@ -53,13 +54,12 @@ int KelAutoResizeLineEdit::fittingFontSize() const
 {
     const int available = width() - kFrame;
     int size = height() - kFrame;
+    int measured = textWidth(size--);
     // A text that is far too wide at the smallest size need not be measured at each of the others.
-    if (size > kSmallestFontSize && textWidth(kSmallestFontSize + 1) / 2 > qMax(available, 0))
+    if (size > kSmallestFontSize &&
+        qint64(measured) * kSmallestFontSize / size / 2 > qMax(available, 0))
         return kSmallestFontSize;
-    int measured = 0;
-    do {
-        measured = textWidth(size);
-        --size;
-    } while (measured > available && size > kSmallestFontSize);
+    while (measured > available && size > kSmallestFontSize)
+        measured = textWidth(size--);
     return size;
 }

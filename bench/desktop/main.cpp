@@ -6,8 +6,10 @@
  * client of the same X server. See docs/performance.md.
  *
  * usage: desktop_benchmark [--runs NUMBER] [WORD...]
+ *        desktop_benchmark [--runs NUMBER] --compare BASE NEW
  *
- * With words, only those programs are measured whose name contains one of them.
+ * With words, only those programs are measured whose name contains one of them. The second form
+ * measures two builds of Dezimo against each other.
  */
 
 #include "display.h"
@@ -54,6 +56,7 @@ struct Request
 {
     int runs = 9;
     std::vector<std::string> words;
+    std::vector<Program> builds;
 };
 
 Request request(const std::vector<std::string> &arguments)
@@ -62,6 +65,9 @@ Request request(const std::vector<std::string> &arguments)
     for (size_t i = 0; i < arguments.size(); ++i) {
         if (arguments[i] == "--runs" && i + 1 < arguments.size())
             request.runs = std::stoi(arguments[++i]);
+        else if (arguments[i] == "--compare" && i + 2 < arguments.size())
+            for (const char *name : {"base", "new"})
+                request.builds.push_back({name, arguments[++i], 0});
         else
             request.words.push_back(arguments[i]);
     }
@@ -105,8 +111,11 @@ int main(int argc, char *argv[])
 {
     try {
         const Request wanted = request({argv + 1, argv + argc});
-        std::vector<Program> programs = programsToCompare(fs::path(argv[0]).parent_path());
-        keepWanted(programs, wanted.words);
+        std::vector<Program> programs = wanted.builds;
+        if (programs.empty()) {
+            programs = programsToCompare(fs::path(argv[0]).parent_path());
+            keepWanted(programs, wanted.words);
+        }
         writeTable(std::cout, measured(programs, wanted.runs));
     } catch (const std::exception &error) {
         std::cerr << "desktop_benchmark: " << error.what() << '\n';

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+/**
+ * Loading and saving a calculation file, with all that the file system makes of it.
+ */
+
+#include "benchmarks.h"
+#include "mainprofile.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+namespace {
+
+/// Runs @p access on a new store over the file, as each command of the File menu does.
+template <typename Access>
+void accessFile(benchmark::State &state, Access access)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("calculation.dezimo"));
+    {
+        QSettings file(name, QSettings::IniFormat);
+        MainProfile::instance().saveSettings(file);
+    }
+    QFile content(name);
+    content.open(QIODevice::ReadOnly);
+    const QByteArray bytes = content.readAll();
+    content.close();
+    bool isLonger = true;
+    while (state.KeepRunning()) {
+        // Qt remembers what it has read until the file has another size.
+        state.PauseTiming();
+        content.remove();
+        content.open(QIODevice::WriteOnly);
+        content.write(isLonger ? bytes + '\n' : bytes);
+        content.close();
+        isLonger = !isLonger;
+        state.ResumeTiming();
+        QSettings file(name, QSettings::IniFormat);
+        access(file);
+        file.sync();
+    }
+}
+
+} // namespace
+
+void registerFiles()
+{
+    const auto load = [](benchmark::State &state) {
+        accessFile(state,
+                   [](QSettings &file) { MainProfile::instance().loadModuleSettings(file); });
+    };
+    const auto save = [](benchmark::State &state) {
+        accessFile(state, [](QSettings &file) { MainProfile::instance().saveSettings(file); });
+    };
+    benchmark::RegisterBenchmark("loadCalculation", load)->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("saveCalculation", save)->Unit(benchmark::kMicrosecond);
+}

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr double kKibibyte = 1024.0;
+constexpr size_t kMostSamples = 10000;
 
 /// Through the C++ and C allocators, small blocks and those with pages of their own.
 double allocated()
@@ -48,6 +49,12 @@ void printQuarters(const char *what, const std::vector<double> &samples)
 }
 
 } // namespace
+
+MemoryTrend::MemoryTrend()
+{
+    m_allocated.reserve(kMostSamples);
+    m_resident.reserve(kMostSamples);
+}
 
 void MemoryTrend::sample()
 {

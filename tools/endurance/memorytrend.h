@@ -14,6 +14,9 @@
 class MemoryTrend
 {
 public:
+    /// Takes room for all samples at once, so that they are no trend themselves.
+    MemoryTrend();
+
     /// Notes what the process holds now.
     void sample();
     /// Prints the mean of each quarter.

@@ -24,7 +24,7 @@ declare -A packages=(
     [windows-check]="g++-mingw-w64-x86-64-posix"
     [pictures]="pngquant"
     [fuzz]="clang libclang-rt-14-dev"
-    [endurance]="locales-all weston strace util-linux"
+    [endurance]="locales-all openbox weston strace util-linux"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -39,7 +39,7 @@ declare -A commands=(
     [windows-check]="x86_64-w64-mingw32-g++-posix"
     [pictures]="pngquant"
     [fuzz]="clang++"
-    [endurance]="weston strace setpriv"
+    [endurance]="openbox weston strace setpriv"
 )
 
 # Those of the given packages that dpkg does not have installed.

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 #
 # tools/endurance/everywhere.sh: a session of the program and then the whole test suite, in four
-# locales on the offscreen platform and on an X server without a screen; and a session on a Wayland
+# locales on the offscreen platform and under a window manager of X; and a session on a Wayland
 # compositor, which without a keyboard gives no window the focus that the tests need. A session must
 # end with status 0 and print nothing. The tests of the package are left out: they fix their own
 # surroundings. The log is build/everywhere.log; a table closes the run.
@@ -70,7 +70,10 @@ for locale in de_DE.UTF-8 ar_EG.UTF-8 tr_TR.UTF-8 C; do
     tests "$locale" env LC_ALL="$locale" LANG="$locale" QT_QPA_PLATFORM=offscreen
 done
 
-x_server=(env QT_QPA_PLATFORM=xcb xvfb-run --auto-servernum '--server-args=-screen 0 1920x1080x24')
+# Without a window manager no window gets the focus.
+with_manager='openbox & exec "$@"'
+x_server=(env QT_QPA_PLATFORM=xcb xvfb-run --auto-servernum '--server-args=-screen 0 1920x1080x24'
+    bash -c "$with_manager" -)
 session xcb "${x_server[@]}"
 tests xcb "${x_server[@]}"
 

@@ -48,15 +48,16 @@ if(DEZIMO_SANITIZERS)
 endif()
 
 # dezimo_library(<folder> LINKS <public libraries> SOURCES <files>): the one library of a folder,
-# as the static library dezimo_<folder> with the alias Dezimo::<Folder>. It publishes its own
-# folder and nothing else, so that a layer that is not linked cannot be included.
+# as the library dezimo_<folder> with the alias Dezimo::<Folder>; it is static unless
+# BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer
+# that is not linked cannot be included.
 function(dezimo_library folder)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   set(target dezimo_${folder})
   string(SUBSTRING ${folder} 0 1 initial)
   string(TOUPPER ${initial} initial)
   string(SUBSTRING ${folder} 1 -1 rest)
-  add_library(${target} STATIC ${arg_SOURCES})
+  add_library(${target} ${arg_SOURCES})
   add_library(Dezimo::${initial}${rest} ALIAS ${target})
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
   target_link_libraries(${target}

@@ -25,6 +25,9 @@ declare -A packages=(
     [pictures]="pngquant"
     [fuzz]="clang libclang-rt-14-dev"
     [endurance]="locales-all openbox weston strace util-linux"
+    [endurance]="locales-all weston strace util-linux"
+    [coverage]="gcovr"
+    [memcheck]="valgrind"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -40,6 +43,9 @@ declare -A commands=(
     [pictures]="pngquant"
     [fuzz]="clang++"
     [endurance]="openbox weston strace setpriv"
+    [endurance]="weston strace setpriv"
+    [coverage]="gcovr"
+    [memcheck]="valgrind"
 )
 
 # Those of the given packages that dpkg does not have installed.

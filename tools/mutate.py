@@ -141,11 +141,17 @@ class Tests:
         return [name for name in self.names if not self.passes(name, BASELINE_SECONDS)]
 
     def catcher(self, file: Path) -> str | None:
-        """The first test that fails. Those named after the file come first, then short ones."""
+        """The first test that fails, None if there is none, "" if one does not compile.
+
+        Those named after the file come first, then short ones. Each is built when it is needed,
+        because a mutant in a header changes them all.
+        """
         def rank(name: str) -> tuple[bool, float]:
             return not name.startswith(f"tst_{file.stem}"), self.seconds[name]
 
         for name in sorted(self.names, key=rank):
+            if not build([name]):
+                return ""
             if not self.passes(name, 1 + 10 * self.seconds[name]):
                 return name
         return None
@@ -156,16 +162,14 @@ def try_out(mutant: Mutant, text: str, tests: Tests) -> str | None:
     copy = COPY / mutant.file
     copy.write_text(text[:mutant.begin] + mutant.replacement + text[mutant.end:])
     try:
-        # What a header says, the tests compile too.
-        targets = ["dezimo_profiles"] if mutant.file.suffix == ".cpp" else tests.names
-        return tests.catcher(mutant.file) if build(targets) else ""
+        return tests.catcher(mutant.file) if build(["dezimo_profiles"]) else ""
     finally:
         copy.write_text(text)
 
 
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--count", type=int, default=250, help="how many mutants (default 250)")
+    parser.add_argument("--count", type=int, default=200, help="how many mutants (default 200)")
     parser.add_argument("--seed", type=int, default=1, help="which ones (default 1)")
     parser.add_argument("names", nargs="*", metavar="FILE",
                         help="only in these files of profiles/ (default all)")

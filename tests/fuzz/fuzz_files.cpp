@@ -20,7 +20,7 @@
 
 namespace {
 
-/// A name that no file had before: a store that is opened again might be one that Qt remembers.
+/// A name that no file had before: Qt remembers the values of a store that is opened again.
 QString newFileName()
 {
     static const QTemporaryDir folder;
@@ -44,8 +44,12 @@ void load(MainProfile &profile, const QString &fileName)
 
 void save(MainProfile &profile, const QString &fileName)
 {
-    QSettings file(fileName, QSettings::IniFormat);
-    profile.saveSettings(file);
+    const QString remembered = newFileName();
+    {
+        QSettings file(remembered, QSettings::IniFormat);
+        profile.saveSettings(file);
+    }
+    require(QFile::rename(remembered, fileName), "a calculation can be saved", fileName);
 }
 
 } // namespace

@@ -25,7 +25,6 @@ declare -A packages=(
     [pictures]="pngquant"
     [fuzz]="clang libclang-rt-14-dev"
     [endurance]="locales-all openbox weston strace util-linux"
-    [endurance]="locales-all weston strace util-linux"
     [coverage]="gcovr"
     [memcheck]="valgrind"
 )
@@ -43,7 +42,6 @@ declare -A commands=(
     [pictures]="pngquant"
     [fuzz]="clang++"
     [endurance]="openbox weston strace setpriv"
-    [endurance]="weston strace setpriv"
     [coverage]="gcovr"
     [memcheck]="valgrind"
 )

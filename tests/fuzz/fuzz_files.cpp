@@ -14,6 +14,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -36,9 +37,39 @@ QString written(const std::uint8_t *data, std::size_t size)
     return file.fileName();
 }
 
+/// Whether a value is of a kind that takes no more room than its text does.
+bool isHarmless(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::UnknownType:
+    case QMetaType::QByteArray:
+    case QMetaType::QPoint:
+    case QMetaType::QRect:
+    case QMetaType::QSize:
+    case QMetaType::QString:
+    case QMetaType::QStringList:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void requireHarmlessValues(const QSettings &file)
+{
+    const QStringList keys = file.allKeys();
+    for (const QString &key : keys) {
+        const QVariant value = file.value(key);
+        const bool isList = value.userType() == QMetaType::QVariantList;
+        const QVariantList elements = isList ? value.toList() : QVariantList{value};
+        require(std::all_of(elements.begin(), elements.end(), isHarmless),
+                "what is read is of a harmless kind", key);
+    }
+}
+
 void load(MainProfile &profile, const QString &fileName)
 {
     QSettings file(fileName, QSettings::IniFormat);
+    requireHarmlessValues(file);
     profile.loadSettings(file);
 }
 

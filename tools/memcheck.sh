@@ -18,6 +18,8 @@ cmake --build --preset dev --target "${tests[@]}"
 
 # Qt's regular expressions compile themselves into code that valgrind cannot follow.
 export QT_ENABLE_REGEXP_JIT=0
+# Qt Test ends a function after five minutes otherwise.
+export QTEST_FUNCTION_TIMEOUT=3600000 # ms
 
 memcheck() {
     local log=build/dev/memcheck-$1.log

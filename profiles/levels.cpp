@@ -5,11 +5,23 @@
 
 #include <cmath>
 
+namespace {
+
+/// Computed in more places than the result keeps, because not every C library's own function is
+/// good to the last one: mingw-w64's is wrong by several units there even for whole exponents, and
+/// a limit such as 1e-12 W = -90 dBm would lie on the other side.
+double powerOfTen(double exponent)
+{
+    return static_cast<double>(std::pow(10.0L, static_cast<long double>(exponent)));
+}
+
+} // namespace
+
 namespace Levels {
 
 double powerRatioFromDb(double db)
 {
-    return std::pow(10.0, db / 10.0);
+    return powerOfTen(db / 10.0);
 }
 
 double dbFromPowerRatio(double ratio)
@@ -19,7 +31,7 @@ double dbFromPowerRatio(double ratio)
 
 double voltageRatioFromDb(double db)
 {
-    return std::pow(10.0, db / 20.0);
+    return powerOfTen(db / 20.0);
 }
 
 double dbFromVoltageRatio(double ratio)

@@ -26,7 +26,7 @@ function(dezimo_find_fonts out package)
             /usr/share/fonts/truetype/roboto/unhinted
             /usr/share/fonts/truetype/roboto/unhinted/RobotoTTF
             /usr/share/fonts/truetype/dejavu
-      NO_DEFAULT_PATH
+      NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH
     )
     mark_as_advanced(DEZIMO_FONT_${name})
     if(NOT DEZIMO_FONT_${name})

@@ -149,15 +149,16 @@ def widen_figure_space(font: TTFont) -> None:
 def rename(font: TTFont, filler: TTFont, style: Style) -> None:
     """Give a new name table; copyright and licence texts of both sources are kept in it.
 
-    The plain and the typographic family are the same, also for Light, so that every platform
-    lists the four styles under one family.
+    The typographic family has all four styles. The plain one may have but one upright style that
+    is not bold, or Windows confuses the two; so Light has a plain family of its own.
     """
     old, filler_old = font["name"], filler["name"]
     name = f"{style.family} {style.name}"
+    plain = (name, "Regular") if style.name == "Light" else (style.family, style.name)
     records = {
         0: f"{old.getDebugName(0)}\n{filler_old.getDebugName(0)}",
-        1: style.family,
-        2: style.name,
+        1: plain[0],
+        2: plain[1],
         3: f"Vantrel:{name}:{VERSION}",
         4: name,
         5: f"Version {VERSION}",

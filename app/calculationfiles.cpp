@@ -5,10 +5,13 @@
 
 #include "mainprofile.h"
 #include "soundstore.h"
+#include "storetext.h"
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QFile>
 #include <QFileDialog>
+#include <QSaveFile>
 #include <QSettings>
 
 namespace {
@@ -29,6 +32,24 @@ QString chosenFile(QFileDialog &dialog)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);
+}
+
+/// What was saved is rewritten only where it is not arranged yet; what Linux writes is.
+void arrange(const QString &fileName)
+{
+    QFile saved(fileName);
+    if (!saved.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray text = saved.readAll();
+    saved.close();
+    const QByteArray arranged = arrangedStoreText(text);
+    if (arranged == text)
+        return;
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(arranged);
+    file.commit();
 }
 
 } // namespace
@@ -66,8 +87,14 @@ void CalculationFiles::save(MainProfile &profile, const QString &fileName)
 {
     if (!SoundStore::makeWritable(fileName))
         return;
-    QSettings file(fileName, QSettings::IniFormat);
-    profile.saveSettings(file);
+    {
+        QSettings file(fileName, QSettings::IniFormat);
+        profile.saveSettings(file);
+        file.sync();
+        if (file.status() != QSettings::NoError)
+            return;
+    }
+    arrange(fileName);
 }
 
 void CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringList &arguments)

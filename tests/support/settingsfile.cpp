@@ -3,6 +3,8 @@
 
 #include "settingsfile.h"
 
+#include "storetext.h"
+
 #include <QFile>
 
 namespace {
@@ -23,7 +25,7 @@ QByteArray SettingsFile::text()
 {
     m_settings.sync();
     QFile file(m_settings.fileName());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? arrangedStoreText(file.readAll()) : QByteArray();
 }
 
 QStringList SettingsFile::lines()

@@ -20,7 +20,7 @@ public:
 
     QSettings &settings() { return m_settings; }
     QString fileName() const { return m_settings.fileName(); }
-    /// The bytes of the file.
+    /// The text of the file as it is on every system.
     QByteArray text();
     /// The lines of the file, sorted: the store keeps no order of its own.
     QStringList lines();

@@ -2,17 +2,18 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# ./package.sh: installs what is missing, builds the Debian package and says where it lies. The same
-# sources give the same bytes: every time in the package is that of the release.
+# ./package.sh [windows]: installs what is missing, builds the Debian package, or the zip and the
+# installer for Windows, and says where it lies. The same sources give the same bytes: every time in
+# a package is that of the release.
 set -euo pipefail
 cd "$(dirname "$0")"
 
+released=$(sed --quiet 's/^## .*, \([0-9-]*\)$/\1/p' CHANGELOG.md | head --lines=1)
+export SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(date --utc --date="$released" +%s)}"
+umask 022
+
 debian() {
     tools/packages.sh build package
-    local released
-    released=$(sed --quiet 's/^## .*, \([0-9-]*\)$/\1/p' CHANGELOG.md | head --lines=1)
-    export SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(date --utc --date="$released" +%s)}"
-    umask 022
     export LC_ALL=C.UTF-8 # CPack cannot read a path beyond ASCII otherwise
     rm -f build/package/*.deb
     cmake --preset package >/dev/null # warnings and errors still show
@@ -22,10 +23,19 @@ debian() {
     echo "The package: $(echo build/package/*.deb)"
 }
 
+windows() {
+    tools/packages.sh build windows
+    local sdk version
+    sdk=$(tools/windows_sdk.sh)
+    version=$(sed --quiet 's/^## \(.*\), [0-9-]*$/\1/p' CHANGELOG.md | head --lines=1)
+    cmake --preset windows --no-warn-unused-cli >/dev/null # warnings and errors still show
+    cmake --build --preset windows --target dezimo
+    packaging/windows/make_packages.sh "$sdk" "$version"
+    echo "The zip and the installer: $(echo build/windows/package/dezimo_*)"
+}
+
 case "$*" in
     "") debian ;;
-    *)
-        echo "usage: ./package.sh (it makes the Debian package; there are no others yet)" >&2
-        exit 2
-        ;;
+    windows) windows ;;
+    *) echo "usage: ./package.sh [windows]" >&2; exit 2 ;;
 esac

@@ -27,6 +27,8 @@ declare -A packages=(
     [endurance]="locales-all openbox weston strace util-linux"
     [coverage]="gcovr"
     [memcheck]="valgrind"
+    [windows]="g++-mingw-w64-x86-64-posix dpkg-dev make perl nsis icoutils zip"
+    [windows-test]="wine wine64 xvfb xauth openbox x11-utils xdotool imagemagick unzip"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -44,6 +46,8 @@ declare -A commands=(
     [endurance]="openbox weston strace setpriv"
     [coverage]="gcovr"
     [memcheck]="valgrind"
+    [windows]="x86_64-w64-mingw32-g++-posix make perl makensis icotool zip"
+    [windows-test]="Xvfb openbox xprop xdotool import unzip"
 )
 
 # Those of the given packages that dpkg does not have installed.

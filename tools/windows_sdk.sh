@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# tools/windows_sdk.sh [--where]: prints the folder of Qt for Windows. It is made once, which takes
+# half an hour, and kept in the user's cache under the checksum of its recipe. With --where nothing
+# is made: the status is 1 if the folder is not there yet.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+recipe=packaging/windows/qt_recipe.sh
+key=$(sha256sum "$recipe" | cut --characters=1-16)
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/dezimo
+sdk=$cache/windows-sdk-$key
+
+case "$*" in
+    "") ;;
+    --where) [[ -d $sdk ]] || exit 1; echo "$sdk/qt"; exit ;;
+    *) echo "usage: tools/windows_sdk.sh [--where]" >&2; exit 2 ;;
+esac
+
+make_sdk() {
+    local scratch log=$cache/windows-sdk-$key.log
+    scratch=$(mktemp --directory "$cache/making.XXXXXX")
+    # shellcheck disable=SC2064
+    trap "rm -rf '$scratch'" EXIT
+    mkdir "$scratch/sdk" "$scratch/work"
+    echo "Making Qt for Windows; this takes half an hour, once. The log: $log" >&2
+    "$recipe" "$scratch/sdk" "$scratch/work" >"$log" 2>&1 || {
+        tail --lines=20 "$log" >&2
+        exit 1
+    }
+    # A name that exists is a whole SDK.
+    mv "$scratch/sdk" "$sdk"
+}
+
+tools/packages.sh windows >&2
+mkdir -p "$cache"
+# Who comes second waits for what the first one makes.
+exec {lock}>"$cache/windows-sdk.lock"
+flock "$lock"
+[[ -d $sdk ]] || make_sdk
+echo "$sdk/qt"

@@ -28,7 +28,8 @@ declare -A packages=(
     [coverage]="gcovr"
     [memcheck]="valgrind"
     [windows]="g++-mingw-w64-x86-64-posix dpkg-dev make perl nsis icoutils zip"
-    [windows-test]="wine wine64 xvfb xauth openbox x11-utils xdotool imagemagick unzip"
+    [windows-test]="wine wine64 xvfb xauth openbox x11-utils xdotool imagemagick unzip
+        libxml2-utils"
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
@@ -47,7 +48,7 @@ declare -A commands=(
     [coverage]="gcovr"
     [memcheck]="valgrind"
     [windows]="x86_64-w64-mingw32-g++-posix make perl makensis icotool zip"
-    [windows-test]="Xvfb openbox xprop xdotool import unzip"
+    [windows-test]="Xvfb openbox xprop xdotool import unzip xmllint"
 )
 
 # Those of the given packages that dpkg does not have installed.

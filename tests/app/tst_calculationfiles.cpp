@@ -337,8 +337,10 @@ void CalculationFilesTest::loadDefaultsAnnouncesWhatChanges()
     QCOMPARE(modelLog.take(), QStringList());
 }
 
+/// The dialogs are answered through their widgets, which those of the system do not have.
 int main(int argc, char **argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     return runTestMain<KelApplication, CalculationFilesTest>(argc, argv, true);
 }
 

@@ -203,7 +203,12 @@ void StoredKeysTest::readsTypedStores()
 
 void StoredKeysTest::aMissingKeyIsTheDefault()
 {
+    // Stores on Windows do not tell capital letters from small ones.
+#ifdef Q_OS_WIN
+    SettingsFile file("[General]\nkeys=2\n");
+#else
     SettingsFile file("[General]\nKey=1\nkeys=2\n");
+#endif
     QCOMPARE(storedValue(file.settings(), "key", kInteger), QVariant(kInteger));
     QCOMPARE(storedValue(file.settings(), "key", kText), QVariant(kText));
     QCOMPARE(storedValue(file.settings(), "key", kSize), QVariant(kSize));

@@ -10,6 +10,9 @@
 
 #include <cstdio>
 
+#ifdef Q_OS_WIN
+#include "privateregistry.h"
+#endif
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
 #endif
@@ -50,8 +53,12 @@ TestHome::TestHome()
     for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME",
                                  "XDG_STATE_HOME", "XDG_RUNTIME_DIR"})
         setPrivateFolder(m_folder.path(), variable);
+#ifdef Q_OS_WIN
+    m_registry = std::make_shared<PrivateRegistry>(PrivateRegistry::Root::User);
+#else
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
 }
 
 LeakCheckPause::LeakCheckPause()

@@ -11,8 +11,9 @@
 
 /**
  * Gives a test a home of its own before any application object exists: settings, cache, data and
- * runtime folders in a fresh temporary folder, and the offscreen platform unless the caller chose
- * one. So no test reads or writes what belongs to the person who runs it.
+ * runtime folders in a fresh temporary folder, on Windows an empty registry, and elsewhere the
+ * offscreen platform unless the caller chose one. So no test reads or writes what belongs to the
+ * person who runs it. Qt's offscreen platform has no fonts on Windows, so tests show windows there.
  */
 class TestHome
 {
@@ -21,6 +22,8 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    /// On Windows only, where a type is known that nothing here needs to know.
+    std::shared_ptr<void> m_registry;
 };
 
 /**

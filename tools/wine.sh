@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# tools/wine.sh PROGRAM [ARGUMENT...]: runs a program of the Windows build under Wine, with a display
+# and a Windows of its own, and ends with its status.
+set -euo pipefail
+tools=$(dirname "$0")
+# shellcheck source=/dev/null
+. "$tools/wine_session.sh"
+sdk=$("$tools/windows_sdk.sh" --where)
+
+folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
+
+# Where the libraries are that the packages carry beside the program.
+WINEPATH="Z:$sdk/bin;Z:$(folder_of libstdc++-6.dll);Z:$(folder_of libwinpthread-1.dll)"
+export WINEPATH
+
+# Wine withholds the variables of this machine's Qt from its programs; a test's own are meant for it.
+# Qt writes to a debugger unless told that there is a console.
+batch_file() {
+    local name word
+    printf '@set QT_ASSUME_STDERR_HAS_CONSOLE=1\r\n@set QT_PLUGIN_PATH=Z:%s/plugins\r\n' "$sdk"
+    for name in ${!QT_*}; do
+        printf '@set %s=%s\r\n' "$name" "${!name}"
+    done
+    printf '@"Z:%s"' "${1//\//\\}"
+    shift
+    for word in "$@"; do
+        printf ' "%s"' "$word"
+    done
+    printf '\r\n'
+}
+
+trap end_wine EXIT
+start_wine
+batch_file "$@" >"$WINEPREFIX/drive_c/run.bat"
+status=0
+wine cmd /c 'C:\run.bat' </dev/null || status=$?
+exit "$status"

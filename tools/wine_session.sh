@@ -1,0 +1,90 @@
+# shellcheck shell=bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# To be sourced. start_wine gives the shell a display with a window manager
+# and a Windows of its own; end_wine ends all of it. Several shells get one each, kept for later
+# ones under build/windows/wine, because making one takes longer than most tests.
+
+wine_prefixes=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")/build/windows/wine
+
+# Debian's packages put no command of these names on PATH.
+wine() { /usr/lib/wine/wine64 "$@"; }
+wineserver() { /usr/lib/wine/wineserver "$@"; }
+
+export WINEDEBUG=-all
+# No offers to fetch what no test needs, and no entries in the menu of this machine's desktop.
+export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
+# Names of files are UTF-8 on both sides.
+export LC_ALL=C.UTF-8
+
+# The first of the kept installations that no other shell uses.
+take_wine_prefix() {
+    local number=1
+    mkdir -p "$wine_prefixes"
+    exec {wine_lock}>"$wine_prefixes/1.lock"
+    until flock --nonblock "$wine_lock"; do
+        number=$((number + 1))
+        exec {wine_lock}>&-
+        exec {wine_lock}>"$wine_prefixes/$number.lock"
+    done
+    export WINEPREFIX=$wine_prefixes/$number
+    # Wine would lead the folders of its user into the home of the one who runs it.
+    export HOME=$WINEPREFIX.home
+    mkdir -p "$HOME"
+}
+
+# One server per test: it shows nothing but that test's windows, and the one in front has the keys.
+# It is larger than the largest window of a test.
+start_display() {
+    coproc display { exec Xvfb -displayfd 1 -screen 0 2560x1600x24 -noreset -nolisten tcp -ac 2>/dev/null; }
+    # shellcheck disable=SC2154
+    x_server=$display_PID
+    local number
+    # shellcheck disable=SC2154
+    read -r -t 60 number <&"${display[0]}" || { echo "no X server" >&2; return 1; }
+    export DISPLAY=:$number
+    openbox --sm-disable >/dev/null 2>&1 &
+    window_manager=$!
+    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep --quiet 'window id'; do
+        kill -0 "$window_manager" || { echo "no window manager" >&2; return 1; }
+    done
+}
+
+# Windows' own fonts are not there, and Wine would take a serif. A program that crashes shall end and
+# not wait for a person in a debugger.
+adapt_wine() {
+    local reg=$WINEPREFIX/adapt.reg name version='Software\Microsoft\Windows NT\CurrentVersion'
+    {
+        printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]\n'
+        for name in "MS Shell Dlg" "MS Shell Dlg 2" Tahoma "Segoe UI"; do
+            printf '"%s"="DejaVu Sans"\n' "$name"
+        done
+        printf '\n[HKEY_LOCAL_MACHINE\\%s\\FontSubstitutes]\n' "$version"
+        printf '"MS Shell Dlg"="DejaVu Sans"\n"MS Shell Dlg 2"="DejaVu Sans"\n'
+        printf '\n[HKEY_LOCAL_MACHINE\\%s\\AeDebug]\n"Debugger"="false"\n' "$version"
+    } >"$reg"
+    wine regedit /S "Z:$reg"
+}
+
+start_wine() {
+    take_wine_prefix
+    start_display
+    # A server that was started without the display would show black windows.
+    wineserver --kill 2>/dev/null || true
+    [[ ! -e $WINEPREFIX/made ]] || return 0
+    rm -rf "$WINEPREFIX"
+    wine wineboot --init >/dev/null 2>&1
+    adapt_wine
+    wineserver --wait
+    touch "$WINEPREFIX/made"
+}
+
+end_wine() {
+    wineserver --kill 2>/dev/null || true
+    local process
+    for process in ${window_manager:-} ${x_server:-}; do
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
+    done
+}

@@ -6,6 +6,7 @@
 #include "accessiblecombobox.h"
 #include "accessiblelineedit.h"
 #include "kellineedit.h"
+#include "kellinklabel.h"
 #include "keltogglebutton.h"
 
 #include <QAccessible>
@@ -60,6 +61,44 @@ private:
     QPushButton *const m_button;
 };
 
+/// A link, whose name is its text without the markup. Its action opens it.
+class AccessibleLink final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLink(KelLinkLabel *label)
+        : QAccessibleWidget(label, QAccessible::Link),
+          m_label(label)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? m_label->linkText() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.linked = true;
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            m_label->open();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    KelLinkLabel *const m_label;
+};
+
 /// A label inside a line edit. The edit's description has its text already, so that a screen reader
 /// that walks through the window shall not meet it a second time.
 class AccessibleInnerLabel final : public QAccessibleWidget
@@ -84,6 +123,8 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
         return new AccessibleLineEdit(static_cast<QLineEdit *>(object));
     if (className == QLatin1String("KelComboBox"))
         return new AccessibleComboBox(static_cast<QComboBox *>(object));
+    if (className == QLatin1String("KelLinkLabel"))
+        return new AccessibleLink(static_cast<KelLinkLabel *>(object));
     if (className == QLatin1String("KelIconWidget"))
         return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Graphic);
     if (className == QLatin1String("QPushButton") &&

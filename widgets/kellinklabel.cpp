@@ -3,6 +3,33 @@
 
 #include "kellinklabel.h"
 
+#include "accessiblewidgets.h"
+
+#include <QDesktopServices>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QUrl>
+
+KelLinkLabel::KelLinkLabel(QWidget *parent) : QLabel(parent)
+{
+    installAccessibleWidgets();
+}
+
+QString KelLinkLabel::linkText() const
+{
+    QTextDocument document;
+    document.setHtml(text());
+    return document.toPlainText();
+}
+
+void KelLinkLabel::open() const
+{
+    QTextDocument document;
+    document.setHtml(text());
+    const QTextFragment link = document.firstBlock().begin().fragment();
+    QDesktopServices::openUrl(QUrl(link.charFormat().anchorHref()));
+}
+
 bool KelLinkLabel::focusNextPrevChild(bool next)
 {
     // Before a link at the very beginning of the text QLabel finds that link again, and again. To

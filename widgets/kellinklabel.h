@@ -15,7 +15,11 @@ class KelLinkLabel final : public QLabel
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit KelLinkLabel(QWidget *parent = nullptr);
+
+    /// What is shown of the link, without its markup.
+    QString linkText() const;
+    void open() const;
 
 protected:
     bool focusNextPrevChild(bool next) override;

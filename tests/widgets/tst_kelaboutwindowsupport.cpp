@@ -5,6 +5,7 @@
 #include "resources.h"
 #include "testmain.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
@@ -34,13 +35,17 @@ private Q_SLOTS:
     void onlyTheButtonItselfCopies();
     void linksToTheProductPage();
     void linksToTheSupportMail();
-    void linksOpenByKeyboard_data();
+    void linksOpenByKeyboard_data() { links(); }
     void linksOpenByKeyboard();
+    void linksOpenByAssistiveTechnology_data() { links(); }
+    void linksOpenByAssistiveTechnology();
     void linksAreReadableInBothThemes();
     void linksCannotBeBrokenOutOf();
     void asksThePlatformByItself();
 
 private:
+    static void links();
+
     QVector<QUrl> m_openedLinks;
 };
 
@@ -166,7 +171,7 @@ void KelAboutWindowSupportTest::linksToTheSupportMail()
                  QString::fromLatin1(kSupportText));
 }
 
-void KelAboutWindowSupportTest::linksOpenByKeyboard_data()
+void KelAboutWindowSupportTest::links()
 {
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("scheme");
@@ -193,6 +198,22 @@ void KelAboutWindowSupportTest::linksOpenByKeyboard()
     QDesktopServices::unsetUrlHandler(scheme);
     QCOMPARE(m_openedLinks.size(), 1);
     QCOMPARE(m_openedLinks.constFirst(), QUrl(markupFormat(link).anchorHref()));
+}
+
+void KelAboutWindowSupportTest::linksOpenByAssistiveTechnology()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, scheme);
+
+    m_openedLinks.clear();
+    open();
+    QDesktopServices::setUrlHandler(scheme, this, "openLink");
+    auto *link = m_window->findChild<QLabel *>(label);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(link);
+    QCOMPARE(accessible->role(), QAccessible::Link);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QDesktopServices::unsetUrlHandler(scheme);
+    QCOMPARE(m_openedLinks, QVector<QUrl>{QUrl(markupFormat(link).anchorHref())});
 }
 
 void KelAboutWindowSupportTest::linksAreReadableInBothThemes()

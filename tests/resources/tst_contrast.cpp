@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "colorcontrast.h"
 #include "resources.h"
 #include "testmain.h"
 
@@ -91,23 +92,6 @@ const std::vector<Pair> &darkPairs()
     return pairs;
 }
 
-/// The relative luminance of sRGB, as the guidelines define it.
-double luminance(const QColor &color)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 bool isOfTheme(const QString &fileName, bool dark)
 {
     const bool isDark = fileName.contains(QLatin1String("_dark."));
@@ -184,10 +168,10 @@ void ContrastTest::initTestCase()
 
 void ContrastTest::computesTheRatioOfTheGuidelines()
 {
-    QCOMPARE(contrast(Qt::white, Qt::black), 21.0);
-    QCOMPARE(contrast(Qt::black, Qt::black), 1.0);
+    QCOMPARE(ColorContrast::ratio(Qt::white, Qt::black), 21.0);
+    QCOMPARE(ColorContrast::ratio(Qt::black, Qt::black), 1.0);
     // The guidelines' own borderline gray: #767676 on white has 4.54:1.
-    QCOMPARE(std::round(contrast(QColor(0x76, 0x76, 0x76), Qt::white) * 100), 454.0);
+    QCOMPARE(std::round(ColorContrast::ratio(QColor(0x76, 0x76, 0x76), Qt::white) * 100), 454.0);
 }
 
 void ContrastTest::everyPairIsReadable_data()
@@ -212,7 +196,7 @@ void ContrastTest::everyPairIsReadable()
     QFETCH(QColor, background);
     QFETCH(double, minimum);
 
-    const double ratio = contrast(foreground, background);
+    const double ratio = ColorContrast::ratio(foreground, background);
     QVERIFY2(ratio >= minimum, QByteArray::number(ratio).constData());
 }
 

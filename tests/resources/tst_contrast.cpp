@@ -8,9 +8,11 @@
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <algorithm>
@@ -57,6 +59,12 @@ const std::vector<Pair> &brightPairs()
         {"focus mark on the window", "#008ed6", "#f5f7f9", kMark},
         {"focus mark in a field", "#008ed6", "#ffffff", kMark},
         {"bar of the chosen module", "#008ed6", "#e0f0fa", kMark},
+        {"sign of what is done", "#1c7c3c", "#f5f7f9", kMark},
+        {"sign of a warning", "#b35c00", "#f5f7f9", kMark},
+        {"sign of an error", "#b3261e", "#f5f7f9", kMark},
+        {"inside of the sign of what is done", "#ffffff", "#1c7c3c", kMark},
+        {"inside of the sign of a warning", "#ffffff", "#b35c00", kMark},
+        {"inside of the sign of an error", "#ffffff", "#b3261e", kMark},
         {"inactive text", "#8b959e", "#f5f7f9", kNoMinimum},
         {"quiet line", "#d5dbe1", "#f5f7f9", kNoMinimum},
     };
@@ -86,6 +94,12 @@ const std::vector<Pair> &darkPairs()
         {"focus mark on the window", "#008ed6", "#1e2328", kMark},
         {"focus mark in a field", "#008ed6", "#262c33", kMark},
         {"bar of the chosen module", "#008ed6", "#17394f", kMark},
+        {"sign of what is done", "#5cc98a", "#1e2328", kMark},
+        {"sign of a warning", "#f0a83c", "#1e2328", kMark},
+        {"sign of an error", "#ff8a80", "#1e2328", kMark},
+        {"inside of the sign of what is done", "#1e2328", "#5cc98a", kMark},
+        {"inside of the sign of a warning", "#1e2328", "#f0a83c", kMark},
+        {"inside of the sign of an error", "#1e2328", "#ff8a80", kMark},
         {"inactive text", "#6b7680", "#1e2328", kNoMinimum},
         {"quiet line", "#3a424b", "#1e2328", kNoMinimum},
     };
@@ -100,20 +114,54 @@ bool isOfTheme(const QString &fileName, bool dark)
     return dark ? isDark : isBright;
 }
 
-/// Every color that the sheets of a theme, or the common ones, write: "#rrggbb", and any other way
-/// of writing a color, which no pair can name.
+QString textOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Every color that sheets write: "#rrggbb", and any other way of writing a color, by a function or
+/// by its name, which no pair can name.
 QSet<QString> colorsOf(const QStringList &files)
 {
+    static const QRegularExpression comment(QStringLiteral("/\\*.*?\\*/"),
+                                            QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression color(
         QStringLiteral("#[0-9a-fA-F]{3,8}\\b(?=[^{}]*;)|\\b(?:rgba?|hsva?|hsla?)\\([^)]*\\)"));
+    static const QRegularExpression word(QStringLiteral("[\\s:]([a-zA-Z]+)(?=[^{}]*;)"));
+    const QStringList names = QColor::colorNames();
     QSet<QString> colors;
-    for (const QString &name : files) {
-        QFile file(name);
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        for (auto it = color.globalMatch(QString::fromLatin1(file.readAll())); it.hasNext();)
+    for (const QString &file : files) {
+        const QString sheet = textOf(file).remove(comment);
+        for (auto it = color.globalMatch(sheet); it.hasNext();)
             colors += it.next().captured().toLower();
+        for (auto it = word.globalMatch(sheet); it.hasNext();) {
+            const QString name = it.next().captured(1).toLower();
+            if (names.contains(name) && name != QLatin1String("transparent"))
+                colors += name;
+        }
     }
+    return colors;
+}
+
+/// Every "#rrggbb" of a text in which it means nothing but a color.
+QSet<QString> plainColorsIn(const QString &text)
+{
+    static const QRegularExpression color(QStringLiteral("#[0-9a-f]{6}\\b"));
+    QSet<QString> colors;
+    for (auto it = color.globalMatch(text); it.hasNext();)
+        colors += it.next().captured();
+    return colors;
+}
+
+QSet<QString> iconColors(bool dark)
+{
+    QDirIterator files(QStringLiteral(":/"),
+                       {dark ? QStringLiteral("*_dark.svg") : QStringLiteral("*_bright.svg")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    QSet<QString> colors;
+    while (files.hasNext())
+        colors += plainColorsIn(textOf(files.next()));
     return colors;
 }
 
@@ -158,6 +206,8 @@ private Q_SLOTS:
     void everyPairIsReadable();
     void everyColorOfTheSheetsIsInAPair_data();
     void everyColorOfTheSheetsIsInAPair();
+    void thePaletteHoldsTheSameColors();
+    void findsEveryWayToWriteAColor();
     void commonSheetsHoldNoColor();
 };
 
@@ -213,9 +263,29 @@ void ContrastTest::everyColorOfTheSheetsIsInAPair()
     QFETCH(bool, dark);
 
     const QSet<QString> used =
-        colorsOf(sheets([dark](const QString &name) { return isOfTheme(name, dark); }));
-    // Equal both ways: a pair whose color no sheet uses any more would prove nothing.
+        colorsOf(sheets([dark](const QString &name) { return isOfTheme(name, dark); })) +
+        iconColors(dark);
+    // Equal both ways: a pair whose color no sheet or icon uses any more would prove nothing.
     QCOMPARE(sorted(used), sorted(colorsIn(dark ? darkPairs() : brightPairs())));
+}
+
+void ContrastTest::thePaletteHoldsTheSameColors()
+{
+    const QSet<QString> palette =
+        plainColorsIn(textOf(QStringLiteral(DEZIMO_SOURCE_DIR "/docs/design.md")));
+    QCOMPARE(sorted(palette), sorted(colorsIn(brightPairs()) + colorsIn(darkPairs())));
+}
+
+void ContrastTest::findsEveryWayToWriteAColor()
+{
+    QTemporaryFile sheet;
+    QVERIFY(sheet.open());
+    sheet.write("#id { color: #ABCDEF; } /* red */ a { border: 1px solid white; top: 1px; }"
+                "b { background: rgba(1, 2, 3, 4); border-color: transparent; image: url(:/x); }");
+    sheet.close();
+    QCOMPARE(sorted(colorsOf({sheet.fileName()})),
+             (QStringList{QStringLiteral("#abcdef"), QStringLiteral("rgba(1, 2, 3, 4)"),
+                          QStringLiteral("white")}));
 }
 
 void ContrastTest::commonSheetsHoldNoColor()

@@ -7,6 +7,9 @@
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
+# The first format has no room for the files' times, which would differ from one checkout to the next.
+set(DEZIMO_RCC_OPTIONS --format-version 1)
+set(CMAKE_AUTORCC_OPTIONS ${DEZIMO_RCC_OPTIONS})
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 

@@ -73,4 +73,4 @@ file(CONFIGURE OUTPUT ${font_folder}/fonts.qrc @ONLY CONTENT "<RCC>
 ${font_entries}  </qresource>
 </RCC>
 ")
-qt5_add_resources(DEZIMO_FONT_SOURCES ${font_folder}/fonts.qrc)
+qt5_add_resources(DEZIMO_FONT_SOURCES ${font_folder}/fonts.qrc OPTIONS ${DEZIMO_RCC_OPTIONS})

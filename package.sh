@@ -24,7 +24,8 @@ debian() {
 }
 
 windows() {
-    tools/packages.sh build windows
+    # With what runs the result here, so that it can be looked at and tested at once.
+    tools/packages.sh build windows windows-test
     local sdk version
     sdk=$(tools/windows_sdk.sh)
     version=$(sed --quiet 's/^## \(.*\), [0-9-]*$/\1/p' CHANGELOG.md | head --lines=1)

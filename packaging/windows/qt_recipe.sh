@@ -8,31 +8,12 @@
 # change of any byte here means half an hour of compiling on every machine.
 set -euo pipefail
 
+here=$(realpath "$(dirname "$0")")
 sdk=$(realpath "$1")
 work=$(realpath "$2")
 # What Qt believes to be its place. A neutral one: it stands in the libraries that are shipped, which
 # shall not name a user's home. Everything that the build reads finds itself relative to its own file.
 prefix=/qt
-
-# Both forms of apt's sources, binary entries turned into source entries, in a configuration of our
-# own: /etc/apt stays as it is and the machine's own mirrors are used.
-fetch_sources() {
-    mkdir -p "$work/apt/parts" "$work/apt/lists/partial" "$work/apt/cache/archives/partial"
-    local file
-    for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
-        [[ ! -f $file ]] || sed --quiet 's/^ *deb /deb-src /p' "$file" >"$work/apt/parts/${file##*/}"
-    done
-    for file in /etc/apt/sources.list.d/*.sources; do
-        [[ ! -f $file ]] || sed 's/^Types:.*/Types: deb-src/I' "$file" >"$work/apt/parts/${file##*/}"
-    done
-    mv "$work/apt/parts/sources.list" "$work/apt/parts/main.list" 2>/dev/null || true
-    local private=(-o "Dir::Etc::sourcelist=/dev/null" -o "Dir::Etc::sourceparts=$work/apt/parts"
-        -o "Dir::State::lists=$work/apt/lists" -o "Dir::Cache=$work/apt/cache"
-        -o APT::Sandbox::User=root)
-    # An entry of a third party may have no sources; what counts is whether ours are found.
-    apt-get "${private[@]}" --quiet --quiet update || true
-    apt-get "${private[@]}" --quiet --quiet --download-only source "$@"
-}
 
 # unpack PACKAGE: extracts it, with Debian's patches, into the folder of that name.
 unpack() {
@@ -95,7 +76,7 @@ build_qtsvg() {
 }
 
 cd "$work"
-fetch_sources qtbase-opensource-src qtsvg-opensource-src
+"$here/fetch_sources.sh" . qtbase-opensource-src qtsvg-opensource-src
 unpack qtbase-opensource-src
 unpack qtsvg-opensource-src
 # The same sources give the same bytes: no time of this build gets into the libraries.

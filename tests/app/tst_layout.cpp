@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTest>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void errorWordsFitTheSmallestFields();
     void theArrowStandsBesideTheUnit_data();
     void theArrowStandsBesideTheUnit();
+    void theExpandedListShowsTheWholeNames();
 };
 
 namespace {
@@ -225,6 +227,19 @@ void LayoutTest::theArrowStandsBesideTheUnit()
         widest = qMax(widest, units->fontMetrics().horizontalAdvance(units->itemText(i)));
     const int spare = LayoutCheck::roomForText(*units) - widest;
     QVERIFY2(spare >= 0 && spare <= 8, QByteArray::number(spare).constData());
+}
+
+/// The width of the list is fixed; that of a name depends on how the system rounds its letters.
+void LayoutTest::theExpandedListShowsTheWholeNames()
+{
+    QSettings settings;
+    settings.setValue(QStringLiteral("MainProfile/windowMode"), 1);
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto *list = window.findChild<QListWidget *>(QStringLiteral("menuItemsWidget"));
+    const int wanted = list->sizeHintForColumn(0);
+    QVERIFY2(wanted <= list->viewport()->width(), QByteArray::number(wanted).constData());
 }
 
 int main(int argc, char **argv)

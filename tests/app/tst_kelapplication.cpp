@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QLocale>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QTest>
 
 namespace {
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void writesNumbersInEnglish();
     void bringsBothFontFamilies_data();
     void bringsBothFontFamilies();
+    void drawsAStyleFromItsOwnFile_data();
+    void drawsAStyleFromItsOwnFile();
     void theFontsAreSmall();
     void installsTheBrightStyleSheets();
     void installsAnotherThemeOnRequest();
@@ -80,6 +84,41 @@ void KelApplicationTest::bringsBothFontFamilies()
     QCOMPARE(styles, QStringList({QStringLiteral("Bold"), QStringLiteral("Italic"),
                                   QStringLiteral("Light"), QStringLiteral("Regular")}));
     QCOMPARE(QFontInfo(QFont(family)).family(), family);
+}
+
+void KelApplicationTest::drawsAStyleFromItsOwnFile_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<int>("weight");
+    QTest::addColumn<QString>("file");
+
+    for (const char *family : {"Tessan", "TessanCd"}) {
+        const auto row = [family](const char *style, int weight) {
+            QTest::addRow("%s %s", family, style)
+                << QString::fromLatin1(family) << weight
+                << QStringLiteral(":/Global/Fonts/%1_v3_%2_02.ttf")
+                       .arg(QLatin1String(family), QLatin1String(style));
+        };
+        row("Regular", QFont::Normal);
+        row("Bold", QFont::Bold);
+    }
+}
+
+/// Windows takes a neighboring style for another one where their names do not keep them apart.
+void KelApplicationTest::drawsAStyleFromItsOwnFile()
+{
+    QFETCH(QString, family);
+    QFETCH(int, weight);
+    QFETCH(QString, file);
+
+    QFont font(family, -1, weight);
+    font.setPixelSize(1000);
+    const QRawFont drawn = QRawFont::fromFont(font);
+    const QRawFont own(file, 1000);
+    const QVector<quint32> glyph = own.glyphIndexesForString(QStringLiteral("m"));
+    QCOMPARE(drawn.glyphIndexesForString(QStringLiteral("m")), glyph);
+    QVERIFY(!own.pathForGlyph(glyph.constFirst()).isEmpty());
+    QCOMPARE(drawn.pathForGlyph(glyph.constFirst()), own.pathForGlyph(glyph.constFirst()));
 }
 
 void KelApplicationTest::installsTheBrightStyleSheets()

@@ -27,7 +27,7 @@ declare -A packages=(
     [endurance]="locales-all openbox weston strace util-linux"
     [coverage]="gcovr"
     [memcheck]="valgrind"
-    [windows]="g++-mingw-w64-x86-64-posix dpkg-dev make perl nsis icoutils zip"
+    [windows]="g++-mingw-w64-x86-64-posix dpkg-dev make perl nsis icoutils imagemagick zip"
     [windows-test]="wine wine64 xvfb xauth openbox x11-utils xdotool imagemagick unzip
         libxml2-utils"
 )
@@ -47,7 +47,7 @@ declare -A commands=(
     [endurance]="openbox weston strace setpriv"
     [coverage]="gcovr"
     [memcheck]="valgrind"
-    [windows]="x86_64-w64-mingw32-g++-posix make perl makensis icotool zip"
+    [windows]="x86_64-w64-mingw32-g++-posix make perl makensis icotool convert zip"
     [windows-test]="Xvfb openbox xprop xdotool import unzip xmllint"
 )
 

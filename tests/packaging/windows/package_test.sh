@@ -132,13 +132,36 @@ start_and_quit() {
     wineserver --wait
 }
 
-# command_line LINE: runs it as it stands, since a set-up program wants no quotes round its folder.
-command_line() {
+# run_line LINE: runs it as it stands, since a set-up program wants no quotes round its folder.
+run_line() {
+    local status=0
     printf '@%s\r\n' "$1" | iconv --to-code=CP437 >"$WINEPREFIX/drive_c/line.bat"
-    wine cmd /c 'C:\line.bat'
-    # The uninstaller goes on as a copy of itself.
-    wineserver --wait
+    wine cmd /c 'C:\line.bat' || status=$?
     rm "$WINEPREFIX/drive_c/line.bat"
+    return "$status"
+}
+
+# command_line LINE: the same to the end. The uninstaller goes on as a copy of itself.
+command_line() {
+    run_line "$1"
+    wineserver --wait
+}
+
+# windows_path FILE: how a program of Windows names a file of this machine.
+windows_path() {
+    local path
+    path=$(realpath "$1")
+    echo "Z:${path//\//\\}"
+}
+
+# set_up INSTALLER [FOLDER]: installs without a question.
+set_up() { command_line "$(windows_path "$1") /S${2:+ /D=$2}"; }
+
+# holds_the_files_of_the_zip FOLDER: whether nothing else than them and the uninstaller is there.
+holds_the_files_of_the_zip() {
+    unzip -Z1 "$zip" | sed --quiet 's,^Dezimo/\(.*[^/]\)$,\1,p' | sort >"$scratch/zipped"
+    (cd "$1" && find . -type f -not -name uninstall.exe -printf '%P\n') | sort |
+        diff "$scratch/zipped" -
 }
 
 # classes_of_machine ACTION KEY...: Wine looks for file types only among those of the machine, where
@@ -156,21 +179,25 @@ classes_of_machine() {
 }
 
 # In a folder with spaces and letters beyond ASCII, as is the name of the calculation that is opened.
-installed() {
+folder='C:\Geräte für µW\Dezimo'
+uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\Dezimo'
+
+start_wine_with_a_place() {
     start_wine
-    local folder='C:\Geräte für µW\Dezimo' class=Vantrel.Dezimo.Calculation
-    local unix=$WINEPREFIX/drive_c/Geräte\ für\ µW/Dezimo
-    local uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\Dezimo'
-    mkdir -p "${unix%/*}"
+    place=$WINEPREFIX/drive_c/Geräte\ für\ µW/Dezimo
+    mkdir -p "${place%/*}"
+}
+
+installed() {
+    start_wine_with_a_place
+    local class=Vantrel.Dezimo.Calculation
     local file=$WINEPREFIX/drive_c/Zwei\ Geräte,\ 10\ µW.dezimo
     printf '[DbConverterProfile]\np1=5W\n' >"$file"
     wine reg delete 'HKCU\Software\Vantrel' /f >/dev/null 2>&1 || true
     snapshot >"$scratch/before"
 
-    command_line "Z:${PWD//\//\\}\\${installer//\//\\} /S /D=$folder"
-    unzip -Z1 "$zip" | sed --quiet 's,^Dezimo/\(.*[^/]\)$,\1,p' | sort >"$scratch/zipped"
-    (cd "$unix" && find . -type f -not -name uninstall.exe -printf '%P\n') | sort |
-        diff "$scratch/zipped" -
+    set_up "$installer" "$folder"
+    holds_the_files_of_the_zip "$place"
     [[ -s $(find "$WINEPREFIX/drive_c/users" -path '*/Start Menu/Programs/Dezimo.lnk') ]] ||
         fail "no entry in the start menu"
     expect "file type" "$class" "$(query 'Software\Classes\.dezimo')"
@@ -190,6 +217,47 @@ installed() {
     command_line "$(query "$uninstall" QuietUninstallString)"
     snapshot | diff "$scratch/before" - || fail "the installer left something behind"
     expect "the person's state" 5W "$(query 'Software\Vantrel\Dezimo\DbConverterProfile' p1)"
+}
+
+# The installer of an earlier version, with a file that this one no longer has.
+make_earlier() {
+    local staged=$scratch/earlier
+    mkdir -p "$staged/gone"
+    touch "$staged/dezimo.exe" "$staged/gone/gone.txt"
+    # shellcheck disable=SC2016
+    printf 'Delete "$INSTDIR\\%s"\n' dezimo.exe 'gone\gone.txt' >"$staged.files.nsh"
+    # shellcheck disable=SC2016
+    printf 'RMDir "$INSTDIR\\gone"\n' >"$staged.folders.nsh"
+    makensis -V2 -DSTAGED="$staged" -DINSTALLER="$staged-setup.exe" \
+        build/windows/packaging/windows/dezimo.nsi
+}
+
+# Over an earlier version, to the same place and to another one; while the program runs it refuses.
+updated() {
+    start_wine_with_a_place
+    make_earlier
+    snapshot >"$scratch/before"
+    set_up "$scratch/earlier-setup.exe" "$folder"
+    [[ -e $place/gone/gone.txt ]] || fail "the earlier version is not there"
+    set_up "$installer"
+    holds_the_files_of_the_zip "$place"
+
+    wine "$folder\\dezimo.exe" &
+    local program=$! line
+    main_window >/dev/null
+    for line in "$(windows_path "$installer") /S" "\"$folder\\uninstall.exe\" /S _?=$folder"; do
+        ! run_line "$line" || fail "not refused: $line"
+        holds_the_files_of_the_zip "$place"
+    done
+    quit "$program"
+    wineserver --wait
+
+    set_up "$scratch/earlier-setup.exe" "$folder"
+    set_up "$installer" "${folder}2"
+    holds_the_files_of_the_zip "${place}2"
+    [[ ! -e $place ]] || fail "the earlier version is still there"
+    command_line "$(query "$uninstall" QuietUninstallString)"
+    snapshot | diff "$scratch/before" - || fail "the installer left something behind"
 }
 
 # picture_of_rest FILE: the screen, once two pictures in a row are the same.

@@ -54,9 +54,7 @@ class GroupReader
 {
 public:
     GroupReader(const QString &text, const Evaluator &evaluate) : m_text(text), m_evaluate(evaluate)
-    {
-        m_reversed.reserve(text.size());
-    }
+    {}
 
     BracketedResult read()
     {

@@ -20,9 +20,9 @@ enum class Unit { None, W, Dbm, Dbw };
 /// typed in, in which a derived partner is written.
 struct Operand
 {
-    Unit unit = Unit::None;
-    bool isNumber = false;
-    double watt = 0.0;
+    Unit unit;
+    bool isNumber;
+    double watt;
 };
 
 /// Up to this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm, which
@@ -67,12 +67,9 @@ double wattFrom(double value, Unit unit)
 
 Operand parseOperand(QString text)
 {
-    Operand operand;
-    operand.unit = takeUnit(text);
+    const Unit unit = takeUnit(text);
     const std::optional<double> value = readPrefixedValue(text);
-    operand.isNumber = value.has_value();
-    operand.watt = value ? wattFrom(*value, operand.unit) : 0.0;
-    return operand;
+    return {unit, value.has_value(), value ? wattFrom(*value, unit) : 0.0};
 }
 
 QString operandText(double watt, Unit unit)

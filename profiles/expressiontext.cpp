@@ -60,7 +60,6 @@ namespace ExpressionText {
 QString cleaned(const QString &typed)
 {
     QString text;
-    text.reserve(typed.size());
     for (const QChar character : typed) {
         if (!isDropped(character))
             text += folded(character);

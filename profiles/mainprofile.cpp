@@ -16,8 +16,8 @@ const StoredKeys &windowKeys()
         {"windowSize", "windowSize", QSize()},
         {"windowMode", "windowMode", 0},
         {"currentModule", "currentModule", 0},
-        {"decimalPlaces", "decimalPlaces", MainProfile::kDefaultDecimalPlaces, 0,
-         MainProfile::kMaximumDecimalPlaces},
+        {"decimalPlaces", "decimalPlaces", MainProfile::kDefaultDecimalPlaces,
+         upTo(MainProfile::kMaximumDecimalPlaces)},
     };
     return rows;
 }

@@ -22,7 +22,6 @@ std::optional<Operand> parseOperand(QString text, const ExpressionUnits &units)
         return text.contains(row.text);
     });
     text.remove(unit->text);
-    bool ok = false;
-    const double value = parsePrefixedValue(text, &ok);
-    return ok ? std::optional<Operand>(Operand{value, unit->index}) : std::nullopt;
+    const std::optional<double> value = readPrefixedValue(text);
+    return value ? std::optional<Operand>(Operand{*value, unit->index}) : std::nullopt;
 }

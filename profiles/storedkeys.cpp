@@ -85,11 +85,11 @@ QVariant wellFormed(const QVariant &stored, const QVariant &wanted)
     }
 }
 
-bool isWithinRange(const QVariant &value, const StoredKey &row)
+bool isWithin(const StoredRange &range, const QVariant &value)
 {
     if (value.userType() != QMetaType::Int && value.userType() != QMetaType::Double)
         return true;
-    return value.toDouble() >= row.minimum && value.toDouble() <= row.maximum;
+    return value.toDouble() >= range.minimum && value.toDouble() <= range.maximum;
 }
 
 } // namespace
@@ -111,6 +111,6 @@ void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &row
 {
     for (const StoredKey &row : rows) {
         const QVariant value = storedValue(settings, row.key, row.defaultValue);
-        profile.setProperty(row.property, isWithinRange(value, row) ? value : row.defaultValue);
+        profile.setProperty(row.property, isWithin(row.range, value) ? value : row.defaultValue);
     }
 }

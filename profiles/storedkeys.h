@@ -12,6 +12,19 @@
 class Profile;
 class QSettings;
 
+/// From minimum to maximum, both included.
+struct StoredRange
+{
+    int minimum = std::numeric_limits<int>::min();
+    int maximum = std::numeric_limits<int>::max();
+};
+
+/// What a selector holds: the index of one of its rows, the first of which is 0.
+constexpr StoredRange upTo(int last)
+{
+    return {0, last};
+}
+
 /**
  * One row of a profile's table of stored values. The same row drives saving and loading, so that
  * the two cannot drift apart. The type of the default is the type that is stored: text, int, bool,
@@ -22,8 +35,7 @@ struct StoredKey
     const char *key;
     const char *property;
     QVariant defaultValue;
-    int minimum = std::numeric_limits<int>::min();
-    int maximum = std::numeric_limits<int>::max();
+    StoredRange range = {};
 };
 
 using StoredKeys = std::vector<StoredKey>;

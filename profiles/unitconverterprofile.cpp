@@ -60,15 +60,15 @@ const StoredKeys &converterKeys()
 {
     static const StoredKeys rows{
         {"impedance", "impedance", QStringLiteral("50")},
-        {"logPowerUnit", "logPowerUnit", 0, 0, kLogPowerUnits.last()},
-        {"linPowerUnit", "linPowerUnit", 0, 0, kLinPowerUnits.last()},
-        {"logVoltageUnit", "logVoltageUnit", 0, 0, kLogVoltageUnits.last()},
-        {"linVoltageUnit", "linVoltageUnit", 0, 0, kLinVoltageUnits.last()},
+        {"logPowerUnit", "logPowerUnit", 0, upTo(kLogPowerUnits.last())},
+        {"linPowerUnit", "linPowerUnit", 0, upTo(kLinPowerUnits.last())},
+        {"logVoltageUnit", "logVoltageUnit", 0, upTo(kLogVoltageUnits.last())},
+        {"linVoltageUnit", "linVoltageUnit", 0, upTo(kLinVoltageUnits.last())},
         {"logPower", "logPower", QString()},
         {"linPower", "linPower", QString()},
         {"logVoltage", "logVoltage", QString()},
         {"linVoltage", "linVoltage", QString()},
-        {"voltageMode", "voltageMode", 0, 0, kVoltageModes.last()},
+        {"voltageMode", "voltageMode", 0, upTo(kVoltageModes.last())},
     };
     return rows;
 }
@@ -250,7 +250,6 @@ void UnitConverterProfile::rescaleLogVoltage()
     const UnitConversion &before = kLogVoltageUnits.at(m_previousLogVoltageUnit);
     const UnitConversion &now = kLogVoltageUnits.at(m_logVoltageUnit);
     rescale(kLogVoltage, [&](double level) { return now.fromBase(before.toBase(level)); });
-    m_previousLogVoltageUnit = m_logVoltageUnit;
 }
 
 void UnitConverterProfile::clearAll()

@@ -130,8 +130,7 @@ private:
     int m_linVoltageUnit = 0;
     QString m_impedance = QStringLiteral("50");
     int m_voltageMode = 0;
-    /// The unit in which the text of logVoltage stands. It differs from the chosen unit only
-    /// between a change of the unit and the rescaling that follows.
+    /// The unit that was chosen when the text of logVoltage was set, which is the one it stands in.
     int m_previousLogVoltageUnit = 0;
 };
 

@@ -48,13 +48,13 @@ const StoredKeys &textKeys()
 const StoredKeys &selectionKeys()
 {
     static const StoredKeys rows{
-        {"currentMode", "currentMode", 0, 0, 1},
-        {"pForwardUnit", "pForwardUnit", 0, 0, kLastUnit},
-        {"pReflectedUnit", "pReflectedUnit", 0, 0, kLastUnit},
-        {"pAbsorbedUnit", "pAbsorbedUnit", 0, 0, kLastUnit},
-        {"vForwardUnit", "vForwardUnit", 0, 0, kLastUnit},
-        {"vReflectedUnit", "vReflectedUnit", 0, 0, kLastUnit},
-        {"vAbsorbedUnit", "vAbsorbedUnit", 0, 0, kLastUnit},
+        {"currentMode", "currentMode", 0, upTo(1)},
+        {"pForwardUnit", "pForwardUnit", 0, upTo(kLastUnit)},
+        {"pReflectedUnit", "pReflectedUnit", 0, upTo(kLastUnit)},
+        {"pAbsorbedUnit", "pAbsorbedUnit", 0, upTo(kLastUnit)},
+        {"vForwardUnit", "vForwardUnit", 0, upTo(kLastUnit)},
+        {"vReflectedUnit", "vReflectedUnit", 0, upTo(kLastUnit)},
+        {"vAbsorbedUnit", "vAbsorbedUnit", 0, upTo(kLastUnit)},
     };
     return rows;
 }

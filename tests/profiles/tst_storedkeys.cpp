@@ -31,6 +31,7 @@ private Q_SLOTS:
     void loadsRowsInOrder();
     void aNumberOutsideTheRangeIsMalformed_data();
     void aNumberOutsideTheRangeIsMalformed();
+    void aSelectorBeginsAtZero();
 };
 
 namespace {
@@ -321,12 +322,18 @@ void StoredKeysTest::aNumberOutsideTheRangeIsMalformed()
     QFETCH(QByteArray, stored);
     QFETCH(int, expected);
 
-    const StoredKeys rows{{"key", "windowMode", 1, -2, 5}};
+    const StoredKeys rows{{"key", "windowMode", 1, {-2, 5}}};
     SettingsFile file("[General]\nkey=" + stored + "\n");
     MainProfile profile;
     profile.setWindowMode(4);
     loadKeys(profile, file.settings(), rows);
     QCOMPARE(profile.windowMode(), expected);
+}
+
+void StoredKeysTest::aSelectorBeginsAtZero()
+{
+    QCOMPARE(upTo(5).minimum, 0);
+    QCOMPARE(upTo(5).maximum, 5);
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, StoredKeysTest)

@@ -184,6 +184,8 @@ void KelPanelSubWidgetTest::collapseEndsWithARepaintOfTheFrame()
     QCoreApplication::processEvents();
     child<QFrame>("frame")->installEventFilter(this);
     m_section->collapse();
+    // Until the end a window system may have the frame painted for reasons of its own.
+    connect(folding(), &QAbstractAnimation::finished, this, [this] { m_framePaints = 0; });
     QTRY_VERIFY(!folding());
     QTRY_COMPARE(m_framePaints, 1);
 }

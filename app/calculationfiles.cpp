@@ -107,7 +107,5 @@ void CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringLi
 
 void CalculationFiles::loadDefaults(MainProfile &profile)
 {
-    // A store of an organization that does not exist holds nothing, so every key takes its default.
-    QSettings nothing(QStringLiteral("none"), QString());
-    SoundStore::read(nothing, [&](QSettings &store) { profile.loadModuleSettings(store); });
+    SoundStore::readDefaults([&](QSettings &store) { profile.loadModuleSettings(store); });
 }

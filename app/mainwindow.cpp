@@ -22,7 +22,6 @@
 #include <QMoveEvent>
 #include <QResizeEvent>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 
 #include <algorithm>
@@ -84,8 +83,7 @@ MainWindow::MainWindow(QWidget *parent)
             &MainWindow::onCurrentModuleChanged);
     connect(m_ui->menuDecimal_Places, &QMenu::aboutToShow, this,
             &MainWindow::onDecimalPlacesMenuAboutToShow);
-    QSettings settings;
-    SoundStore::read(settings, [this](QSettings &store) { m_profile.loadSettings(store); });
+    SoundStore::readSettings([this](QSettings &store) { m_profile.loadSettings(store); });
 
     onThemeChanged(Bright);
     applyWindowMode();
@@ -100,9 +98,7 @@ MainWindow::MainWindow(QWidget *parent)
 MainWindow::~MainWindow()
 {
     m_ui.reset();
-    QSettings settings;
-    if (SoundStore::makeWritable(settings.fileName()))
-        m_profile.saveSettings(settings);
+    SoundStore::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
 }
 
 void MainWindow::moveEvent(QMoveEvent *event)

@@ -6,15 +6,37 @@
 #include "initext.h"
 #include "mainprofile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryFile>
 
 namespace {
 
 /// Files beyond this are not even looked at, so that no file can exhaust the memory.
 constexpr qint64 kLargestFile = qint64(256) * 1024 * 1024;
+
+/// Where QSettings keeps a user's store, if that is a file at all: asked itself, it would read the
+/// file first, and wait if it is a pipe.
+QString nativeFile(const QString &store)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QLatin1Char('/') + store + QStringLiteral(".conf");
+}
+
+QString settingsFile()
+{
+    return nativeFile(QCoreApplication::organizationName() + QLatin1Char('/') +
+                      QCoreApplication::applicationName());
+}
+
+/// QSettings looks there for what the settings lack.
+QString organizationFile()
+{
+    return nativeFile(QCoreApplication::organizationName());
+}
 
 bool canBeLookedAt(const QString &fileName)
 {
@@ -62,7 +84,8 @@ public:
             return;
         const QByteArray text = contents(fileName);
         const QByteArray sound = IniText::sound(text, storedGroups());
-        if (sound.size() == text.size())
+        m_isOriginal = sound.size() == text.size();
+        if (m_isOriginal)
             m_fileName = fileName;
         else if (m_copy.open() && m_copy.write(sound) == sound.size() && m_copy.flush())
             m_fileName = m_copy.fileName();
@@ -71,30 +94,47 @@ public:
     /// The file itself if it is sound, else a copy of what is sound in it. If that cannot be made,
     /// it is a file that does not exist.
     QString fileName() const { return m_fileName; }
+    bool isOriginal() const { return m_isOriginal; }
 
 private:
     QString m_fileName = QStringLiteral(":/no such store");
     QTemporaryFile m_copy;
+    bool m_isOriginal = false;
 };
+
+bool isSound(const QString &fileName)
+{
+    return Substitute(fileName).isOriginal();
+}
 
 } // namespace
 
-void SoundStore::readFile(const QString &fileName, const Load &load)
+void SoundStore::readFile(const QString &fileName, const Use &load)
 {
     const Substitute substitute(fileName);
     QSettings file(substitute.fileName(), QSettings::IniFormat);
     load(file);
 }
 
-void SoundStore::read(QSettings &store, const Load &load)
+void SoundStore::readSettings(const Use &load)
 {
-    const Substitute substitute(store.fileName());
-    if (substitute.fileName() == store.fileName()) {
-        load(store);
+    if (!isSound(organizationFile()) || !isSound(settingsFile())) {
+        readFile(settingsFile(), load);
         return;
     }
-    QSettings file(substitute.fileName(), QSettings::IniFormat);
-    load(file);
+    QSettings settings;
+    load(settings);
+}
+
+void SoundStore::readDefaults(const Use &load)
+{
+    const QString organization = QStringLiteral("none");
+    if (!isSound(nativeFile(organization))) {
+        readFile(nativeFile(organization), load);
+        return;
+    }
+    QSettings defaults(organization, QString());
+    load(defaults);
 }
 
 bool SoundStore::makeWritable(const QString &fileName)
@@ -104,4 +144,12 @@ bool SoundStore::makeWritable(const QString &fileName)
     const QByteArray text = contents(fileName);
     const QByteArray sound = IniText::sound(text);
     return sound.size() == text.size() || (keepBeside(fileName) && replace(fileName, sound));
+}
+
+void SoundStore::writeSettings(const Use &save)
+{
+    if (!canBeLookedAt(organizationFile()) || !makeWritable(settingsFile()))
+        return;
+    QSettings settings;
+    save(settings);
 }

@@ -4,133 +4,34 @@
 #include "calculationfiles.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
-#include "mainwindow.h"
-#include "soundstore.h"
+#include "soundstorecase.h"
 #include "testmain.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QSettings>
 #include <QTest>
 
-#include <sys/stat.h>
+using namespace HostileStore;
 
-namespace {
-
-constexpr int kMebibyte = 1024 * 1024;
-
-/// @p value of the key p1 of the dB converter, and sound neighbors before and after it.
-QByteArray amongNeighbors(const QByteArray &value)
-{
-    return "[DbConverterProfile]\np2=7W\np1=" + value + "\npDb=3.00\ncurrentMode=1\n";
-}
-
-QByteArray escapedInteger(quint32 value)
-{
-    QByteArray bytes;
-    for (const int shift : {24, 16, 8, 0})
-        bytes += "\\x" + QByteArray::number((value >> unsigned(shift)) & 0xffU, 16);
-    return bytes;
-}
-
-/// A list that holds a list that holds a list and so on; each level is the type's number and
-/// the count of elements.
-QByteArray deeplyNestedLists()
-{
-    const QByteArray level = escapedInteger(QMetaType::QVariantList) + escapedInteger(1);
-    return "@Variant(" + level.repeated(200000) + ")";
-}
-
-/// Several types say of themselves that they have four thousand million elements.
-QByteArray hugeCount(int type)
-{
-    return "@Variant(" + escapedInteger(quint32(type)) + escapedInteger(0xfffffffeU) + ")";
-}
-
-QByteArray manyGroups()
-{
-    QByteArray text;
-    for (int group = 0; group < 30000; ++group)
-        text.append("[g").append(QByteArray::number(group)).append("]\np1=5W\n");
-    return text + amongNeighbors("5W");
-}
-
-void write(const QString &fileName, const QByteArray &text)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("cannot write %s", qPrintable(fileName));
-}
-
-QByteArray read(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
-
-/// Files that nobody in his senses made, as calculation files and as the application settings.
-class SoundStoreTest : public QObject
+/// Such files as calculation files.
+class SoundStoreTest : public SoundStoreCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void aBadValueLeavesItsNeighbors_data();
     void aBadValueLeavesItsNeighbors();
     void bytesWithoutKeysGiveTheDefaults_data();
     void bytesWithoutKeysGiveTheDefaults();
-    void theSettingsAreReadAsCarefully_data();
-    void theSettingsAreReadAsCarefully();
     void whatIsNoFileIsLeftAlone_data();
     void whatIsNoFileIsLeftAlone();
     void aPipeIsNotOpened();
-    void theDamagedSettingsAreKeptBeside();
     void savingOverADamagedFileKeepsItBeside();
     void aDamagedFileThatCannotBeKeptIsLeftAlone();
     void saveKeepsForeignKeys();
     void hugeFilesAreLeftAlone();
-
-private:
-    static QString settingsFile() { return QSettings().fileName(); }
-    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
-    void restart();
-    QString fieldText(const char *name) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<MainWindow> m_window;
 };
-
-void SoundStoreTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QDir(QFileInfo(settingsFile()).path()).removeRecursively();
-    MainProfile::instance().setWindowPosition({});
-    restart();
-    MainProfile::instance().dbConverter().setP1(QStringLiteral("1W"));
-}
-
-void SoundStoreTest::cleanup()
-{
-    m_window.reset();
-}
-
-/// A new window reads what is stored now.
-void SoundStoreTest::restart()
-{
-    m_window.reset();
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-}
-
-QString SoundStoreTest::fieldText(const char *name) const
-{
-    return m_window->findChild<QLineEdit *>(QLatin1String(name))->text();
-}
 
 void SoundStoreTest::aBadValueLeavesItsNeighbors_data()
 {
@@ -188,51 +89,6 @@ void SoundStoreTest::bytesWithoutKeysGiveTheDefaults()
     QCOMPARE(fieldText("p2LineEdit"), QString());
 }
 
-void SoundStoreTest::theSettingsAreReadAsCarefully_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("p1");
-    QTest::addColumn<QString>("p2");
-
-    const QString none;
-    QTest::newRow("lists within lists") << amongNeighbors(deeplyNestedLists()) << none << "7W";
-    QTest::newRow("a huge count") << amongNeighbors(hugeCount(QMetaType::QVariantList)) << none
-                                  << "7W";
-    QTest::newRow("100 MiB of one key")
-        << amongNeighbors(QByteArray(100 * kMebibyte, '5')) << none << "7W";
-    QTest::newRow("100 MiB of zeros") << QByteArray(100 * kMebibyte, '\0') << none << none;
-    QTest::newRow("thirty thousand groups") << manyGroups() << "5W"
-                                            << "7W";
-    QTest::newRow("noise") << QByteArray("\0\1\2\377\376[[[==\n\r\\x", 15) << none << none;
-    QTest::newRow("a window of impossible kinds")
-        << QByteArray("[MainProfile]\nwindowPosition=@Size(1 2)\nwindowSize=@Variant(\n"
-                      "windowMode=9999999999\ncurrentModule=@Rect(1 2 3 4)\ndecimalPlaces=nan\n") +
-               amongNeighbors("5W")
-        << "5W"
-        << "7W";
-}
-
-void SoundStoreTest::theSettingsAreReadAsCarefully()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, p1);
-    QFETCH(QString, p2);
-
-    m_window.reset();
-    write(settingsFile(), text);
-    m_window = std::make_unique<MainWindow>();
-    QCOMPARE(fieldText("p1LineEdit"), p1);
-    QCOMPARE(fieldText("p2LineEdit"), p2);
-    QCOMPARE(MainProfile::instance().windowMode(), 0);
-    QCOMPARE(MainProfile::instance().currentModule(), 0);
-    QCOMPARE(MainProfile::instance().decimalPlaces(), 3);
-
-    MainProfile::instance().dbConverter().setP1(QStringLiteral("2W"));
-    restart();
-    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("2W"));
-    QCOMPARE(fieldText("p2LineEdit"), p2);
-}
-
 void SoundStoreTest::whatIsNoFileIsLeftAlone_data()
 {
     QTest::addColumn<QString>("name");
@@ -257,27 +113,10 @@ void SoundStoreTest::whatIsNoFileIsLeftAlone()
 void SoundStoreTest::aPipeIsNotOpened()
 {
     const QString name = path("pipe.dezimo");
-    QCOMPARE(mkfifo(qPrintable(name), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(makePipe(name));
     CalculationFiles::save(MainProfile::instance(), name);
     CalculationFiles::open(MainProfile::instance(), name);
     QCOMPARE(fieldText("p1LineEdit"), QString());
-}
-
-void SoundStoreTest::theDamagedSettingsAreKeptBeside()
-{
-    m_window.reset();
-    const QByteArray damaged = amongNeighbors("@Variant(\\0)") + "[Other]\nkey=1\n";
-    write(settingsFile(), damaged);
-    m_window = std::make_unique<MainWindow>();
-    QCOMPARE(read(settingsFile()), damaged);
-    QVERIFY(!QFileInfo::exists(settingsFile() + QStringLiteral(".damaged")));
-    m_window.reset();
-    QCOMPARE(read(settingsFile() + QStringLiteral(".damaged")), damaged);
-    const QSettings settings;
-    QCOMPARE(settings.value(QStringLiteral("DbConverterProfile/p1")).toString(), QString());
-    QCOMPARE(settings.value(QStringLiteral("DbConverterProfile/p2")).toString(),
-             QStringLiteral("7W"));
-    QCOMPARE(settings.value(QStringLiteral("Other/key")).toString(), QStringLiteral("1"));
 }
 
 void SoundStoreTest::savingOverADamagedFileKeepsItBeside()

@@ -65,6 +65,12 @@ def size(out):
     return re.search(r"size (.*)$", out, re.MULTILINE)[1]
 
 
+def sparse(path, size):
+    """A file of @p size bytes that takes no room on the disk."""
+    path.touch()
+    os.truncate(path, size)
+
+
 def measure(name, length, prepare, prefix=()):
     """@p prepare makes the file at a path. Prints a row of the table, returns whether it is good."""
     home = Home()
@@ -93,6 +99,10 @@ def main():
     good = [measure("a folder", 0, os.mkdir)]
     unreadable = lambda path: (path.write_text(store), path.chmod(0))
     good.append(measure("unreadable", 0, unreadable, NOBODY))
+    good.append(measure("a pipe", 0, os.mkfifo))
+    good.append(measure("a device without end", 0, lambda path: path.symlink_to("/dev/zero")))
+    good.append(measure("2.5 GiB of zeros", 0, lambda path: sparse(path, 2560 * MIB)))
+    good.append(measure("5 GiB of zeros", 0, lambda path: sparse(path, 5120 * MIB)))
     for name, text in hostile_texts(store):
         good.append(measure(name, len(text), lambda path: path.write_bytes(text)))
     print(f"{sum(good)} of {len(good)} good")

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 
-# Compiles the sources of sysinfo/ for Windows without linking them, so that a change made elsewhere
-# cannot break unseen what only Windows builds. The compiler is the one of Debian's package
+# Compiles for Windows, without linking them, the sources of sysinfo/ and the tests that only Windows
+# has, so that a change made elsewhere cannot break them unseen. The compiler is the one of Debian's package
 # g++-mingw-w64-x86-64-posix; Qt's headers are those of the host (Debian's qtbase5-dev), of which
 # QtCore's take their Windows branch from the compiler's own definitions. Language, definitions and
 # warnings are read from cmake/DezimoOptions.cmake; every warning is an error.
@@ -20,14 +20,22 @@ qt_headers=$(QT_SELECT=qt5 qmake -query QT_INSTALL_HEADERS)
 options=cmake/DezimoOptions.cmake
 warnings=$(grep -o -e '-W[a-z][a-z0-9=-]*' "$options")
 definitions=$(sed -n 's/^ *\(QT_[A-Z_]*\(=[0-9a-fx]*\)\{0,1\}\))*$/-D\1/p' "$options")
+moc=$(QT_SELECT=qt5 qmake -query QT_HOST_BINS)/moc
+made=$(mktemp -d)
+trap 'rm -rf "$made"' EXIT
 
-for source in sysinfo/*.cpp; do
+for source in sysinfo/*.cpp tests/support/privateregistry.cpp tests/support/testmain.cpp \
+    tests/sysinfo/windowsmachine.cpp tests/sysinfo/tst_win32host.cpp tests/sysinfo/tst_windowsfacts.cpp; do
     # What sysinfo/CMakeLists.txt leaves out on Windows.
     case $source in
         */localesetting.cpp | */osrelease.cpp | */unixosinfo.cpp | */visalibrary.cpp) continue ;;
     esac
     echo "$source"
+    case $source in
+        */tst_*) "$moc" "$source" -o "$made/$(basename "$source" .cpp).moc" ;;
+    esac
     # shellcheck disable=SC2086
     "$compiler" -fsyntax-only -std=c++17 $warnings -Werror $definitions \
-        -isystem "$qt_headers" -isystem "$qt_headers/QtCore" -Isysinfo "$source"
+        -isystem "$qt_headers" -isystem "$qt_headers/QtCore" -isystem "$qt_headers/QtTest" \
+        -isystem "$made" -Isysinfo -Itests/support "$source"
 done

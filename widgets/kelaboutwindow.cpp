@@ -4,6 +4,7 @@
 #include "kelaboutwindow.h"
 
 #include "kelmessagebox.h"
+#include "kelscrollbar.h"
 #include "osinfo.h"
 #include "ui_kelaboutwindow.h"
 
@@ -155,6 +156,8 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     m_copyButton->setObjectName(QStringLiteral("copyButton"));
     // Return is not to copy from wherever it is pressed.
     m_copyButton->setAutoDefault(false);
+    for (QAbstractScrollArea *area : findChildren<QAbstractScrollArea *>())
+        KelScrollBar::installOn(*area);
     connect(m_copyButton, &QPushButton::clicked, this, &KelAboutWindow::copy_clicked);
 
     showDrivers();

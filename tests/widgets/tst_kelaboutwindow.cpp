@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "aboutwindowcase.h"
+#include "kelscrollbar.h"
 #include "resources.h"
 #include "testmain.h"
 #include "ui_kelaboutwindow.h"
@@ -121,6 +122,10 @@ void KelAboutWindowTest::form()
     QVERIFY(child<QLabel>("product_page")->openExternalLinks());
     QVERIFY(child<QLabel>("mail")->openExternalLinks());
     QVERIFY(child<QTextEdit>("license_box")->isReadOnly());
+    for (const char *name : {"license_box", "scroll_driver", "scroll_system"})
+        QVERIFY2(
+            qobject_cast<KelScrollBar *>(child<QAbstractScrollArea>(name)->verticalScrollBar()),
+            name);
 }
 
 void KelAboutWindowTest::designTexts()

@@ -14,6 +14,7 @@ class KelScrollPageTest : public QObject
 
 private Q_SLOTS:
     void aPageOfAScrollAreaIsItsContents();
+    void bothScrollBarsAreThoseOfTheToolkit();
     void aPageOfAnotherWidgetStaysItsChild();
 };
 
@@ -22,6 +23,15 @@ void KelScrollPageTest::aPageOfAScrollAreaIsItsContents()
     KelScrollArea area;
     KelScrollPage page(&area);
     QCOMPARE(area.widget(), &page);
+}
+
+void KelScrollPageTest::bothScrollBarsAreThoseOfTheToolkit()
+{
+    const KelScrollArea area;
+    for (const QScrollBar *bar : {area.verticalScrollBar(), area.horizontalScrollBar()})
+        QVERIFY(qobject_cast<const KelScrollBar *>(bar));
+    QCOMPARE(area.verticalScrollBar()->orientation(), Qt::Vertical);
+    QCOMPARE(area.horizontalScrollBar()->orientation(), Qt::Horizontal);
 }
 
 void KelScrollPageTest::aPageOfAnotherWidgetStaysItsChild()

@@ -65,6 +65,7 @@ void IniTextTest::keepsHarmlessText_data()
     row("blanks only", " \n\t\r\n");
     row("no line break at the end", "[a]\nb=c");
     row("a key without a value", "a=\nb");
+    row("blanks and quotes at the end", "a= \"\" ");
     row("a comment", "; a=@Variant(\nb=c\n");
     row("a comment behind a value", "a=b;c=@Variant(\nd=e\n");
     row("a comment after blanks", "  ;@Variant(\n\n;=@Variant(");
@@ -112,6 +113,7 @@ void IniTextTest::dropsAHarmfulLine_data()
     row("an at sign in base 8", "b=\\100Variant(");
     row("a backslash before a letter that means nothing", "b=\\q@Variant(");
     row("a backslash before an x without digits", "b=\\x@Variant(");
+    row("a backslash before an x at the end", "b=\\x");
     row("a backslash before a digit beyond base 8", "b=\\8@Variant(");
     row("a continued line", "b=\\\n@Variant(");
     row("a line continued by two characters", "b=\\\r\n@Variant(");
@@ -187,6 +189,7 @@ void IniTextTest::keepsNamedGroupsOnly_data()
     row("named ones", "[A]\na=1\n[B]\nb=2\n", "[A]\na=1\n[B]\nb=2\n");
     row("another one between", "[A]\na=1\n[C]\nc=1\n[B]\nb=2\n", "[A]\na=1\n\n\n[B]\nb=2\n");
     row("keys before the first", "a=0\n[A]\na=1\n", "\n[A]\na=1\n");
+    row("one letter before the first", "a\n[A]\na=1\n", "\n[A]\na=1\n");
     row("one that comes again", "[A]\na=1\n[C]\n[A]\nd=2", "[A]\na=1\n\n[A]\nd=2");
     row("blanks about the name", "[ A\t]\na=1\n", "[ A\t]\na=1\n");
     row("words after the name", "[A] =C\na=1\n", "[A] =C\na=1\n");

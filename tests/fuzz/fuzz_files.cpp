@@ -56,8 +56,9 @@ bool isHarmless(const QVariant &value)
 
 void requireHarmlessValues(const QSettings &file)
 {
-    const QStringList keys = file.allKeys();
-    for (const QString &key : keys) {
+    QStringList keys = file.allKeys();
+    keys.removeAll(QString()); // read, but never handed out
+    for (const QString &key : qAsConst(keys)) {
         const QVariant value = file.value(key);
         const bool isList = value.userType() == QMetaType::QVariantList;
         const QVariantList elements = isList ? value.toList() : QVariantList{value};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindowcase.h"
+#include "windowsystem.h"
 
 #include <QSettings>
 #include <QTest>
@@ -22,7 +23,7 @@ void MainWindowCase::openWindow()
 {
     m_window = std::make_unique<MainWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
 }
 
 void MainWindowCase::store(const char *key, const QVariant &value)

@@ -7,6 +7,7 @@
 #include "kelapplication.h"
 #include "kelmessagebox.h"
 #include "testmain.h"
+#include "windowsystem.h"
 #include "words.h"
 
 #include <QApplication>
@@ -140,7 +141,7 @@ void AccessibleDialogsTest::theAboutWindow()
                          std::make_unique<FakeOsInfo>(facts));
     about.setAttribute(Qt::WA_DeleteOnClose, false);
     about.show();
-    QVERIFY(QTest::qWaitForWindowActive(&about));
+    QVERIFY(waitForKeyboard(about));
     auto *tabs = about.findChild<QTabBar *>();
     tabs->setCurrentIndex(tab);
     tabs->setFocus();
@@ -193,7 +194,7 @@ void AccessibleDialogsTest::messages()
     KelMessageBox box(state, QStringLiteral("Calculation"), QStringLiteral("Keep the values?"),
                       QDialogButtonBox::Yes | QDialogButtonBox::No);
     box.show();
-    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QVERIFY(waitForKeyboard(box));
     const QAccessibleInterface *window = QAccessible::queryAccessibleInterface(&box);
     QCOMPARE(window->role(), QAccessible::Dialog);
     QCOMPARE(window->text(QAccessible::Name), QStringLiteral("Calculation"));
@@ -207,7 +208,7 @@ void AccessibleDialogsTest::aMessageWalksThroughItsButtons()
     KelMessageBox box(KelMessageBox::StateQuestion, QString(), QStringLiteral("Text"),
                       QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     box.show();
-    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QVERIFY(waitForKeyboard(box));
     QCOMPARE(listed(stops()), listed(R"(
         OK
         Cancel)"));

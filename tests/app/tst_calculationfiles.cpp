@@ -7,6 +7,7 @@
 #include "mainwindow.h"
 #include "propertyvalues.h"
 #include "testmain.h"
+#include "windowsystem.h"
 #include "words.h"
 
 #include <QAction>
@@ -67,7 +68,7 @@ void CalculationFilesTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_window = std::make_unique<MainWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
 }
 
 void CalculationFilesTest::cleanup()

@@ -6,6 +6,7 @@
 #include "mainprofile.h"
 #include "mainwindow.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -104,7 +105,7 @@ void ExamplesTest::init()
     MainProfile::instance().loadSettings(settings);
     m_window = std::make_unique<MainWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
 }
 
 QWidget &ExamplesTest::field(const Entry &entry) const

@@ -8,6 +8,7 @@
 #include "kelmessagebox.h"
 #include "mainwindowcase.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -174,7 +175,7 @@ void FocusMarkTest::inTheAboutWindow()
     about.setAttribute(Qt::WA_DeleteOnClose, false);
     about.onThemeChanged(theme);
     about.show();
-    QVERIFY(QTest::qWaitForWindowActive(&about));
+    QVERIFY(waitForKeyboard(about));
     auto *tabs = about.findChild<QTabBar *>();
     tabs->setCurrentIndex(tab);
     tabs->setFocus();
@@ -197,7 +198,7 @@ void FocusMarkTest::inTheMessageBox()
     KelMessageBox box(KelMessageBox::StateQuestion, QString(), QStringLiteral("Text"),
                       QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Cancel);
     box.show();
-    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QVERIFY(waitForKeyboard(box));
 
     int stops = 0;
     QCOMPARE(stopsWithoutMark(&stops).join(QLatin1String("; ")), QString());

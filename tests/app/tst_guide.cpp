@@ -7,6 +7,7 @@
 #include "mainprofile.h"
 #include "mainwindow.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -110,7 +111,7 @@ void GuideTest::initTestCase()
 {
     m_window = std::make_unique<MainWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
 }
 
 void GuideTest::cleanupTestCase()

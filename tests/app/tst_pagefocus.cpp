@@ -5,6 +5,7 @@
 #include "mainprofile.h"
 #include "mainwindow.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QListWidget>
 #include <QSettings>
@@ -63,7 +64,7 @@ void PageFocusTest::openWindow(int module)
     QSettings().setValue(QStringLiteral("MainProfile/currentModule"), module);
     m_window = std::make_unique<MainWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
 }
 
 void PageFocusTest::click(int row)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculatorpage.h"
+#include "windowsystem.h"
 
 #include <QMoveEvent>
 #include <QTest>
@@ -50,7 +51,7 @@ void CalculatorPage::show()
     m_page->resize(900, 560);
     m_page->show();
     m_page->setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+    QVERIFY(waitForKeyboard(*m_page));
 }
 
 void CalculatorPage::type(const char *text)

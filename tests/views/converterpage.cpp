@@ -4,6 +4,7 @@
 #include "converterpage.h"
 
 #include "kellineedit.h"
+#include "windowsystem.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,7 +17,7 @@ ConverterPage::ConverterPage(QWidget &page) : m_page(page)
     m_page.resize(918, 583);
     m_page.show();
     m_page.activateWindow();
-    if (!QTest::qWaitForWindowActive(&m_page))
+    if (!waitForKeyboard(m_page))
         qFatal("the page does not become active");
 }
 

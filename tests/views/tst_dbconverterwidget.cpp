@@ -5,6 +5,7 @@
 #include "mainprofile.h"
 #include "settingsfile.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -71,7 +72,7 @@ void DbConverterWidgetTest::show(int tab)
 {
     m_page->findChild<QTabWidget *>(QStringLiteral("mainTab"))->setCurrentIndex(tab);
     m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+    QVERIFY(waitForKeyboard(*m_page));
 }
 
 void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun_data()

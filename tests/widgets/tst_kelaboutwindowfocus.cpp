@@ -4,6 +4,7 @@
 #include "aboutwindowcase.h"
 #include "resources.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QApplication>
 #include <QTabBar>
@@ -83,7 +84,7 @@ void KelAboutWindowFocusTest::reachesAllInOrder()
     qApp->setStyleSheet(themeSheet(QStringLiteral("_dark")));
     open();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(waitForKeyboard(*m_window));
     child<QTabWidget>("tabs")->setCurrentIndex(tab);
     QCOMPARE(focusRound(Qt::Key_Tab), names);
 

@@ -134,8 +134,11 @@ void KelAboutWindowSupportTest::copyReplacesAllFormats()
     earlier->setHtml(QStringLiteral("<b>earlier</b>"));
     QGuiApplication::clipboard()->setMimeData(earlier);
     pressCopy();
-    QCOMPARE(QGuiApplication::clipboard()->mimeData()->formats(),
-             QStringList{QStringLiteral("text/plain")});
+    // Some window systems name the encoding in a second format.
+    const QStringList formats = QGuiApplication::clipboard()->mimeData()->formats();
+    QVERIFY(formats.contains(QStringLiteral("text/plain")));
+    for (const QString &format : formats)
+        QVERIFY2(format.startsWith(QLatin1String("text/plain")), qPrintable(format));
 }
 
 void KelAboutWindowSupportTest::onlyTheButtonItselfCopies()

@@ -3,6 +3,7 @@
 
 #include "kellineedit.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -158,7 +159,7 @@ void KelLineEditTest::labelsAreNeitherMarkupNorInTheWay()
     QCOMPARE(suffix->textFormat(), Qt::PlainText);
 
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
     m_edit->clearFocus();
     QVERIFY(!m_edit->hasFocus());
     const QPoint onLabel = suffix->mapTo(m_window.get(), suffix->rect().center());

@@ -3,6 +3,7 @@
 
 #include "kellistwidget.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -41,7 +42,7 @@ void KelListWidgetTest::init()
     layout->addWidget(m_list);
     m_window->show();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
     m_edit->setFocus();
     QVERIFY(m_edit->hasFocus());
 }

@@ -4,6 +4,7 @@
 #include "keliconwidget.h"
 #include "kelpanelsubwidget.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -307,7 +308,7 @@ void KelPanelSubWidgetTest::aSecondClickUnfolds()
 void KelPanelSubWidgetTest::foldedContentTakesNoFocus()
 {
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForKeyboard(*m_window));
     collapseWholly();
     QVERIFY(!m_content->isVisible());
     auto *title = child<QPushButton>("titleButton");

@@ -3,6 +3,7 @@
 
 #include "keltogglebutton.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -213,7 +214,7 @@ void KelToggleButtonTest::arrowKeysMoveTheChoice()
     m_switch->setCurrentIndex(0);
     m_switch->show();
     m_switch->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_switch.get()));
+    QVERIFY(waitForKeyboard(*m_switch));
     buttons().at(0)->setFocus();
     QSignalSpy indexes(m_switch.get(), &KelToggleButton::currentIndexChanged);
 
@@ -286,7 +287,7 @@ void KelToggleButtonTest::screenReadersChooseAnItem()
 
     // What every widget can do, it still can.
     m_switch->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_switch.get()));
+    QVERIFY(waitForKeyboard(*m_switch));
     last->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     QVERIFY(buttons().at(2)->hasFocus());
 

@@ -79,8 +79,10 @@ void IniTextTest::keepsHarmlessText_data()
     row("a comma within quotes", "a=\"b,@Variant(\"\n");
     row("a comma after a backslash", "a=b\\,@Variant(\n");
     row("escaped characters at the beginning", "a=\\x3a9\nb=\\n\nc=\\101\nd=\\\"\ne=\\x140z\n");
+    row("escaped characters of one digit", "a=\\x0\nb=\\xa\nc=\\xf\nd=\\0\ne=\\7\n");
     row("a key in words", "@Variant(=a\n");
     row("a second equals sign", "a=b=@Variant(\n");
+    row("a second equals sign after no key", "=a=@Variant(\n");
     row("a byte order mark", "\xef\xbb\xbf[a]\nb=c\n");
 }
 
@@ -150,6 +152,7 @@ void IniTextTest::findsTheEndOfALine_data()
     row("quotes in a key", "a\"=b\nc=@Variant(\"=d\n", "a\"=b\nc=@Variant(\"=d\n");
     row("quotes after a backslash", "a=\\\"b\nc=@Variant(\n", "a=\\\"b\n\n");
     row("a backslash at the end", "a=@Variant(\\", "");
+    row("nothing but a backslash at the end", "a=\\", "");
     row("quotes that are never closed", "a=@Variant(\"\nb=c\n", "");
     row("two line feeds after a backslash", "a=b\\\n\nc=@Variant(\n", "a=b\\\n\n\n");
     row("a pair of breaks after a backslash", "a=b\\\n\rc=@Variant(\n", "a=b\\\n\rc=@Variant(\n");

@@ -23,6 +23,8 @@ private Q_SLOTS:
 
     void tellsWhatItIsForAndWhatIsChosen();
     void theChoiceIsReadableAsText();
+    void theTextCannotBeChanged();
+    void itsTextIsAsLargeAsTheBox();
     void opensItsList();
     void itsListHasItsName();
     void aListItemIsSelectedByTheChoice();
@@ -69,6 +71,42 @@ void AccessibleComboBoxTest::theChoiceIsReadableAsText()
     QCOMPARE(text->text(1, 3), QStringLiteral("Bm"));
     QCOMPARE(text->selectionCount(), 0);
     QVERIFY(!interface()->editableTextInterface());
+}
+
+/// What a screen reader may try all the same does nothing.
+void AccessibleComboBoxTest::theTextCannotBeChanged()
+{
+    QAccessibleTextInterface *text = interface()->textInterface();
+    text->addSelection(0, 2);
+    text->setSelection(0, 0, 2);
+    text->removeSelection(0);
+    text->setCursorPosition(2);
+    text->scrollToSubstring(0, 2);
+    act(QStringLiteral("no such action"));
+    int start = 7;
+    int end = 7;
+    text->selection(0, &start, &end);
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 0);
+    QCOMPARE(text->cursorPosition(), 0);
+    QCOMPARE(m_box->currentText(), QStringLiteral("dBm"));
+}
+
+void AccessibleComboBoxTest::itsTextIsAsLargeAsTheBox()
+{
+    const QAccessibleTextInterface *text = interface()->textInterface();
+    const QRect box = interface()->rect();
+    QCOMPARE(text->characterRect(0), box);
+    QCOMPARE(text->characterRect(2), box);
+    QCOMPARE(text->characterRect(-1), QRect());
+    QCOMPARE(text->characterRect(3), QRect());
+    QCOMPARE(text->offsetAtPoint(box.center()), 0);
+    QCOMPARE(text->offsetAtPoint(box.bottomRight() + QPoint(1, 1)), -1);
+    int start = 7;
+    int end = 7;
+    QCOMPARE(text->attributes(1, &start, &end), QString());
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 3);
 }
 
 void AccessibleComboBoxTest::opensItsList()

@@ -3,6 +3,7 @@
 
 #include "kellineedit.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -25,13 +26,18 @@ private Q_SLOTS:
     void editsAsAPersonDoes_data();
     void editsAsAPersonDoes();
     void aReplacedTextIsEditedToo();
+    void aValueThatIsSetIsEditedToo();
     void whatTheValidatorRefusesIsNotPutIn();
     void pressIsTheReturnKey();
+    void pressDoesNothingInAReadOnlyEdit();
+    void theFocusCanBeGiven();
     void readsPartsOfTheText_data();
     void readsPartsOfTheText();
     void movesTheCursorWithinTheText_data();
     void movesTheCursorWithinTheText();
     void selectsAndDeselects();
+    void scrollsToAPart();
+    void theWholeTextLooksAlike();
     void knowsWhereACharacterIs();
 
 private:
@@ -136,6 +142,16 @@ void AccessibleLineEditTest::aReplacedTextIsEditedToo()
     QCOMPARE(edited.size(), 1);
 }
 
+void AccessibleLineEditTest::aValueThatIsSetIsEditedToo()
+{
+    const QSignalSpy edited(m_edit.get(), &QLineEdit::textEdited);
+    interface()->setText(QAccessible::Value, QStringLiteral("7 V"));
+    QCOMPARE(m_edit->text(), QStringLiteral("7 V"));
+    QVERIFY(!edited.isEmpty());
+    interface()->setText(QAccessible::Name, QStringLiteral("Voltage"));
+    QCOMPARE(m_edit->text(), QStringLiteral("7 V"));
+}
+
 void AccessibleLineEditTest::whatTheValidatorRefusesIsNotPutIn()
 {
     m_edit->setText(QStringLiteral("12"));
@@ -157,6 +173,23 @@ void AccessibleLineEditTest::pressIsTheReturnKey()
     m_edit->setEnabled(false);
     interface()->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(returned.size(), 1);
+}
+
+void AccessibleLineEditTest::pressDoesNothingInAReadOnlyEdit()
+{
+    m_edit->setReadOnly(true);
+    const QSignalSpy pressed(m_edit.get(), &QLineEdit::returnPressed);
+    interface()->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QVERIFY(pressed.isEmpty());
+}
+
+void AccessibleLineEditTest::theFocusCanBeGiven()
+{
+    m_edit->show();
+    QVERIFY(waitForKeyboard(*m_edit));
+    m_edit->clearFocus();
+    interface()->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(m_edit->hasFocus());
 }
 
 void AccessibleLineEditTest::readsPartsOfTheText_data()
@@ -217,6 +250,21 @@ void AccessibleLineEditTest::selectsAndDeselects()
     text->selection(0, &start, &end);
     QCOMPARE(start, 0);
     QCOMPARE(end, 0);
+}
+
+void AccessibleLineEditTest::scrollsToAPart()
+{
+    interface()->textInterface()->scrollToSubstring(2, 4);
+    QCOMPARE(m_edit->cursorPosition(), 2);
+}
+
+void AccessibleLineEditTest::theWholeTextLooksAlike()
+{
+    int start = 7;
+    int end = 7;
+    QCOMPARE(interface()->textInterface()->attributes(3, &start, &end), QString());
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 6);
 }
 
 /// Wherever the cursor is, a point in a character's place is found again as that character.

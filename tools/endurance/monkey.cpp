@@ -8,8 +8,10 @@
 #include "mainwindow.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPixmapCache>
 #include <QTest>
 
 #include <array>
@@ -19,6 +21,9 @@ namespace {
 
 constexpr qint64 kSampleMilliseconds = 5000;
 constexpr int kMostWindows = 4;
+constexpr int kLongestPaste = 100;
+constexpr int kStepsBetweenDefaults = 500;
+constexpr QSize kSampleSize(1000, 700);
 
 const QString &typed()
 {
@@ -49,6 +54,14 @@ QList<QWidget *> shownWindows()
             shown += window;
     }
     return shown;
+}
+
+/// Not by QPixmapCache::clear(), which keeps the names of what it forgets.
+void emptyPictureCache()
+{
+    const int limit = QPixmapCache::cacheLimit();
+    QPixmapCache::setCacheLimit(0);
+    QPixmapCache::setCacheLimit(limit);
 }
 
 } // namespace
@@ -103,6 +116,7 @@ void Monkey::step()
         sampleMemory();
     else
         act(*top);
+    boundUndo();
 }
 
 bool Monkey::isAtRest()
@@ -111,14 +125,20 @@ bool Monkey::isAtRest()
            QApplication::activeModalWidget() == nullptr;
 }
 
-/// Always in the same state, without what was typed: only then the samples compare. What the
-/// program has freed goes back to the system first.
+/// Always in the same state, without what was typed, in a window of one size and with Qt's cache of
+/// pictures empty, which slowly fills up to its 10 MiB: only then the samples compare. What
+/// the program has freed goes back to the system first.
 void Monkey::sampleMemory()
 {
+    m_next.stop();
     tidyUp();
     CalculationFiles::loadDefaults(MainProfile::instance());
+    m_window->resize(kSampleSize);
+    QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    emptyPictureCache();
     malloc_trim(0);
+    m_next.start();
     m_memory.sample();
     m_nextSample += kSampleMilliseconds;
 }
@@ -206,6 +226,17 @@ void Monkey::type(QWidget &top)
     else
         QTest::keyClick(focused, kShortcuts.at(size_t(below(int(kShortcuts.size())))),
                         Qt::AltModifier);
+}
+
+/// A field of Qt keeps every character that was typed or pasted for Undo, 20 bytes each, until the
+/// program sets its text, and even then keeps the room for them. The most that one field ever took
+/// would show as a trend of the memory, so it must not become much more.
+void Monkey::boundUndo()
+{
+    if (m_steps % kStepsBetweenDefaults == 0)
+        CalculationFiles::loadDefaults(MainProfile::instance());
+    if (QGuiApplication::clipboard()->text().size() > kLongestPaste)
+        QGuiApplication::clipboard()->clear();
 }
 
 void Monkey::resizeWindow()

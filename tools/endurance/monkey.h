@@ -45,6 +45,7 @@ private:
     void answer(QFileDialog &dialog);
     void click(QWidget &top);
     void type(QWidget &top);
+    void boundUndo();
     void resizeWindow();
     void tidyUp();
     void sampleMemory();

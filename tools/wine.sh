@@ -10,6 +10,9 @@ tools=$(dirname "$0")
 . "$tools/wine_session.sh"
 sdk=$("$tools/windows_sdk.sh" --where)
 
+# As of env and timeout: the program could not be run.
+not_started=125
+
 folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
 
 # Where the libraries are that the packages carry beside the program.
@@ -29,12 +32,17 @@ batch_file() {
     for word in "$@"; do
         printf ' "%s"' "$word"
     done
-    printf '\r\n'
+    printf '\r\n@if %%errorlevel%%==9009 exit %d\r\n' "$not_started"
 }
 
 trap end_wine EXIT
 start_wine
 batch_file "$@" >"$WINEPREFIX/drive_c/run.bat"
-status=0
-wine cmd /c 'C:\run.bat' </dev/null || status=$?
+for attempt in first last; do
+    status=0
+    wine cmd /c 'C:\run.bat' </dev/null || status=$?
+    # Now and then Wine does not find a program that is there; a second look does.
+    [[ $status -eq $not_started && $attempt == first ]] || break
+    wineserver --kill || true
+done
 exit "$status"

@@ -43,7 +43,7 @@ void KelComboBox::showPopup()
 void KelComboBox::hidePopup()
 {
     QComboBox::hidePopup();
-    QMetaObject::invokeMethod(this, &KelComboBox::endPopup, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "endPopup", Qt::QueuedConnection);
 }
 
 /// A list that was left without a choice has selected what the pointer or the keys were last on.

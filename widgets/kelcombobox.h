@@ -24,7 +24,7 @@ public:
     void hidePopup() override;
 
 private:
-    void endPopup();
+    Q_INVOKABLE void endPopup();
     void selectCurrentItem();
 };
 

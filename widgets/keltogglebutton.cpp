@@ -105,7 +105,7 @@ void KelToggleButton::updateTabStop()
     const QAbstractButton *checked = m_group->checkedButton();
     const QList<QAbstractButton *> buttons = m_group->buttons();
     for (QAbstractButton *button : buttons)
-        button->setFocusPolicy(button == checked || !checked ? Qt::StrongFocus : Qt::ClickFocus);
+        button->setFocusPolicy(checked && button != checked ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
 void KelToggleButton::connectGroup()

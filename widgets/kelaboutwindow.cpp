@@ -156,7 +156,8 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     m_copyButton->setObjectName(QStringLiteral("copyButton"));
     // Return is not to copy from wherever it is pressed.
     m_copyButton->setAutoDefault(false);
-    for (QAbstractScrollArea *area : findChildren<QAbstractScrollArea *>())
+    const auto areas = findChildren<QAbstractScrollArea *>();
+    for (QAbstractScrollArea *area : areas)
         KelScrollBar::installOn(*area);
     connect(m_copyButton, &QPushButton::clicked, this, &KelAboutWindow::copy_clicked);
 

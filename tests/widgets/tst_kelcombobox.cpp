@@ -54,6 +54,16 @@ QStringList units()
     return {QStringLiteral("dBm"), QStringLiteral("mW"), QStringLiteral("W")};
 }
 
+/// Fills the box with units, shows it, and then its list.
+void openList(KelComboBox &box)
+{
+    box.addItems(units());
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+}
+
 } // namespace
 
 void KelComboBoxTest::cleanup()
@@ -152,12 +162,7 @@ void KelComboBoxTest::choosesByKeyboard()
 {
     const ExpectedMessages messages(offscreenPopupMessages());
     KelComboBox box;
-    box.addItems(units());
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-
-    box.showPopup();
-    QTRY_VERIFY(box.view()->isVisible());
+    openList(box);
     QTest::keyClick(box.view(), Qt::Key_Down);
     QTest::keyClick(box.view(), Qt::Key_Return);
     QCOMPARE(box.currentText(), QStringLiteral("mW"));
@@ -178,12 +183,7 @@ void KelComboBoxTest::aListThatIsLeftSelectsTheChosenItemAgain()
 {
     const ExpectedMessages messages(offscreenPopupMessages());
     KelComboBox box;
-    box.addItems(units());
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
-
-    box.showPopup();
-    QTRY_VERIFY(box.view()->isVisible());
+    openList(box);
     QTest::keyClick(box.view(), Qt::Key_Down);
     QCOMPARE(box.view()->currentIndex().row(), 1);
     QTest::keyClick(box.view(), Qt::Key_Escape);

@@ -17,8 +17,9 @@ namespace {
 
 constexpr auto kLongestStart = 30s;
 constexpr auto kSettledPause = 300ms;
-/// What is painted later answers no key: a fading tooltip, or a cursor that blinks.
-constexpr auto kBurstPause = 50ms;
+/// A program may show its answer only after the key on its keypad has come up again, 100 ms later.
+/// What is painted later still answers no key: a fading tooltip, or a cursor that blinks.
+constexpr auto kBurstPause = 150ms;
 /// Between two keys.
 constexpr auto kTypingPause = 200ms;
 

@@ -36,6 +36,13 @@ KelMessageBox::KelMessageBox(State state, const QString &title, const QString &t
 
 KelMessageBox::~KelMessageBox() = default;
 
+/// One pixel more than the contents need: on Wayland a window comes out a pixel lower than it was
+/// made if the scale is no whole number.
+QSize KelMessageBox::sizeHint() const
+{
+    return QDialog::sizeHint() + QSize(0, 1);
+}
+
 QDialogButtonBox::StandardButton KelMessageBox::ask(QWidget *parent, const QString &title,
                                                     const QString &text,
                                                     QDialogButtonBox::StandardButtons buttons)

@@ -36,6 +36,8 @@ public:
 
     State state() const { return m_state; }
 
+    QSize sizeHint() const override;
+
     /// Shows a normal message and waits for the answer: the button clicked last, NoButton if the
     /// message was closed without one, or Cancel if it could not be run.
     static QDialogButtonBox::StandardButton ask(QWidget *parent, const QString &title,

@@ -48,9 +48,11 @@ QVector<QRect> screenRects()
     return rects;
 }
 
+/// The page is styled while it is empty, so that showing the window does not style the view, too.
 template <typename View>
 void addView(QWidget *page, const char *name)
 {
+    page->ensurePolished();
     auto *view = new View(page);
     view->setObjectName(QLatin1String(name));
     page->layout()->addWidget(view);
@@ -197,7 +199,8 @@ void MainWindow::on_actionAbout_triggered()
 }
 
 /// The form has the pages. Their views are made once those are in place: every move of a widget to
-/// another parent styles it and all that it holds anew.
+/// another parent styles it and all that it holds anew. Every new widget asks to be styled as soon
+/// as events are handled, and that is withdrawn: whatever is shown is styled then.
 void MainWindow::addViews()
 {
     addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");
@@ -205,6 +208,7 @@ void MainWindow::addViews()
     addView<UnitConverterWidget>(m_ui->page_3, "unitConverterWidget");
     addView<DbConverterWidget>(m_ui->page_4, "dbConverterWidget");
     addView<VswrConverterWidget>(m_ui->page_5, "vswrConverterWidget");
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
 }
 
 /// A sheet that is set again would style every widget of the window once more, to the same looks.

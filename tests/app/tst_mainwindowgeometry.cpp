@@ -22,6 +22,8 @@ private Q_SLOTS:
     void anInvalidStoredSizeIsNotApplied();
     void aStoredSizeThatNoScreenCanShowIsBounded_data();
     void aStoredSizeThatNoScreenCanShowIsBounded();
+    void theSmallestSizeIsTheSameWhateverPageIsShown_data();
+    void theSmallestSizeIsTheSameWhateverPageIsShown();
     void aWindowThatLiesOnNoScreenIsBroughtBack_data();
     void aWindowThatLiesOnNoScreenIsBroughtBack();
 };
@@ -82,6 +84,32 @@ void MainWindowGeometryTest::aStoredSizeThatNoScreenCanShowIsBounded()
     QVERIFY(m_window->height() <= bounded.height());
     QVERIFY(m_window->height() >= bounded.height() - titleBar);
     QCOMPARE(m_profile.windowSize(), m_window->size());
+}
+
+void MainWindowGeometryTest::theSmallestSizeIsTheSameWhateverPageIsShown_data()
+{
+    QTest::addColumn<int>("module");
+
+    QTest::newRow("starting with the dBm calculator") << 0;
+    QTest::newRow("starting with the voltage calculator") << 1;
+    QTest::newRow("starting with the unit converter") << 2;
+    QTest::newRow("starting with the dB converter") << 3;
+    QTest::newRow("starting with the VSWR converter") << 4;
+}
+
+/// A window of that size must not grow when another page is chosen.
+void MainWindowGeometryTest::theSmallestSizeIsTheSameWhateverPageIsShown()
+{
+    QFETCH(int, module);
+
+    store("currentModule", module);
+    openWindow();
+    const QSize smallest = m_window->minimumSizeHint();
+    for (int other = 0; other < 5; ++other) {
+        m_profile.setCurrentModule(other);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->minimumSizeHint(), smallest);
+    }
 }
 
 void MainWindowGeometryTest::aWindowThatLiesOnNoScreenIsBroughtBack_data()

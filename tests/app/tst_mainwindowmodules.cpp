@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTest>
@@ -23,6 +25,8 @@ private Q_SLOTS:
     void choosingAModuleTurnsPageHeaderAndTitle_data();
     void choosingAModuleTurnsPageHeaderAndTitle();
     void theProfileChoosesTheModule();
+    void aPageIsStyledWhenItIsShownForTheFirstTime();
+    void aPageThatFitsShowsNoScrollBarsNotEvenAtFirst();
     void aStoredModuleOutsideTheListShowsThePlainTitle_data();
     void aStoredModuleOutsideTheListShowsThePlainTitle();
     void aStoredModuleOutsideTheListIsKept_data();
@@ -103,6 +107,31 @@ void MainWindowModulesTest::theProfileChoosesTheModule()
     QCOMPARE(child<QListWidget>("menuItemsWidget")->currentRow(), 3);
     QVERIFY(child("dbConverterWidget")->isVisible());
     QCOMPARE(m_window->windowTitle(), QStringLiteral("Dezimo [dB Converter]"));
+}
+
+void MainWindowModulesTest::aPageIsStyledWhenItIsShownForTheFirstTime()
+{
+    openWindow();
+    const auto *stack = child<QStackedWidget>("stackedWidget");
+    for (int module = 0; module < stack->count(); ++module) {
+        const QWidget *view = stack->widget(module)->layout()->itemAt(0)->widget();
+        QCOMPARE(view->testAttribute(Qt::WA_WState_Polished), module == 0);
+        m_profile.setCurrentModule(module);
+        QVERIFY(view->testAttribute(Qt::WA_WState_Polished));
+    }
+}
+
+/// What is painted first is what is there before any further event.
+void MainWindowModulesTest::aPageThatFitsShowsNoScrollBarsNotEvenAtFirst()
+{
+    openWindow();
+    for (int module = 0; module < 5; ++module) {
+        m_profile.setCurrentModule(module);
+        const QList<QScrollBar *> bars =
+            child<QStackedWidget>("stackedWidget")->widget(module)->findChildren<QScrollBar *>();
+        for (const QScrollBar *bar : bars)
+            QVERIFY(!bar->isVisible());
+    }
 }
 
 void MainWindowModulesTest::aStoredModuleOutsideTheListShowsThePlainTitle_data()

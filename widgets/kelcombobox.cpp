@@ -11,12 +11,13 @@
 #include <QEvent>
 #include <QListView>
 
+/// The list is made where it will be: a list that is moved there is styled anew.
 KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
 {
     auto *style = new KelComboBoxStyle;
     style->setParent(this);
     setStyle(style);
-    setView(new QListView);
+    setView(new QListView(view()->parentWidget()));
     installAccessibleWidgets();
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &KelComboBox::selectCurrentItem);

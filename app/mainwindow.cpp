@@ -182,10 +182,8 @@ void MainWindow::onThemeChanged(ApplicationTheme theme)
 {
     applyStyleSheet(theme);
     updateModeButton(theme);
-    for (int row = 0; row < int(kModuleIcons.size()); ++row) {
-        const QString icon = QString::fromLatin1(kModuleIcons.at(size_t(row)));
-        m_ui->menuItemsWidget->item(row)->setIcon(QIcon(icon.arg(themeWord(theme))));
-    }
+    if (theme != m_iconTheme)
+        applyModuleIcons(theme);
 }
 
 /// The window deletes itself when it is closed.
@@ -218,6 +216,15 @@ void MainWindow::applyStyleSheet(ApplicationTheme theme)
                                                        : QStringLiteral(":/main_light.qss"));
     if (style && *style != styleSheet())
         setStyleSheet(*style);
+}
+
+void MainWindow::applyModuleIcons(ApplicationTheme theme)
+{
+    m_iconTheme = theme;
+    for (int row = 0; row < int(kModuleIcons.size()); ++row) {
+        const QString icon = QString::fromLatin1(kModuleIcons.at(size_t(row)));
+        m_ui->menuItemsWidget->item(row)->setIcon(QIcon(icon.arg(themeWord(theme))));
+    }
 }
 
 MainWindow::Target MainWindow::windowModeTarget() const

@@ -49,6 +49,7 @@ private:
 
     void addViews();
     void applyStyleSheet(ApplicationTheme theme);
+    void applyModuleIcons(ApplicationTheme theme);
     Target windowModeTarget() const;
     void applyWindowMode();
     void restoreGeometryFromProfile();
@@ -60,6 +61,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     MainProfile &m_profile;
+    ApplicationTheme m_iconTheme = Bright; ///< of the list's icons, which come with the form
 };
 
 #endif

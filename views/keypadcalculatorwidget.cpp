@@ -119,6 +119,7 @@ void KeypadCalculatorWidget::on_pushButton_plusMinus_clicked()
 
 void KeypadCalculatorWidget::onOutputFontSizeChanged(int fontsize)
 {
+    keepListSize();
     m_outputUnit->setStyleSheet(QStringLiteral("font-size: %1px").arg(fontsize));
 }
 
@@ -163,14 +164,19 @@ void KeypadCalculatorWidget::setUpInput()
     setFocusProxy(m_input);
 }
 
-/// The list of the units keeps its size, however large the chosen one is shown.
 void KeypadCalculatorWidget::setUpOutput()
 {
     m_output->setErrorTexts(ErrorText::all());
-    m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
     m_output->installEventFilter(this);
+}
+
+/// The list of the units keeps its size, however large the chosen one is shown.
+void KeypadCalculatorWidget::keepListSize()
+{
+    if (m_outputUnit->view()->styleSheet().isEmpty())
+        m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
 }
 
 /// Typing goes on in the input line, whatever had the focus when a key was clicked.
@@ -195,9 +201,11 @@ void KeypadCalculatorWidget::connectProfile()
     connect(&m_profile, &Model::validUnitsChanged, this, &View::onValidUnitsChanged);
 }
 
+/// The size of the result is fitted as soon as the row that it stands in has one.
 void KeypadCalculatorWidget::showProfile()
 {
     const QSignalBlocker noCalculation(m_input);
+    const QSignalBlocker noFitting(m_output);
     onInputChanged();
     onOutputUnitChanged();
     onModeChanged();

@@ -39,10 +39,10 @@ protected:
         m_outputUnit = form.outputUnitComboBox;
         m_mode = form.calcModeComboBox;
         setUpInput();
-        setUpOutput();
         connectKeys();
         connectProfile();
         showProfile();
+        setUpOutput();
     }
 
     void hideEvent(QHideEvent *event) override;
@@ -82,6 +82,7 @@ private:
     QString resultWithUnit() const;
     void showUnitSelector();
     void fitUnitSelector();
+    void keepListSize();
     void endTakeOver();
 
     ExpressionProfile &m_profile;

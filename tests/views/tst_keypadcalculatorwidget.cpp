@@ -29,6 +29,7 @@ private Q_SLOTS:
     void defaultsBringTheSelectorBack();
     void typingInTheMiddleKeepsTheCursor();
     void unitHasTheFontSizeOfTheResult();
+    void aResultThatIsThereFromTheStartIsFittedAndMarked();
     void errorWordsAreMarked();
     void resultIsReadOnlyAndCanBeCopied();
     void keysGiveTheFocusToTheInput();
@@ -184,6 +185,16 @@ void KeypadCalculatorWidgetTest::unitHasTheFontSizeOfTheResult()
     m_profile.setOutput(QString(400, QLatin1Char('8')));
     QCOMPARE(page.unit().styleSheet(), sheet(10));
     QCOMPARE(output.styleSheet(), sheet(10));
+}
+
+void KeypadCalculatorWidgetTest::aResultThatIsThereFromTheStartIsFittedAndMarked()
+{
+    m_profile.setOutput(QStringLiteral("invalid input"));
+    const CalculatorPage page = shownPage();
+    QCOMPARE(page.output().text(), QStringLiteral("invalid input"));
+    QVERIFY(page.output().property("error").toBool());
+    QVERIFY(page.output().styleSheet().startsWith(QLatin1String("font-size: ")));
+    QCOMPARE(page.unit().styleSheet(), page.output().styleSheet());
 }
 
 void KeypadCalculatorWidgetTest::errorWordsAreMarked()

@@ -6,6 +6,7 @@
 
 #include "kelscrollbar.h"
 
+#include <QEvent>
 #include <QScrollArea>
 
 /**
@@ -22,6 +23,19 @@ public:
     explicit KelScrollArea(QWidget *parent = nullptr) : QScrollArea(parent)
     {
         KelScrollBar::installOn(*this);
+    }
+
+protected:
+    /// A scroll area that was too small for its page learns only with the next layout that it no
+    /// longer needs its scroll bars, and would be painted with them until then.
+    bool event(QEvent *event) override
+    {
+        const bool isDone = QScrollArea::event(event);
+        if (event->type() == QEvent::Resize) {
+            QEvent layout(QEvent::LayoutRequest);
+            QScrollArea::event(&layout);
+        }
+        return isDone;
     }
 };
 

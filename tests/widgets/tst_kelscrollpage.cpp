@@ -16,6 +16,7 @@ private Q_SLOTS:
     void aPageOfAScrollAreaIsItsContents();
     void bothScrollBarsAreThoseOfTheToolkit();
     void aPageOfAnotherWidgetStaysItsChild();
+    void anAreaThatIsLargeEnoughLosesItsScrollBarsAtOnce();
 };
 
 void KelScrollPageTest::aPageOfAScrollAreaIsItsContents()
@@ -39,6 +40,24 @@ void KelScrollPageTest::aPageOfAnotherWidgetStaysItsChild()
     QWidget parent;
     const KelScrollPage page(&parent);
     QCOMPARE(page.parentWidget(), &parent);
+}
+
+/// What is painted next is what is there before any further event.
+void KelScrollPageTest::anAreaThatIsLargeEnoughLosesItsScrollBarsAtOnce()
+{
+    KelScrollArea area;
+    auto *page = new KelScrollPage(&area);
+    area.setWidgetResizable(true);
+    page->setMinimumSize(200, 200);
+    area.resize(100, 100);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QVERIFY(area.verticalScrollBar()->isVisible());
+    QVERIFY(area.horizontalScrollBar()->isVisible());
+
+    area.resize(300, 300);
+    QVERIFY(!area.verticalScrollBar()->isVisible());
+    QVERIFY(!area.horizontalScrollBar()->isVisible());
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelScrollPageTest)

@@ -9,6 +9,7 @@
 #include "dbmcalculatorwidget.h"
 #include "identity.h"
 #include "kelaboutwindow.h"
+#include "kellatepage.h"
 #include "mainprofile.h"
 #include "soundstore.h"
 #include "stylesheets.h"
@@ -48,10 +49,14 @@ QVector<QRect> screenRects()
     return rects;
 }
 
+/// What the pages need at least: the converters in width, the calculators in height.
+constexpr QSize kSmallestPage(560, 388);
+
 /// The page is styled while it is empty, so that showing the window does not style the view, too.
 template <typename View>
-void addView(QWidget *page, const char *name)
+void addView(KelLatePage *page, const char *name)
 {
+    page->setExpectedSize(kSmallestPage);
     page->ensurePolished();
     auto *view = new View(page);
     view->setObjectName(QLatin1String(name));
@@ -198,7 +203,8 @@ void MainWindow::on_actionAbout_triggered()
 
 /// The form has the pages. Their views are made once those are in place: every move of a widget to
 /// another parent styles it and all that it holds anew. Every new widget asks to be styled as soon
-/// as events are handled, and that is withdrawn: whatever is shown is styled then.
+/// as events are handled, and that is withdrawn, for all that there are: whatever is shown is
+/// styled then, and nothing is shown yet.
 void MainWindow::addViews()
 {
     addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");

@@ -172,7 +172,8 @@ void KeypadCalculatorWidget::setUpOutput()
     m_output->installEventFilter(this);
 }
 
-/// The list of the units keeps its size, however large the chosen one is shown.
+/// The list of the units keeps its size, however large the chosen one is shown. It is told so only
+/// when that one gets a size, as a page that nobody opens needs neither.
 void KeypadCalculatorWidget::keepListSize()
 {
     if (m_outputUnit->view()->styleSheet().isEmpty())

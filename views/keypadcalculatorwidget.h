@@ -42,7 +42,7 @@ protected:
         connectKeys();
         connectProfile();
         showProfile();
-        setUpOutput();
+        setUpOutput(); // with the result in place, to mark it if it is an error
     }
 
     void hideEvent(QHideEvent *event) override;

@@ -20,8 +20,8 @@ class KelLatePage : public QWidget
 public:
     explicit KelLatePage(QWidget *parent = nullptr) : QWidget(parent) {}
 
-    /// The smallest size that the page needs, in device-independent pixels, as far as its form
-    /// knows. None unless it is set.
+    /// The smallest size that the page is taken to need, in device-independent pixels. None unless
+    /// it is set.
     void setExpectedSize(const QSize &size);
 
     QSize sizeHint() const override;

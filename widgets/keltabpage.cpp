@@ -3,8 +3,6 @@
 
 #include "keltabpage.h"
 
-#include <QTabWidget>
-
 KelTabPage::KelTabPage(QWidget *parent)
     : KelLatePage(parent),
       m_tabs(qobject_cast<QTabWidget *>(parent))

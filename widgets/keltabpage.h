@@ -6,11 +6,13 @@
 
 #include "kellatepage.h"
 
-class QTabWidget;
+#include <QPointer>
+#include <QTabWidget>
 
 /**
  * A page of a KelTabWidget. Made as the child of a tab widget it becomes its last tab while it is
- * still empty.
+ * still empty. It is styled together with the page of the window that it is on, and asked for its
+ * size when its tab is opened.
  */
 class KelTabPage final : public KelLatePage
 {
@@ -23,7 +25,7 @@ public:
     void setTitle(const QString &title);
 
 private:
-    QTabWidget *const m_tabs;
+    const QPointer<QTabWidget> m_tabs;
 };
 
 #endif

@@ -73,8 +73,8 @@ done
 # The windows of two tests at once would take the keyboard from each other.
 export CTEST_PARALLEL_LEVEL=1
 
-# Without a window manager no window gets the focus.
-with_manager='openbox & exec "$@"'
+# Without a window manager no window gets the focus. It has a last word when the server goes.
+with_manager='openbox >/dev/null 2>&1 & exec "$@"'
 x_server=(env QT_QPA_PLATFORM=xcb xvfb-run --auto-servernum '--server-args=-screen 0 1920x1080x24'
     bash -c "$with_manager" -)
 session xcb "${x_server[@]}"

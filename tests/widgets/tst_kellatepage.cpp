@@ -36,6 +36,15 @@ QLabel *fill(KelLatePage &page)
     return label;
 }
 
+/// Adds a page that is shown first and one that is not. Returns that one.
+KelLatePage *addPages(QStackedWidget &stack)
+{
+    auto *unseen = new KelLatePage;
+    stack.addWidget(new KelLatePage);
+    stack.addWidget(unseen);
+    return unseen;
+}
+
 } // namespace
 
 void KelLatePageTest::anUnseenPageAsksForTheSizeThatIsExpected()
@@ -65,9 +74,7 @@ void KelLatePageTest::aPageThatWasShownAsksForWhatItHolds()
 void KelLatePageTest::theSizeOfAStackAllowsForUnseenPages()
 {
     QStackedWidget stack;
-    auto *unseen = new KelLatePage;
-    stack.addWidget(new KelLatePage);
-    stack.addWidget(unseen);
+    KelLatePage *unseen = addPages(stack);
     unseen->setExpectedSize(QSize(10, 20));
     QCOMPARE(stack.minimumSizeHint(), QSize(10, 20));
 
@@ -81,9 +88,7 @@ void KelLatePageTest::theSizeOfAStackAllowsForUnseenPages()
 void KelLatePageTest::askingAStackForItsSizeStylesNothingOnUnseenPages()
 {
     QStackedWidget stack;
-    auto *unseen = new KelLatePage;
-    stack.addWidget(new KelLatePage);
-    stack.addWidget(unseen);
+    KelLatePage *unseen = addPages(stack);
     unseen->ensurePolished();
     const QLabel *label = fill(*unseen);
     stack.sizeHint();

@@ -8,6 +8,7 @@
 #include "testmain.h"
 #include "voltagecalculatorwidget.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QSignalSpy>
@@ -179,6 +180,8 @@ void KeypadCalculatorWidgetTest::unitHasTheFontSizeOfTheResult()
 
     page.widget().resize(560, 430);
     QTRY_VERIFY(!sizes.isEmpty());
+    QVERIFY(sizes.last().first().toInt() != 18);
+    QCOMPARE(page.unit().view()->styleSheet(), sheet(18)); // the list keeps its own
     QCOMPARE(page.unit().styleSheet(), sheet(sizes.last().first().toInt()));
     QCOMPARE(output.styleSheet(), page.unit().styleSheet());
 

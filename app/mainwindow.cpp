@@ -100,10 +100,11 @@ MainWindow::MainWindow(QWidget *parent)
     onCurrentModuleChanged();
 }
 
-/// The form object goes first, then the state is written. The widgets themselves are destroyed
-/// after that, so nothing that they do then is saved.
+/// Hiding finishes an edit that is still open. Then the form object goes and the state is written.
+/// The widgets themselves are destroyed after that, so nothing that they do then is saved.
 MainWindow::~MainWindow()
 {
+    hide();
     m_ui.reset();
     SoundStore::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
 }

@@ -22,6 +22,9 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     const QList<KelLineEdit *> edits = findChildren<KelLineEdit *>();
     for (KelLineEdit *edit : edits)
         edit->setErrorTexts(ErrorText::all());
+    // Their runs are told as those of P1 and V1, so none of theirs ever counts as the latest.
+    m_ui->p2LineEdit->setFinishedByEveryLeaving(true);
+    m_ui->v2LineEdit->setFinishedByEveryLeaving(true);
     connectModel();
     showModel();
 }

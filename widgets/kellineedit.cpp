@@ -5,8 +5,11 @@
 
 #include "accessiblewidgets.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QStyle>
 
 namespace {
@@ -35,6 +38,9 @@ KelLineEdit::KelLineEdit(QWidget *parent)
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->hide();
     }
+    connect(this, &QLineEdit::textEdited, this, &KelLineEdit::noteEdit);
+    connect(this, &QLineEdit::textChanged, this, &KelLineEdit::noteWrittenText);
+    connect(this, &QLineEdit::returnPressed, this, [this] { m_isEdited = false; });
     connect(this, &QLineEdit::textChanged, this, &KelLineEdit::updateError);
 }
 
@@ -91,6 +97,99 @@ void KelLineEdit::showEvent(QShowEvent *event)
     layOutLabels();
 }
 
+/// Whatever hides the edit, be it a page that is turned or a window that is closed, the focus goes
+/// afterwards or, with a window that is not active, not at all.
+void KelLineEdit::hideEvent(QHideEvent *event)
+{
+    QLineEdit::hideEvent(event);
+    leave();
+}
+
+void KelLineEdit::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    m_isEntered = true;
+    m_isEnteredByClick = event->reason() == Qt::MouseFocusReason;
+    if (event->reason() != Qt::PopupFocusReason)
+        selectError();
+}
+
+/// Qt's own editingFinished is held back, because it follows another rule. So is the news that the
+/// selection has gone, which is told afterwards.
+void KelLineEdit::focusOutEvent(QFocusEvent *event)
+{
+    const bool hadSelection = hasSelectedText();
+    {
+        const QSignalBlocker qtsOwnRule(this);
+        QLineEdit::focusOutEvent(event);
+    }
+    if (hadSelection && !hasSelectedText())
+        Q_EMIT selectionChanged();
+    const bool isInContextMenu = event->reason() == Qt::PopupFocusReason && m_contextMenu &&
+                                 QApplication::activePopupWidget() == m_contextMenu;
+    if (!isInContextMenu)
+        leave();
+}
+
+/// The click that brings the focus also places the cursor, so an error word is selected after it. A
+/// further click, or a part selected by dragging, is the person's own choice.
+void KelLineEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (m_isEnteredByClick && !hasSelectedText())
+        selectError();
+    m_isEnteredByClick = false;
+}
+
+/// What is dropped is an edit, which takes the focus to be left and so finished.
+void KelLineEdit::dropEvent(QDropEvent *event)
+{
+    QLineEdit::dropEvent(event);
+    if (event->isAccepted())
+        setFocus(Qt::OtherFocusReason);
+}
+
+/// The menu belongs to the window: as a child of the edit it would take on the size of its text.
+void KelLineEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    m_contextMenu = createStandardContextMenu();
+    if (!m_contextMenu)
+        return;
+    m_contextMenu->setParent(window(), m_contextMenu->windowFlags());
+    m_contextMenu->setAttribute(Qt::WA_DeleteOnClose);
+    m_contextMenu->popup(event->globalPos());
+}
+
+void KelLineEdit::noteEdit(const QString &text)
+{
+    m_isEdited = true;
+    m_editedText = text;
+}
+
+/// Qt tells of an edit by textEdited and textChanged, of a text that the program writes by
+/// textChanged alone.
+void KelLineEdit::noteWrittenText(const QString &text)
+{
+    if (text != m_editedText)
+        m_isEdited = false;
+}
+
+void KelLineEdit::leave()
+{
+    const bool isFinished = m_isEdited || (m_isFinishedByEveryLeaving && m_isEntered);
+    m_isEntered = false;
+    if (!isFinished || !hasAcceptableInput())
+        return;
+    m_isEdited = false;
+    Q_EMIT editingFinished();
+}
+
+void KelLineEdit::selectError()
+{
+    if (m_hasError)
+        selectAll();
+}
+
 void KelLineEdit::layOutLabels()
 {
     for (QLabel *label : {m_prefixLabel, m_suffixLabel}) {
@@ -120,6 +219,8 @@ void KelLineEdit::updateError()
     m_hasError = isError;
     style()->unpolish(this);
     style()->polish(this);
+    if (hasFocus() && !m_isEdited)
+        selectError();
     Q_EMIT errorChanged();
 }
 

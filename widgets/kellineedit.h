@@ -6,17 +6,26 @@
 
 #include <QColor>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStringList>
 
 class QLabel;
+class QMenu;
 
 /**
  * A line edit that can show a fixed text, such as a unit, inside its left and its right end. What
  * is typed keeps clear of both.
  *
+ * Looking is no editing: `editingFinished` is emitted by Return, and by leaving the edit if the
+ * person has changed its text since it was last finished. A text that the program writes is no edit
+ * and ends one that was open. Losing the focus, to a menu or another window too, and being hidden
+ * are ways of leaving. All this holds with every version of Qt; by itself Qt 5.15 also takes what
+ * the program wrote for an edit.
+ *
  * Given a list of error words, the edit tells by its `error` property whether its text is one of
- * them, so that a style sheet can make it look like one. A screen reader is told the fixed texts as
- * the edit's description, unless the edit was given a description of its own.
+ * them, so that a style sheet can make it look like one. It selects such a word whole, so that
+ * typing replaces it. A screen reader is told the fixed texts as the edit's description, unless the
+ * edit was given a description of its own.
  */
 class KelLineEdit : public QLineEdit
 {
@@ -40,6 +49,9 @@ public:
     void setSuffixText(const QString &text);
     void setErrorTexts(const QStringList &texts);
 
+    /// Makes every leaving finish an edit, also without a change. Off at first.
+    void setFinishedByEveryLeaving(bool finished) { m_isFinishedByEveryLeaving = finished; }
+
 Q_SIGNALS:
     void errorChanged();
     void placeholderColorChanged();
@@ -48,8 +60,18 @@ protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void noteEdit(const QString &text);
+    void noteWrittenText(const QString &text);
+    void leave();
+    void selectError();
     void layOutLabels();
     void updateDescription();
     void updateError();
@@ -61,6 +83,13 @@ private:
     QStringList m_errorTexts;
     bool m_hasError = false;
     QColor m_placeholderColor;
+
+    bool m_isFinishedByEveryLeaving = false;
+    bool m_isEntered = false; ///< got the focus, and was not left since
+    bool m_isEdited = false;  ///< by the person, since the last finished edit
+    QString m_editedText;     ///< what the person has made of it
+    bool m_isEnteredByClick = false;
+    QPointer<QMenu> m_contextMenu;
 };
 
 #endif

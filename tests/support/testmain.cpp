@@ -22,9 +22,11 @@
 namespace {
 
 /// What Qt's platforms write by themselves: offscreen for every window with a minimum or maximum
-/// size, Wayland when a menu closes.
-constexpr std::array<const char *, 2> kPlatformMessages = {
+/// size and for every menu that opens, Wayland when a menu closes.
+constexpr std::array<const char *, 4> kPlatformMessages = {
     "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+    "This plugin does not support grabbing the keyboard",
     "Wayland does not support QWindow::requestActivate()",
 };
 

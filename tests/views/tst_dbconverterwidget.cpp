@@ -31,7 +31,8 @@ private Q_SLOTS:
     void leavingTheSecondOperandAgainCalculatesAgain();
     void tabbingOutAndBackTwiceCalculatesNothing();
     void finishingAMismatchTwiceFindsTheErrorTextInvalid();
-    void tabbingThroughTheRatioRoundsTheDecibels();
+    void leavingTheSecondOperandCalculatesWithoutAnEdit();
+    void tabbingThroughTheRatioKeepsTheDecibels();
     void showsWhatTheModelHolds_data();
     void showsWhatTheModelHolds();
     void aNewPageShowsTheModelAtOnce();
@@ -179,6 +180,19 @@ void DbConverterWidgetTest::leavingTheSecondOperandAgainCalculatesAgain()
     QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
 }
 
+void DbConverterWidgetTest::leavingTheSecondOperandCalculatesWithoutAnEdit()
+{
+    m_model.setP1(QStringLiteral("4W"));
+    m_model.setP2(QStringLiteral("1W"));
+    edit("p2LineEdit")->setFocus();
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Tab);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
+    m_model.setPRatio(QStringLiteral("changed"));
+    edit("p2LineEdit")->setFocus();
+    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Tab);
+    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
+}
+
 void DbConverterWidgetTest::tabbingOutAndBackTwiceCalculatesNothing()
 {
     edit("p1LineEdit")->setFocus();
@@ -210,8 +224,8 @@ void DbConverterWidgetTest::finishingAMismatchTwiceFindsTheErrorTextInvalid()
     QCOMPARE(edit("p2LineEdit")->text(), QStringLiteral("invalid input"));
 }
 
-/// Leaving the ratio calculates from the text that it shows, rounded as it is. This is meant.
-void DbConverterWidgetTest::tabbingThroughTheRatioRoundsTheDecibels()
+/// The ratio is shown rounded, and looking at it calculates nothing from that.
+void DbConverterWidgetTest::tabbingThroughTheRatioKeepsTheDecibels()
 {
     MainProfile::instance().setDecimalPlaces(1);
     m_model.setP1(QStringLiteral("3W"));
@@ -221,7 +235,12 @@ void DbConverterWidgetTest::tabbingThroughTheRatioRoundsTheDecibels()
     QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("2")); // 1.5 with one digit
     QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("1.76")); // 10 lg 1.5
     QTest::keyClick(edit("pRatioLineEdit"), Qt::Key_Tab);
-    QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("3.01")); // 10 lg 2
+    QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("1.76"));
+    // Typed, it is what the person means: 10 lg 2
+    QTest::keyClick(edit("pDbLineEdit"), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClicks(edit("pRatioLineEdit"), QStringLiteral("2"));
+    QTest::keyClick(edit("pRatioLineEdit"), Qt::Key_Tab);
+    QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("3.01"));
 }
 
 void DbConverterWidgetTest::showsWhatTheModelHolds_data()

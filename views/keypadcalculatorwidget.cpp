@@ -33,7 +33,8 @@ bool isFunctionKey(const QPushButton *key)
 
 KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent)
     : QWidget(parent),
-      m_profile(profile)
+      m_profile(profile),
+      m_slide(this)
 {
     connect(&m_slide, &TakeOverSlide::finished, this, &KeypadCalculatorWidget::endTakeOver);
 }
@@ -86,14 +87,13 @@ void KeypadCalculatorWidget::on_calcModeComboBox_currentIndexChanged(int index)
     recalculate();
 }
 
-/// The slide starts first, so that what the model makes of the new input is not shown meanwhile.
 void KeypadCalculatorWidget::on_pushButton_calc_clicked()
 {
-    if (m_slide.isRunning() || !hasResult())
+    if (m_takenOver || !hasResult())
         return;
     m_takenOver = resultWithUnit();
+    m_profile.setInput(*m_takenOver);
     m_slide.start(m_outputRow, m_input);
-    m_profile.setInput(m_takenOver);
 }
 
 void KeypadCalculatorWidget::numpadButtonClicked()
@@ -128,10 +128,11 @@ void KeypadCalculatorWidget::onInputChanged()
     mirrorText(m_input, m_profile.input());
 }
 
-/// What slides up is the result that was taken over; another one is shown when it has arrived.
+/// What slides up is the result that was taken over, not what the model makes of it as an input;
+/// another one is shown when it has arrived.
 void KeypadCalculatorWidget::onOutputChanged()
 {
-    if (m_slide.isRunning())
+    if (m_takenOver)
         return;
     mirrorText(m_output, m_profile.output());
     showUnitSelector();
@@ -139,7 +140,7 @@ void KeypadCalculatorWidget::onOutputChanged()
 
 void KeypadCalculatorWidget::onOutputUnitChanged()
 {
-    if (m_slide.isRunning())
+    if (m_takenOver)
         return;
     if (m_profile.outputUnit() != m_profile.plainUnit())
         m_outputUnit->setCurrentIndex(m_profile.outputUnit());
@@ -258,7 +259,9 @@ void KeypadCalculatorWidget::fitUnitSelector()
 /// What the person has typed during the slide has its result already, which stays.
 void KeypadCalculatorWidget::endTakeOver()
 {
-    if (m_profile.input() == m_takenOver)
+    const bool isInput = m_profile.input() == m_takenOver;
+    m_takenOver.reset();
+    if (isInput)
         m_profile.setOutput(QString());
     onOutputUnitChanged();
     onOutputChanged();

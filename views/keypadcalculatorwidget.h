@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class ExpressionProfile;
 class KelAutoResizeLineEdit;
 class QComboBox;
@@ -92,7 +94,7 @@ private:
     QComboBox *m_outputUnit = nullptr;
     QComboBox *m_mode = nullptr;
     TakeOverSlide m_slide;
-    QString m_takenOver;
+    std::optional<QString> m_takenOver; ///< while it slides into the input
 };
 
 #endif

@@ -24,13 +24,18 @@ void layOutAnew(const QWidget *widget)
 
 } // namespace
 
-TakeOverSlide::TakeOverSlide(QObject *parent) : QObject(parent) {}
+TakeOverSlide::TakeOverSlide(QWidget *page) : QObject(page) {}
+
+TakeOverSlide::~TakeOverSlide()
+{
+    delete m_moves;
+}
 
 void TakeOverSlide::start(QWidget *resultRow, QWidget *input)
 {
     const QPoint row = resultRow->pos();
     const QPoint place = input->pos();
-    m_moves = new QParallelAnimationGroup(this);
+    m_moves = new QParallelAnimationGroup(parent());
     m_moves->addAnimation(makeMove(resultRow, row, row - QPoint(0, resultRow->height())));
     m_moves->addAnimation(makeMove(input, place + QPoint(0, input->height()), place));
     connect(m_moves, &QAbstractAnimation::finished, this, [this, resultRow, input] {

@@ -19,7 +19,9 @@ class TakeOverSlide final : public QObject
     Q_OBJECT
 
 public:
-    explicit TakeOverSlide(QObject *parent = nullptr);
+    /// The movements belong to @p page while they run.
+    explicit TakeOverSlide(QWidget *page);
+    ~TakeOverSlide() override;
 
     bool isRunning() const { return !m_moves.isNull(); }
 

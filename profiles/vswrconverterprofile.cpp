@@ -221,7 +221,7 @@ void VswrConverterProfile::calculateFromVswr()
     const std::optional<double> vswr = readEdited(kVswr);
     if (!vswr)
         return;
-    const double reflection = Reflection::fromVswr(*vswr);
+    const double reflection = kVswr.reflectionFrom(*vswr);
     const bool matched = !(std::abs(*vswr - 1.0) > kMatchTolerance);
     setR(generalText(reflection));
     setAr(matched ? fixedText(Reflection::returnLoss(reflection)) : QString());

@@ -5,6 +5,9 @@
 # makes of the entry, and the way out by the keyboard. They bring the function fail.
 # shellcheck shell=bash
 
+# shellcheck source=tools/x_windows.sh
+. tools/x_windows.sh
+
 # start_display LOG: an X server of its own, with DISPLAY set to it and its process in $server.
 start_display() {
     local number
@@ -35,7 +38,7 @@ exec_words() {
 # the keys of the menu's Quit.
 quit_by_keyboard() {
     local window
-    window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Dezimo \[') ||
+    window=$(window_named 60 '^Dezimo \[') ||
         { kill "$1" || true; fail "no window appeared"; }
     xwininfo -id "$window" | grep --extended-regexp 'Window id|Width|Height|Map State'
     xdotool windowfocus --sync "$window" key ctrl+q

@@ -8,6 +8,8 @@
 set -euo pipefail
 # shellcheck source=/dev/null
 . tools/wine_session.sh
+# shellcheck source=tools/x_windows.sh
+. tools/x_windows.sh
 
 packages=build/windows/package
 zip=$packages/dezimo_${DEZIMO_VERSION}_win64.zip
@@ -104,8 +106,7 @@ snapshot() {
 # main_window: the main window, once it is there and in front.
 main_window() {
     local window
-    window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Dezimo \[') ||
-        fail "no window appeared"
+    window=$(window_named 60 '^Dezimo \[') || fail "no window appeared"
     timeout 60 xdotool windowactivate --sync "$window" || fail "the window stays in the background"
     echo "$window"
 }
@@ -281,7 +282,7 @@ about() {
     wine "$scratch/Dezimo/dezimo.exe" &
     local program=$! main window
     main=$(main_window)
-    until window=$(timeout 5 xdotool search --sync --onlyvisible --name '^Information about Dezimo$'); do
+    until window=$(window_named 5 '^Information about Dezimo$'); do
         # The last menu and its only entry, which no key leads to.
         xdotool key Escape mousemove --window "$main" 134 14 click 1 key --delay 200 Down Return
         kill -0 "$program" || fail "the program has ended"

@@ -6,6 +6,9 @@
 # and a Windows of its own; end_wine ends all of it. Several shells get one each, kept for later
 # ones under build/windows/wine, because making one takes longer than most tests.
 
+# shellcheck source=/dev/null
+. "$(dirname "${BASH_SOURCE[0]}")/x_windows.sh"
+
 wine_prefixes=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")/build/windows/wine
 
 # Debian's packages put no command of these names on PATH.
@@ -44,11 +47,7 @@ start_display() {
     # shellcheck disable=SC2154
     read -r -t 60 number <&"${display[0]}" || { echo "no X server" >&2; return 1; }
     export DISPLAY=:$number
-    openbox --sm-disable >/dev/null 2>&1 &
-    window_manager=$!
-    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep --quiet 'window id'; do
-        kill -0 "$window_manager" || { echo "no window manager" >&2; return 1; }
-    done
+    start_window_manager
 }
 
 # Windows' own fonts are not there, and Wine would take a serif. A program that crashes shall end and

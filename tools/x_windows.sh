@@ -2,7 +2,16 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# To be sourced by scripts that wait for windows of an X display.
+# To be sourced by scripts that start programs on an X display and wait for their windows.
+
+# start_window_manager: one for the display, with its process in $window_manager.
+start_window_manager() {
+    openbox --sm-disable >/dev/null 2>&1 &
+    window_manager=$!
+    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep --quiet 'window id'; do
+        kill -0 "$window_manager" || { echo "no window manager" >&2; return 1; }
+    done
+}
 
 # window_named SECONDS PATTERN: the visible window of such a name, as soon as there is one. xdotool
 # fails when it meets a window that is just going, so that asking again is part of the waiting.

@@ -8,8 +8,6 @@
 set -euo pipefail
 # shellcheck source=/dev/null
 . tools/wine_session.sh
-# shellcheck source=tools/x_windows.sh
-. tools/x_windows.sh
 
 packages=build/windows/package
 zip=$packages/dezimo_${DEZIMO_VERSION}_win64.zip

@@ -12,7 +12,7 @@ declare -A packages=(
     [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
         python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core librsvg2-bin"
     [run]="libqt5svg5 qtwayland5"
-    [test]="libqt5test5 qtbase5-private-dev xvfb xauth x11-utils xdotool dbus
+    [test]="libqt5test5 qtbase5-private-dev xvfb xauth x11-utils xdotool openbox dbus
         at-spi2-core python3-pyatspi"
     [package]="dpkg-dev file"
     [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"

@@ -1,0 +1,235 @@
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+"""Sessions of the program on an X display, as a person has them: everything is done by mouse and
+keys through xdotool, and what came of it is read where the program keeps its state.
+"""
+
+import os
+import pathlib
+import re
+import subprocess
+import time
+
+PATIENCE_SECONDS = 60
+PATIENCE_WITH_KEYS_SECONDS = 5
+PAUSE_SECONDS = 0.02
+MODULES = ["dBm Calculator", "Voltage Calculator", "Unit Converter", "dB Converter", "VSWR Converter"]
+
+
+def within(seconds, condition):
+    """The first true value of the condition, which is asked until the time is over, or None."""
+    deadline = time.monotonic() + seconds
+    while time.monotonic() < deadline:
+        if value := condition():
+            return value
+        time.sleep(PAUSE_SECONDS)
+    return None
+
+
+def wait_for(what, condition):
+    value = within(PATIENCE_SECONDS, condition)
+    assert value, f"waited in vain for {what}"
+    return value
+
+
+def xdotool(*words):
+    """It tells of windows that it does not find at first, so what it says counts only if it fails."""
+    command = ["xdotool", *map(str, words)]
+    done = subprocess.run(command, capture_output=True, text=True, timeout=PATIENCE_SECONDS)
+    assert done.returncode == 0, f"{command}: {done.stderr}"
+
+
+def visible_windows(*criterion):
+    """What xdotool finds; it fails when it meets a window that is just going, so that asking again
+    is part of waiting for a window."""
+    search = ["xdotool", "search", "--onlyvisible", *criterion]
+    return subprocess.run(search, capture_output=True, text=True).stdout.split()
+
+
+def window_named(pattern):
+    return wait_for(f"a window {pattern}", lambda: visible_windows("--name", pattern))[0]
+
+
+def activate(window):
+    xdotool("windowactivate", "--sync", window)
+
+
+def values_of(text):
+    """The values of a settings text by group and key."""
+    values = {}
+    group = None
+    for line in text.splitlines():
+        if line.startswith("["):
+            group = line.strip("[]")
+        elif "=" in line:
+            key, value = line.split("=", 1)
+            values[f"{group}/{key}"] = value
+    return values
+
+
+class Linux:
+    """The program of this machine, which keeps its state in a file."""
+
+    settings = pathlib.Path.home() / ".config/Vantrel/Dezimo.conf"
+    window_class = "^dezimo$"
+    loses_first_keys = False
+
+    def command(self, program):
+        return [program]
+
+    def name_for_dialog(self, file):
+        """The dialog begins in the folder of the program. A path would let it offer names meanwhile,
+        and Return would only close what it offers."""
+        return file.name
+
+    def write_state(self, text):
+        self.settings.parent.mkdir(parents=True, exist_ok=True)
+        self.settings.write_text(text)
+
+    def read_state(self):
+        return values_of(self.settings.read_text())
+
+
+class Wine:
+    """The program for Windows, which keeps its state in the registry."""
+
+    key = r"HKEY_CURRENT_USER\Software\Vantrel\Dezimo"
+    window_class = r"^dezimo\.exe$"
+    loses_first_keys = True
+    file = pathlib.Path(os.environ.get("WINEPREFIX", "")) / "drive_c/state.reg"
+
+    def command(self, program):
+        return ["/usr/lib/wine/wine64", program]
+
+    def name_for_dialog(self, file):
+        return "Z:" + str(file).replace("/", "\\")
+
+    def write_state(self, text):
+        lines = ["Windows Registry Editor Version 5.00", "", f"[-{self.key}]", ""]
+        for name, value in values_of(text).items():
+            group, key = name.split("/")
+            lines += [rf"[{self.key}\{group}]", f'"{key}"="{value}"', ""]
+        self.file.write_bytes("\r\n".join(lines).encode("utf-16"))
+        self.run("regedit", "/S", r"C:\state.reg")
+
+    def read_state(self):
+        self.run("reg", "export", self.key, r"C:\state.reg", "/y")
+        text = self.file.read_text(encoding="utf-16").replace("[" + self.key + "\\", "[")
+        text = re.sub(r"=dword:(\w+)", lambda number: f"={int(number[1], 16)}", text)
+        return values_of(text.replace('"', ""))
+
+    def run(self, *words):
+        subprocess.run(self.command(words[0]) + list(words[1:]), check=True, capture_output=True)
+
+
+class Session:
+    """One run of the program, from its first window to its end."""
+
+    def __init__(self, host, program, folder, positions, page):
+        self.host = host
+        self.folder = folder
+        self.positions = positions
+        self.page = page
+        self.process = subprocess.Popen(
+            host.command(program), cwd=folder, stderr=subprocess.PIPE, text=True
+        )
+        self.window = None
+
+    def appear(self):
+        self.window = window_named(rf"^Dezimo \[{MODULES[self.page]}\]$")
+        self.activate()
+
+    def activate(self):
+        activate(self.window)
+        if self.host.loses_first_keys:
+            self.wake()
+
+    def wake(self):
+        self.open_menu("Escape", "Escape")
+        self.wait_for_windows(1)
+
+    def press(self, *keys):
+        xdotool("key", "--delay", 1, *keys)
+
+    def press_until(self, key, what, condition):
+        """Wine loses keys now and then, so this presses again where nothing comes of it."""
+
+        def works():
+            self.press(key)
+            return within(PATIENCE_WITH_KEYS_SECONDS, condition)
+
+        return wait_for(what, works)
+
+    def type(self, text):
+        xdotool("type", "--delay", 1, text)
+
+    def click(self, name, page=None):
+        page = self.page if page is None else page
+        x, y = self.positions[page, name]
+        xdotool("mousemove", "--window", self.window, x, y, "click", 1)
+
+    def enter(self, field, text):
+        """Puts a text in the place of what a field shows, and leaves the edit open."""
+        self.click(field)
+        self.press("ctrl+a")
+        self.type(text)
+
+    def click_each(self, kind):
+        """Clicks the controls of one kind on the page, with its tabs on the way, and says which."""
+        for page, name in self.positions:
+            if page == self.page and name.endswith((kind, "tab0", "tab1")):
+                self.click(name)
+                if name.endswith(kind):
+                    yield name
+
+    def open_menu(self, *keys):
+        """Opens the menus by keys, which begin at the first one."""
+        self.press_until("F10", "a menu", lambda: self.has_windows(2))
+        if keys:
+            self.press(*keys)
+
+    def turn_menu(self, key):
+        """From one open menu to the next one. Both or none may be there for a moment."""
+        before = self.windows()
+        self.press(key)
+
+        def is_turned():
+            now = self.windows()
+            return len(now) == 2 and now != before
+
+        wait_for("another menu", is_turned)
+
+    def show(self, page):
+        self.click(f"module{page}", page=-1)
+        window_named(rf"^Dezimo \[{MODULES[page]}\]$")
+        self.page = page
+
+    def windows(self):
+        """The main window is one, every open menu or list another one."""
+        return set(visible_windows("--class", self.host.window_class))
+
+    def has_windows(self, number):
+        return len(self.windows()) == number
+
+    def wait_for_windows(self, number):
+        wait_for(f"{number} windows", lambda: self.has_windows(number))
+
+    def quit(self):
+        self.end_by("ctrl+q")
+
+    def close(self):
+        """By the window manager's keys, which do what the button in the frame does."""
+        self.end_by("alt+F4")
+
+    def end_by(self, keys):
+        """The program ends by itself, well and in silence."""
+        self.press_until(keys, "the end", lambda: self.process.poll() is not None)
+        said = self.process.communicate()[1]
+        self.wait_for_windows(0)
+        assert self.process.returncode == 0, f"status {self.process.returncode}: {said}"
+        assert not said, f"the program said: {said}"
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.communicate()

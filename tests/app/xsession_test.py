@@ -1,0 +1,335 @@
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+"""xsession_test.py linux|wine PROGRAM CLICKPOSITIONS: looking changes nothing, editing does.
+
+Every session starts from values that were typed and calculated at four digits and ends by the
+program itself. Then its state is compared, value by value.
+"""
+
+import dataclasses
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+from xsession import (
+    MODULES,
+    Linux,
+    Session,
+    Wine,
+    activate,
+    values_of,
+    visible_windows,
+    wait_for,
+    window_named,
+    xdotool,
+)
+
+DBM, VOLTAGE, UNIT, DB, VSWR = range(len(MODULES))
+TYPED = (pathlib.Path(__file__).parent / "data/typed-at-four-digits.dezimo").read_text()
+# More than there are on any page.
+ALL_ROUND = 30
+SAVED = "saved.dezimo"
+
+
+# Ways of looking. None of them types anything into a field.
+
+
+def nothing(session):
+    pass
+
+
+def visit_all_pages(session):
+    here = session.page
+    for page in range(len(MODULES)):
+        session.show(page)
+    session.show(here)
+
+
+def tab_all_round(session):
+    session.press(*["Tab"] * ALL_ROUND)
+    session.press(*["shift+Tab"] * ALL_ROUND)
+
+
+def click_into_every_field(session):
+    for _ in session.click_each("LineEdit"):
+        pass
+
+
+def open_menus(session):
+    session.open_menu()
+    for _ in range(3):
+        session.turn_menu("Left")
+    session.press("Escape", "Escape")
+    session.wait_for_windows(1)
+
+
+def open_unit_lists(session):
+    for _ in session.click_each("ComboBox"):
+        session.wait_for_windows(2)
+        session.press("Escape")
+        session.wait_for_windows(1)
+
+
+def minimize(session):
+    xdotool("windowminimize", "--sync", session.window)
+    session.activate()
+
+
+def activate_another_window(session):
+    other = subprocess.Popen(["xev", "-name", "Another"], stdout=subprocess.DEVNULL)
+    activate(window_named("^Another$"))
+    other.kill()
+    other.wait()
+    session.activate()
+
+
+def resize(session):
+    xdotool("windowsize", "--sync", session.window, 1100, 720)
+
+
+def expand_the_list(session):
+    session.click("changeWindowModeButton", page=-1)
+
+
+def open_about(session):
+    session.open_menu("Left", "Down", "Return")
+    activate(window_named("^Information about Dezimo$"))
+    session.press_until("Escape", "one window", lambda: session.has_windows(1))
+
+
+def choose_two_digits(session):
+    session.open_menu("Right", "Down", "Right")
+    session.wait_for_windows(3)
+    session.press("Home", "Down", "Down", "Return")
+    session.wait_for_windows(1)
+
+
+def save(session):
+    name = "^Save dB Calulation"
+    session.press_until("ctrl+s", "a dialog", lambda: visible_windows("--name", name))
+    activate(window_named(name))
+    session.press("ctrl+a")
+    file = session.folder / SAVED
+    session.type(session.host.name_for_dialog(file))
+    session.press("Return")
+    wait_for("the saved file", file.exists)
+    session.wait_for_windows(1)
+
+
+# Ways whose traces would look alike share a session.
+LOOKS = {
+    "started and quit": [nothing],
+    "every other page visited and back": [visit_all_pages],
+    "Tab and Shift+Tab all round": [tab_all_round],
+    "a click into every field, the menus, the unit lists": [
+        click_into_every_field,
+        open_menus,
+        open_unit_lists,
+    ],
+    "minimized and restored, another window and back": [minimize, activate_another_window],
+    "About, the list expanded, resized": [open_about, expand_the_list, resize],
+    "two digits chosen, saved": [choose_two_digits, save],
+}
+# What a look is meant to change, which shows that it happened.
+MEANT = {
+    expand_the_list: {"MainProfile/windowMode": "1"},
+    choose_two_digits: {"MainProfile/decimalPlaces": "2"},
+}
+
+
+@dataclasses.dataclass
+class Edit:
+    """What is typed into a field of a page, and the values that come of it."""
+
+    page: int
+    field: str
+    text: str
+    changed: dict
+
+    def make(self, session):
+        if session.page != self.page:
+            session.show(self.page)
+        session.enter(self.field, self.text)
+
+
+EDITS = [
+    Edit(
+        UNIT,
+        "wattLineEdit",
+        "25",
+        {
+            "UnitConverterProfile/linPower": "25",
+            "UnitConverterProfile/logPower": "13.98",  # 10*log10(25)
+            "UnitConverterProfile/linVoltage": "1118",  # sqrt(25 mW * 50 ohms)
+            "UnitConverterProfile/logVoltage": "0.97",  # 20*log10(1.118)
+        },
+    ),
+    Edit(
+        DB,
+        "p1LineEdit",
+        "20W",
+        {
+            "DbConverterProfile/p1": "20W",
+            "DbConverterProfile/pRatio": "6.667",  # 20 / 3
+            "DbConverterProfile/pDb": "8.24",
+        },
+    ),
+    Edit(
+        VSWR,
+        "arLineEdit",
+        "20",
+        {
+            "VswrConverterProfile/ar": "20",
+            "VswrConverterProfile/r": "0.1",
+            "VswrConverterProfile/r2": "1",
+            "VswrConverterProfile/vswr": "1.222",  # 1.1 / 0.9
+            "VswrConverterProfile/am": "0.04",  # -10*log10(0.99)
+        },
+    ),
+]
+
+# Ways of leaving a field that is being edited.
+
+
+def press_tab(session):
+    session.press("Tab")
+
+
+def click_on_another_field(session):
+    session.click({UNIT: "dbmLineEdit", DB: "pDbLineEdit", VSWR: "rLineEdit"}[session.page])
+
+
+def show_another_page(session):
+    session.show(DBM)
+
+
+LEAVES = {
+    "Tab": press_tab,
+    "a click on another field": click_on_another_field,
+    "another page": show_another_page,
+    "another window": activate_another_window,
+    "a menu": open_menus,
+}
+ENDS = {"Quit": Session.quit, "the window manager": Session.close}
+
+
+def type_all(session):
+    """Makes the values that every other session starts with."""
+    session.show(DBM)
+    session.enter("inputLineEdit", "12.34dBm+3dBm")
+    session.show(VOLTAGE)
+    session.enter("inputLineEdit", "1.5V+250mV")
+    session.show(UNIT)
+    session.enter("wattLineEdit", "12.34")
+    session.show(DB)
+    session.enter("p1LineEdit", "10W")
+    session.enter("p2LineEdit", "3W")
+    session.click("tab1")
+    session.enter("v1LineEdit", "2.5")
+    session.enter("v2LineEdit", "0.7")
+    session.click("tab0")
+    session.show(VSWR)
+    session.enter("arLineEdit", "14")
+    session.enter("forwardPowerLineEdit", "12.34")
+    session.click("tab1")
+    session.enter("reflectedVoltageLineEdit", "1.234")
+    session.click("tab0")
+
+
+class Table:
+    """Runs the sessions of the test and keeps what is wrong with them."""
+
+    def __init__(self, host, program, folder, positions):
+        self.host = host
+        self.program = program
+        self.folder = folder
+        self.positions = positions
+        self.wrong = 0
+
+    def row(self, name, page, steps, changed, start=TYPED, end=Session.quit):
+        """One session: it starts on a page, takes the steps and ends; then the state has to be as
+        it was typed but for what is changed."""
+        self.host.write_state(start.replace("currentModule=0", f"currentModule={page}"))
+        session = Session(self.host, self.program, self.folder, self.positions, page)
+        try:
+            session.appear()
+            for step in steps:
+                step(session)
+            end(session)
+            found = self.differences(changed)
+        except (AssertionError, subprocess.TimeoutExpired) as error:
+            found = [str(error)]
+        finally:
+            session.kill()
+        print(f"{MODULES[page]}: {name}: {', '.join(found) or 'as expected'}", flush=True)
+        self.wrong += bool(found)
+
+    def differences(self, changed):
+        """Of the state and of the file, if one was saved."""
+        expected = {**values_of(TYPED), **changed}
+        found = differences(expected, self.host.read_state(), changed)
+        saved = self.folder / SAVED
+        if saved.exists():
+            in_file = differences(expected, values_of(saved.read_text()), changed)
+            found += [f"saved {difference}" for difference in in_file]
+            saved.unlink()
+        return found
+
+
+def differences(expected, found, named):
+    """The values that are not as expected. Where the window is and which page it shows is compared
+    only if it is named."""
+    window = {"windowPosition", "windowSize", "windowMode", "currentModule"}
+    unasked = {f"MainProfile/{key}" for key in window} - named.keys()
+    return [
+        f'{key} "{expected.get(key)}" -> "{found.get(key)}"'
+        for key in sorted((expected.keys() | found.keys()) - unasked)
+        if expected.get(key) != found.get(key)
+    ]
+
+
+def all_changes(parts):
+    return {key: value for part in parts for key, value in part.items()}
+
+
+def run(table, every_page, few_pages):
+    defaults = TYPED[TYPED.index("[MainProfile]") : TYPED.index("[UnitConverterProfile]")]
+    table.row("everything typed", DBM, [type_all], {}, start=defaults)
+    for name, steps in LOOKS.items():
+        meant = all_changes(MEANT.get(step, {}) for step in steps)
+        for page in every_page if steps == [nothing] else few_pages:
+            table.row(name, page, steps, meant)
+    for name, leave in LEAVES.items():
+        steps = [step for edit in EDITS for step in (edit.make, leave)]
+        table.row(f"edits left by {name}", UNIT, steps, all_changes(edit.changed for edit in EDITS))
+    for name, end in ENDS.items():
+        for edit in EDITS:
+            if edit.page in few_pages:
+                table.row(f"an edit left by {name}", edit.page, [edit.make], edit.changed, end=end)
+
+
+def read_positions(text):
+    positions = {}
+    for line in text.splitlines():
+        page, name, x, y = line.split()
+        positions[int(page), name] = int(x), int(y)
+    return positions
+
+
+def main(system, program, click_positions):
+    host = {"linux": Linux, "wine": Wine}[system]()
+    asked = subprocess.run(
+        host.command(click_positions), check=True, stdout=subprocess.PIPE, text=True
+    )
+    with tempfile.TemporaryDirectory() as folder:
+        table = Table(host, program, pathlib.Path(folder), read_positions(asked.stdout))
+        every_page = range(len(MODULES))
+        # A session under Wine takes several times as long.
+        run(table, every_page, every_page if system == "linux" else [UNIT, VSWR])
+    if table.wrong:
+        sys.exit(f"{table.wrong} sessions are not as expected")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])

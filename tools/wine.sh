@@ -13,12 +13,6 @@ sdk=$("$tools/windows_sdk.sh" --where)
 # As of env and timeout: the program could not be run.
 not_started=125
 
-folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
-
-# Where the libraries are that the packages carry beside the program.
-WINEPATH="Z:$sdk/bin;Z:$(folder_of libstdc++-6.dll);Z:$(folder_of libwinpthread-1.dll)"
-export WINEPATH
-
 # Wine withholds the variables of this machine's Qt from its programs; a test's own are meant for it.
 # Qt writes to a debugger unless told that there is a console.
 batch_file() {
@@ -36,6 +30,7 @@ batch_file() {
 }
 
 trap end_wine EXIT
+find_libraries "$sdk"
 start_wine
 batch_file "$@" >"$WINEPREFIX/drive_c/run.bat"
 for attempt in first last; do

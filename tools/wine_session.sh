@@ -50,6 +50,14 @@ start_display() {
     start_window_manager
 }
 
+folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
+
+# find_libraries SDK: Windows finds the libraries that the packages carry beside the program.
+find_libraries() {
+    WINEPATH="Z:$1/bin;Z:$(folder_of libstdc++-6.dll);Z:$(folder_of libwinpthread-1.dll)"
+    export WINEPATH
+}
+
 # Windows' own fonts are not there, and Wine would take a serif. A program that crashes shall end and
 # not wait for a person in a debugger.
 adapt_wine() {

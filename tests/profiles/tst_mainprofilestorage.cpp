@@ -11,6 +11,9 @@
 #include <QSettings>
 #include <QTest>
 
+#include <limits>
+#include <utility>
+
 /// How the state of the whole program is kept, in the application's settings and in files.
 class MainProfileStorageTest : public QObject
 {
@@ -28,6 +31,8 @@ private Q_SLOTS:
     void whatIsNoStoreReadsAsDefaults();
     void oneUnusableKeyTakesItsDefaultAlone_data();
     void oneUnusableKeyTakesItsDefaultAlone();
+    void aSelectorWithoutTheStoredRowTakesItsDefault_data();
+    void aSelectorWithoutTheStoredRowTakesItsDefault();
     void readsTheWindowGroup_data();
     void readsTheWindowGroup();
     void longTextsAreKeptWhileAFieldHoldsThem_data();
@@ -276,6 +281,53 @@ void MainProfileStorageTest::oneUnusableKeyTakesItsDefaultAlone()
     for (const QString &property : unusable)
         changed.removeOne(property);
     QCOMPARE(differences(loaded, untouched), changed);
+}
+
+/// Every selector of every module, with the index of its last row. The unit of a calculator's
+/// result may also be none at all, which comes after those that the selector shows.
+void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<int>("expected");
+
+    const std::pair<const char *, int> selectors[] = {
+        {"DbmCalculatorProfile/outputUnit", 6},     {"DbmCalculatorProfile/mode", 2},
+        {"VoltageCalculatorProfile/outputUnit", 2}, {"VoltageCalculatorProfile/mode", 2},
+        {"UnitConverterProfile/logPowerUnit", 1},   {"UnitConverterProfile/linPowerUnit", 1},
+        {"UnitConverterProfile/logVoltageUnit", 2}, {"UnitConverterProfile/linVoltageUnit", 1},
+        {"UnitConverterProfile/voltageMode", 2},    {"DbConverterProfile/currentMode", 1},
+        {"VswrConverterProfile/currentMode", 1},    {"VswrConverterProfile/pForwardUnit", 3},
+        {"VswrConverterProfile/pReflectedUnit", 3}, {"VswrConverterProfile/pAbsorbedUnit", 3},
+        {"VswrConverterProfile/vForwardUnit", 3},   {"VswrConverterProfile/vReflectedUnit", 3},
+        {"VswrConverterProfile/vAbsorbedUnit", 3},
+    };
+    for (const auto &[key, last] : selectors) {
+        const QString name = QString::fromLatin1(key);
+        QTest::addRow("the first row of %s is kept", key) << name << 0 << 0;
+        QTest::addRow("the last row of %s is kept", key) << name << last << last;
+        QTest::addRow("one row too many of %s", key) << name << last + 1 << 0;
+        QTest::addRow("one row too few of %s", key) << name << -1 << 0;
+        QTest::addRow("no selector has that many rows, %s", key)
+            << name << std::numeric_limits<int>::max() << 0;
+    }
+}
+
+void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault()
+{
+    QFETCH(QString, key);
+    QFETCH(int, stored);
+    QFETCH(int, expected);
+
+    const QByteArray property = key.section(QLatin1Char('/'), 1).toLatin1();
+    SettingsFile file(withLine(savedChanges(), key, property + '=' + QByteArray::number(stored)));
+    MainProfile loaded;
+    changeEverything(loaded);
+    loaded.loadSettings(file.settings());
+    for (const Profile *profile : everyProfile(loaded)) {
+        if (key.startsWith(QLatin1String(profile->metaObject()->className())))
+            QCOMPARE(profile->property(property.constData()).toInt(), expected);
+    }
 }
 
 void MainProfileStorageTest::readsTheWindowGroup_data()

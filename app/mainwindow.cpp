@@ -251,16 +251,14 @@ void MainWindow::applyWindowMode()
 }
 
 /// The stored position is that of the contents and places the frame, which is meant. A window that
-/// would lie on no screen, because one has gone since, is brought back. A stored size is bounded to
-/// what the screens show together: a damaged or foreign one may be so large that the window could
-/// not be painted at all. The form's own size is always good, as it is what a first start shows.
+/// would lie on no screen, because one has gone since, is brought back. Its size stays as it was
+/// stored, be it larger than the screen: the larger screen may be there again at the next start.
 void MainWindow::restoreGeometryFromProfile()
 {
-    const QVector<QRect> screens = screenRects();
     const QSize stored = m_profile.windowSize();
-    if (stored.isValid())
-        resize(stored.boundedTo(largestShownSize(screens).expandedTo(size())));
-    move(reachablePosition(m_profile.windowPosition(), size(), screens));
+    const QSize restored = stored.isValid() ? stored : size();
+    move(reachablePosition(m_profile.windowPosition(), restored, screenRects()));
+    resize(restored);
 }
 
 /// Alt reaches the menus by itself; F10 opens them, too, as it does everywhere on a desktop. Return

@@ -48,11 +48,3 @@ QPoint reachablePosition(const QPoint &position, const QSize &size, const QVecto
         [&distance](const QRect &a, const QRect &b) { return distance(a) < distance(b); });
     return positionOn(*nearest, position, size);
 }
-
-QSize largestShownSize(const QVector<QRect> &screens)
-{
-    QRect all;
-    for (const QRect &screen : screens)
-        all = all.united(screen);
-    return all.size();
-}

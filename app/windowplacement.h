@@ -12,8 +12,4 @@
 /// taken, also one at an end of the number range. Without screens the window stays where it was.
 QPoint reachablePosition(const QPoint &position, const QSize &size, const QVector<QRect> &screens);
 
-/// The largest size that a window can show on @p screens: that of all of them together, as a window
-/// may lie across several.
-QSize largestShownSize(const QVector<QRect> &screens);
-
 #endif

@@ -7,13 +7,20 @@
 
 #include <QSettings>
 
+#include <limits>
+
 namespace {
+
+/// A damaged or foreign size may be so large that the window could not be painted at all. A size
+/// with a negative side is no size yet, as that of a window that was never shown.
+constexpr StoredRange kWindowSides{std::numeric_limits<int>::min(),
+                                   MainProfile::kLargestWindowSide};
 
 const StoredKeys &windowKeys()
 {
     static const StoredKeys rows{
         {"windowPosition", "windowPosition", QPoint(0, 0)},
-        {"windowSize", "windowSize", QSize()},
+        {"windowSize", "windowSize", QSize(), kWindowSides},
         {"windowMode", "windowMode", 0},
         {"currentModule", "currentModule", 0},
         {"decimalPlaces", "decimalPlaces", MainProfile::kDefaultDecimalPlaces,

@@ -36,6 +36,8 @@ class MainProfile final : public Profile
 public:
     static constexpr int kDefaultDecimalPlaces = 3;
     static constexpr int kMaximumDecimalPlaces = 10;
+    /// In pixels. It is more than screens have, and little enough for a window to be painted.
+    static constexpr int kLargestWindowSide = 16384;
 
     MainProfile();
 

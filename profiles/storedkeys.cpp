@@ -85,11 +85,22 @@ QVariant wellFormed(const QVariant &stored, const QVariant &wanted)
     }
 }
 
+bool isWithin(const StoredRange &range, double number)
+{
+    return number >= range.minimum && number <= range.maximum;
+}
+
 bool isWithin(const StoredRange &range, const QVariant &value)
 {
-    if (value.userType() != QMetaType::Int && value.userType() != QMetaType::Double)
+    switch (value.userType()) {
+    case QMetaType::Int:
+    case QMetaType::Double:
+        return isWithin(range, value.toDouble());
+    case QMetaType::QSize:
+        return isWithin(range, value.toSize().width()) && isWithin(range, value.toSize().height());
+    default:
         return true;
-    return value.toDouble() >= range.minimum && value.toDouble() <= range.maximum;
+    }
 }
 
 } // namespace

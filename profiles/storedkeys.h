@@ -54,7 +54,7 @@ void saveKeys(const Profile &profile, QSettings &settings, const StoredKeys &row
 
 /// Reads the rows from the current group of @p settings and hands each value to the setter of its
 /// property, in row order. A number outside the row's range (that of int, unless the row gives one)
-/// is malformed.
+/// is malformed, and so is a size with a side outside it.
 void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &rows);
 
 #endif

@@ -7,6 +7,7 @@
 #include "windowsystem.h"
 
 #include <QScreen>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -20,8 +21,12 @@ private Q_SLOTS:
     void mirrorsItsGeometry();
     void restoresItsGeometry();
     void anInvalidStoredSizeIsNotApplied();
-    void aStoredSizeThatNoScreenCanShowIsBounded_data();
-    void aStoredSizeThatNoScreenCanShowIsBounded();
+    void aSizeLargerThanTheScreenComesBack_data();
+    void aSizeLargerThanTheScreenComesBack();
+    void aSizeThatNoWindowHasIsNotApplied_data();
+    void aSizeThatNoWindowHasIsNotApplied();
+    void aWideWindowIsReachableWhereverItWasStored_data();
+    void aWideWindowIsReachableWhereverItWasStored();
     void theSmallestSizeIsTheSameWhateverPageIsShown_data();
     void theSmallestSizeIsTheSameWhateverPageIsShown();
     void aWindowThatLiesOnNoScreenIsBroughtBack_data();
@@ -58,32 +63,73 @@ void MainWindowGeometryTest::anInvalidStoredSizeIsNotApplied()
     QCOMPARE(m_window->size(), QSize(958, 605));
 }
 
-void MainWindowGeometryTest::aStoredSizeThatNoScreenCanShowIsBounded_data()
+void MainWindowGeometryTest::aSizeLargerThanTheScreenComesBack_data()
+{
+    QTest::addColumn<QSize>("stored");
+
+    QTest::newRow("of a larger screen") << QSize(1400, 900);
+    QTest::newRow("wider than any screen") << QSize(16384, 605);
+    QTest::newRow("higher than any screen") << QSize(958, 16384);
+}
+
+/// The larger screen is away for a while, and the next start may find it again.
+void MainWindowGeometryTest::aSizeLargerThanTheScreenComesBack()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows itself makes no window larger than its screens");
+#endif
+    QFETCH(QSize, stored);
+
+    store("windowSize", stored);
+    openWindow();
+    QCOMPARE(m_window->size(), stored);
+    m_window.reset();
+    QCOMPARE(QSettings().value(QStringLiteral("MainProfile/windowSize")).toSize(), stored);
+}
+
+void MainWindowGeometryTest::aSizeThatNoWindowHasIsNotApplied_data()
 {
     QTest::addColumn<QSize>("stored");
 
     const int highest = std::numeric_limits<int>::max();
     QTest::newRow("too large both ways") << QSize(100000, 100000);
     QTest::newRow("at the end of the number range") << QSize(highest, highest);
-    QTest::newRow("too wide") << QSize(100000, 605);
-    QTest::newRow("too high") << QSize(958, 100000);
+    QTest::newRow("too wide by a pixel") << QSize(16385, 605);
+    QTest::newRow("too high by a pixel") << QSize(958, 16385);
 }
 
-void MainWindowGeometryTest::aStoredSizeThatNoScreenCanShowIsBounded()
+/// The window then has the size of its form.
+void MainWindowGeometryTest::aSizeThatNoWindowHasIsNotApplied()
 {
     QFETCH(QSize, stored);
 
     store("windowSize", stored);
     openWindow();
-    // Smaller than the form, the screens do not count.
-    const QSize largest = m_window->screen()->availableVirtualSize().expandedTo(QSize(958, 605));
-    const QSize bounded = stored.boundedTo(largest);
-    QCOMPARE(m_window->width(), bounded.width());
-    // Windows itself keeps the title bar on the screen too.
-    const int titleBar = m_window->frameGeometry().height() - m_window->height();
-    QVERIFY(m_window->height() <= bounded.height());
-    QVERIFY(m_window->height() >= bounded.height() - titleBar);
+    QCOMPARE(m_window->size(), QSize(958, 605));
     QCOMPARE(m_profile.windowSize(), m_window->size());
+}
+
+void MainWindowGeometryTest::aWideWindowIsReachableWhereverItWasStored_data()
+{
+    QTest::addColumn<QPoint>("stored");
+    QTest::addColumn<QPoint>("position");
+
+    QTest::newRow("partly on the screen: stays") << QPoint(-1300, 10) << QPoint(-1300, 10);
+    QTest::newRow("left of the screen: onto it") << QPoint(-1400, 10) << QPoint(0, 10);
+}
+
+/// Whether a window lies on a screen is asked of the size that it will have, not of the form's.
+void MainWindowGeometryTest::aWideWindowIsReachableWhereverItWasStored()
+{
+    if (!hasScreenPositions())
+        QSKIP("windows do not know where they are");
+    QFETCH(QPoint, stored);
+    QFETCH(QPoint, position);
+
+    store("windowPosition", stored);
+    store("windowSize", QSize(1400, 500));
+    const MainWindow window;
+    QCOMPARE(window.pos(), position);
 }
 
 void MainWindowGeometryTest::theSmallestSizeIsTheSameWhateverPageIsShown_data()

@@ -16,7 +16,6 @@ class WindowPlacementTest : public QObject
 private Q_SLOTS:
     void places_data();
     void places();
-    void theLargestShownSizeIsThatOfAllScreensTogether();
 };
 
 void WindowPlacementTest::places_data()
@@ -75,15 +74,6 @@ void WindowPlacementTest::places()
     QFETCH(QPoint, position);
 
     QCOMPARE(reachablePosition(stored, size, screens), position);
-}
-
-void WindowPlacementTest::theLargestShownSizeIsThatOfAllScreensTogether()
-{
-    const QRect left(0, 0, 1920, 1080);
-    const QRect lowerRight(1920, 200, 1280, 1024);
-    QCOMPARE(largestShownSize({left}), QSize(1920, 1080));
-    // 1920 + 1280 wide, 200 + 1024 high
-    QCOMPARE(largestShownSize({left, lowerRight}), QSize(3200, 1224));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, WindowPlacementTest)

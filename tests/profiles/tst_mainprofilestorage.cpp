@@ -355,6 +355,11 @@ void MainProfileStorageTest::readsTheWindowGroup_data()
     row("a position that is a size", "windowPosition=@Size(5 7)", QPoint(0, 0));
     row("a position that is a text", "windowPosition=5 7", QPoint(0, 0));
     row("a size", "windowSize=@Size(5 7)", QSize(5, 7));
+    row("the largest size", "windowSize=@Size(16384 16384)", QSize(16384, 16384));
+    row("a size too wide by a pixel", "windowSize=@Size(16385 605)", QSize());
+    row("a size too high by a pixel", "windowSize=@Size(958 16385)", QSize());
+    row("a size at the end of the number range", "windowSize=@Size(2147483647 2147483647)",
+        QSize());
     row("a size that is a point", "windowSize=@Point(5 7)", QSize());
     row("a size that is a text", "windowSize=big", QSize());
 }

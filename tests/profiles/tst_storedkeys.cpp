@@ -31,6 +31,8 @@ private Q_SLOTS:
     void loadsRowsInOrder();
     void aNumberOutsideTheRangeIsMalformed_data();
     void aNumberOutsideTheRangeIsMalformed();
+    void aSizeWithASideOutsideTheRangeIsMalformed_data();
+    void aSizeWithASideOutsideTheRangeIsMalformed();
     void aSelectorBeginsAtZero();
 };
 
@@ -328,6 +330,32 @@ void StoredKeysTest::aNumberOutsideTheRangeIsMalformed()
     profile.setWindowMode(4);
     loadKeys(profile, file.settings(), rows);
     QCOMPARE(profile.windowMode(), expected);
+}
+
+void StoredKeysTest::aSizeWithASideOutsideTheRangeIsMalformed_data()
+{
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QSize>("expected");
+
+    QTest::newRow("both sides at the upper end") << QByteArray("@Size(9 9)") << QSize(9, 9);
+    QTest::newRow("both sides at the lower end") << QByteArray("@Size(2 2)") << QSize(2, 2);
+    QTest::newRow("too wide") << QByteArray("@Size(10 5)") << QSize(3, 4);
+    QTest::newRow("too high") << QByteArray("@Size(5 10)") << QSize(3, 4);
+    QTest::newRow("too narrow") << QByteArray("@Size(1 5)") << QSize(3, 4);
+    QTest::newRow("too low") << QByteArray("@Size(5 1)") << QSize(3, 4);
+}
+
+void StoredKeysTest::aSizeWithASideOutsideTheRangeIsMalformed()
+{
+    QFETCH(QByteArray, stored);
+    QFETCH(QSize, expected);
+
+    const StoredKeys rows{{"key", "windowSize", kSize, {2, 9}}};
+    SettingsFile file("[General]\nkey=" + stored + "\n");
+    MainProfile profile;
+    profile.setWindowSize({7, 7});
+    loadKeys(profile, file.settings(), rows);
+    QCOMPARE(profile.windowSize(), expected);
 }
 
 void StoredKeysTest::aSelectorBeginsAtZero()

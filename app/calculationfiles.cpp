@@ -13,6 +13,9 @@
 #include <QFileDialog>
 #include <QSaveFile>
 #include <QSettings>
+#include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,6 +35,19 @@ QString chosenFile(QFileDialog &dialog)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);
+}
+
+/// A file's name may hold anything, line breaks and what a terminal takes for commands too.
+QString onOneLine(const QString &text)
+{
+    QVector<uint> characters = text.toUcs4();
+    const auto breaksTheLine = [](uint character) {
+        const QChar::Category category = QChar::category(character);
+        return !QChar::isPrint(character) || category == QChar::Separator_Line ||
+               category == QChar::Separator_Paragraph;
+    };
+    std::replace_if(characters.begin(), characters.end(), breaksTheLine, uint('?'));
+    return QString::fromUcs4(characters.constData(), characters.size());
 }
 
 /// What was saved is rewritten only where it is not arranged yet; what Linux writes is.
@@ -97,12 +113,17 @@ void CalculationFiles::save(MainProfile &profile, const QString &fileName)
     arrange(fileName);
 }
 
-void CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringList &arguments)
+QString CalculationFiles::openFromCommandLine(MainProfile &profile, const QStringList &arguments)
 {
     const QString name = arguments.value(1);
     const bool looksLikeAnOption = name.startsWith(QLatin1Char('-'));
-    if (arguments.size() == 2 && !name.isEmpty() && !looksLikeAnOption)
-        open(profile, name);
+    if (arguments.size() != 2 || name.isEmpty() || looksLikeAnOption)
+        return {};
+    const QString reason = SoundStore::whyUnreadable(name);
+    if (!reason.isEmpty())
+        return onOneLine(QStringLiteral("dezimo: cannot open %1: %2").arg(name, reason));
+    open(profile, name);
+    return {};
 }
 
 void CalculationFiles::loadDefaults(MainProfile &profile)

@@ -12,7 +12,8 @@ class QWidget;
 /**
  * Calculation files are INI files with the groups and keys of the application settings. A file is
  * written whole, window group included, but only its module groups are read back: opening one never
- * moves the window or turns a page. What cannot be read takes its default; nothing is reported.
+ * moves the window or turns a page. What cannot be read takes its default; only the command line
+ * has somebody to report to.
  */
 namespace CalculationFiles {
 
@@ -26,9 +27,11 @@ void save(MainProfile &profile, const QString &fileName);
 
 /// Opens the one file that the command line names, as a double click in a file manager passes it.
 /// @p arguments begin with the program's own name. Without a name or with several nothing is
-/// opened, nor is an option, of which the program has none: taking it for a file that cannot be
-/// read would give every module its defaults.
-void openFromCommandLine(MainProfile &profile, const QStringList &arguments);
+/// opened, nor is an option, of which the program has none. A file that cannot be read at all
+/// leaves every module as it is: nobody chose it in a dialog, and a mistyped name must not cost the
+/// values of the last run. Returns the line that tells which file that was and why, or an empty
+/// text.
+QString openFromCommandLine(MainProfile &profile, const QStringList &arguments);
 
 /// Gives every module its default values.
 void loadDefaults(MainProfile &profile);

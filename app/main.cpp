@@ -8,7 +8,19 @@
 #include "mainwindow.h"
 #include "withoutopengl.h"
 
+#include <cstdio>
 #include <optional>
+
+namespace {
+
+/// Whoever started the program from a terminal reads it there.
+void say(const QString &line)
+{
+    if (!line.isEmpty())
+        std::fprintf(stderr, "%s\n", qPrintable(line));
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -19,6 +31,6 @@ int main(int argc, char *argv[])
     MainWindow window;
     window.show();
     firstWindow.reset();
-    CalculationFiles::openFromCommandLine(MainProfile::instance(), QApplication::arguments());
+    say(CalculationFiles::openFromCommandLine(MainProfile::instance(), QApplication::arguments()));
     return QApplication::exec();
 }

@@ -16,7 +16,8 @@
 namespace {
 
 /// Files beyond this are not even looked at, so that no file can exhaust the memory.
-constexpr qint64 kLargestFile = qint64(256) * 1024 * 1024;
+constexpr qint64 kMebibyte = 1024 * 1024;
+constexpr qint64 kLargestFile = 256 * kMebibyte;
 
 /// Where QSettings keeps a user's store, if that is a file at all: asked itself, it would read the
 /// file first, and wait if it is a pipe.
@@ -114,6 +115,19 @@ void SoundStore::readFile(const QString &fileName, const Use &load)
     const Substitute substitute(fileName);
     QSettings file(substitute.fileName(), QSettings::IniFormat);
     load(file);
+}
+
+QString SoundStore::whyUnreadable(const QString &fileName)
+{
+    const QFileInfo info(fileName);
+    if (info.isDir())
+        return QStringLiteral("It is a folder");
+    if (info.isFile() && info.size() > kLargestFile)
+        return QStringLiteral("It is larger than %1 MiB").arg(kLargestFile / kMebibyte);
+    if (info.exists() && !info.isFile())
+        return QStringLiteral("It is not a regular file");
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
 }
 
 void SoundStore::readSettings(const Use &load)

@@ -23,7 +23,9 @@ using Use = std::function<void(QSettings &)>;
 /// Calls @p load with what is sound in an INI file. One that cannot be looked at (a pipe, one of
 /// unreasonable size) holds nothing.
 void readFile(const QString &fileName, const Use &load);
-/// The same with the application settings.
+/// Why a file cannot be read at all, as one says after a colon; empty if it can, whatever it holds.
+QString whyUnreadable(const QString &fileName);
+/// The same as readFile() with the application settings.
 void readSettings(const Use &load);
 /// The same with the store of an organization that does not exist, so that every key takes its
 /// default.

@@ -19,11 +19,11 @@ namespace {
 constexpr char kExample[] = "[MainProfile]\ncurrentModule=1\ndecimalPlaces=9\n"
                             "[DbConverterProfile]\np1=5W\n";
 
-void write(const QString &fileName)
+void write(const QString &fileName, const QByteArray &text = kExample)
 {
     QFile file(fileName);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write(kExample) > 0);
+    QCOMPARE(file.write(text), qint64(text.size()));
 }
 
 } // namespace
@@ -42,12 +42,17 @@ private Q_SLOTS:
     void readsTheModulesOnly();
     void ignoresAllElse_data();
     void ignoresAllElse();
-    void aFileThatCannotBeReadGivesTheDefaults_data();
-    void aFileThatCannotBeReadGivesTheDefaults();
+    void aFileThatCannotBeReadChangesNothing_data();
+    void aFileThatCannotBeReadChangesNothing();
+    void theComplaintIsOneLineWhateverTheName_data();
+    void theComplaintIsOneLineWhateverTheName();
+    void aFileThatHoldsNoCalculationGivesTheDefaults_data();
+    void aFileThatHoldsNoCalculationGivesTheDefaults();
 
 private:
-    /// Opens what follows the program's own name, as main() does after the window is shown.
-    static void start(const QStringList &arguments);
+    /// Opens what follows the program's own name, as main() does after the window is shown, and
+    /// returns what main() then says.
+    static QString start(const QStringList &arguments);
     QString p1Text() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -73,10 +78,10 @@ void CommandLineTest::cleanup()
     QVERIFY(QDir::setCurrent(QDir::rootPath()));
 }
 
-void CommandLineTest::start(const QStringList &arguments)
+QString CommandLineTest::start(const QStringList &arguments)
 {
-    CalculationFiles::openFromCommandLine(MainProfile::instance(),
-                                          QStringList(QStringLiteral("dezimo")) + arguments);
+    return CalculationFiles::openFromCommandLine(MainProfile::instance(),
+                                                 QStringList(QStringLiteral("dezimo")) + arguments);
 }
 
 QString CommandLineTest::p1Text() const
@@ -108,7 +113,7 @@ void CommandLineTest::opensOneFile()
 
     QVERIFY(QDir().mkdir(QStringLiteral("sub")));
     write(name);
-    start({absolute ? m_folder->filePath(name) : name});
+    QCOMPARE(start({absolute ? m_folder->filePath(name) : name}), QString());
     QCOMPARE(p1Text(), QStringLiteral("5W"));
 }
 
@@ -142,26 +147,87 @@ void CommandLineTest::ignoresAllElse()
     QFETCH(QStringList, arguments);
 
     write(QStringLiteral("a.dezimo"));
-    start(arguments);
+    QCOMPARE(start(arguments), QString());
     QCOMPARE(p1Text(), QStringLiteral("1W"));
 }
 
-void CommandLineTest::aFileThatCannotBeReadGivesTheDefaults_data()
+/// What cannot be read for other reasons is in tst_soundstore, since only Unix has most of it.
+void CommandLineTest::aFileThatCannotBeReadChangesNothing_data()
 {
     QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
 
-    QTest::newRow("a file that does not exist") << QStringLiteral("none.dezimo");
-    QTest::newRow("a folder") << QStringLiteral(".");
-    QTest::newRow("a name too long for a file") << QString(5000, QLatin1Char('x'));
+    // The other reasons come from the system, in its language.
+    const QString ofTheSystem;
+    QTest::newRow("a file that does not exist") << QStringLiteral("none.dezimo") << ofTheSystem;
+    QTest::newRow("a file in a folder that does not exist")
+        << QStringLiteral("none/a.dezimo") << ofTheSystem;
+    QTest::newRow("a name too long for a file") << QString(5000, QLatin1Char('x')) << ofTheSystem;
+    QTest::newRow("a name with a percent sign") << QStringLiteral("%2%1.dezimo") << ofTheSystem;
+    QTest::newRow("a folder") << QStringLiteral(".") << QStringLiteral("It is a folder");
 }
 
-void CommandLineTest::aFileThatCannotBeReadGivesTheDefaults()
+void CommandLineTest::aFileThatCannotBeReadChangesNothing()
 {
     QFETCH(QString, name);
+    QFETCH(QString, reason);
 
-    start({name});
-    QCOMPARE(p1Text(), QString());
+    const QString said = start({name});
+    const QString beginning = QStringLiteral("dezimo: cannot open %1: ").arg(name);
+    QCOMPARE(said.left(beginning.size()), beginning);
+    if (reason.isEmpty())
+        QVERIFY(said.size() > beginning.size());
+    else
+        QCOMPARE(said.mid(beginning.size()), reason);
+    QCOMPARE(p1Text(), QStringLiteral("1W"));
     QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void CommandLineTest::theComplaintIsOneLineWhateverTheName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("letters beyond ASCII")
+        << QString::fromUtf8("Dämpfung–测量") << QString::fromUtf8("Dämpfung–测量");
+    QTest::newRow("a letter beyond 16 bits") << QString::fromUtf8("a😀") << QString::fromUtf8("a😀");
+    QTest::newRow("line breaks") << QStringLiteral("a\r\nb") << QStringLiteral("a??b");
+    QTest::newRow("a separator of lines") << QString::fromUtf8("a\u2028b") << QStringLiteral("a?b");
+    QTest::newRow("a separator of paragraphs")
+        << QString::fromUtf8("a\u2029b") << QStringLiteral("a?b");
+    QTest::newRow("what a terminal takes for a command")
+        << QStringLiteral("\x1b[2Ja") << QStringLiteral("?[2Ja");
+    QTest::newRow("what turns the direction of a text")
+        << QString::fromUtf8("a\u202eb") << QStringLiteral("a?b");
+}
+
+void CommandLineTest::theComplaintIsOneLineWhateverTheName()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, shown);
+
+    const QString beginning = QStringLiteral("dezimo: cannot open %1: ").arg(shown);
+    QCOMPARE(start({name}).left(beginning.size()), beginning);
+}
+
+void CommandLineTest::aFileThatHoldsNoCalculationGivesTheDefaults_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("an empty file") << QByteArray();
+    QTest::newRow("prose") << QByteArray("It was a dark and stormy night.\n");
+    QTest::newRow("bytes") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe[[[===", 24);
+    QTest::newRow("another program's groups") << QByteArray("[Other]\np1=5W\n");
+}
+
+/// It was read, as by Open... in the menu.
+void CommandLineTest::aFileThatHoldsNoCalculationGivesTheDefaults()
+{
+    QFETCH(QByteArray, text);
+
+    write(QStringLiteral("a.dezimo"), text);
+    QCOMPARE(start({QStringLiteral("a.dezimo")}), QString());
+    QCOMPARE(p1Text(), QString());
 }
 
 int main(int argc, char **argv)

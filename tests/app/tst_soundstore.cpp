@@ -27,6 +27,8 @@ private Q_SLOTS:
     void whatIsNoFileIsLeftAlone_data();
     void whatIsNoFileIsLeftAlone();
     void aPipeIsNotOpened();
+    void theCommandLineLeavesAloneWhatCannotBeRead_data();
+    void theCommandLineLeavesAloneWhatCannotBeRead();
     void savingOverADamagedFileKeepsItBeside();
     void aDamagedFileThatCannotBeKeptIsLeftAlone();
     void saveKeepsForeignKeys();
@@ -117,6 +119,36 @@ void SoundStoreTest::aPipeIsNotOpened()
     CalculationFiles::save(MainProfile::instance(), name);
     CalculationFiles::open(MainProfile::instance(), name);
     QCOMPARE(fieldText("p1LineEdit"), QString());
+}
+
+void SoundStoreTest::theCommandLineLeavesAloneWhatCannotBeRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+
+    const QString notRegular = QStringLiteral("It is not a regular file");
+    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero") << notRegular;
+    QTest::newRow("a pipe") << QStringLiteral("pipe.dezimo") << notRegular;
+    QTest::newRow("5 GiB") << QStringLiteral("huge.dezimo")
+                           << QStringLiteral("It is larger than 256 MiB");
+    QTest::newRow("a folder") << QStringLiteral("/") << QStringLiteral("It is a folder");
+    QTest::newRow("a link to nothing") << QStringLiteral("link.dezimo") << QString();
+}
+
+void SoundStoreTest::theCommandLineLeavesAloneWhatCannotBeRead()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, reason);
+
+    QVERIFY(makePipe(path("pipe.dezimo")));
+    QVERIFY(makeHuge(path("huge.dezimo")));
+    QVERIFY(QFile::link(QStringLiteral("nothing"), path("link.dezimo")));
+    const QString file = QDir(QFileInfo(path("pipe.dezimo")).path()).filePath(name);
+    const QString said = CalculationFiles::openFromCommandLine(MainProfile::instance(),
+                                                               {QStringLiteral("dezimo"), file});
+    QVERIFY2(said.startsWith(QStringLiteral("dezimo: cannot open %1: %2").arg(file, reason)),
+             qPrintable(said));
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("1W"));
 }
 
 void SoundStoreTest::savingOverADamagedFileKeepsItBeside()

@@ -4,9 +4,9 @@
 """hostile_files.py: opens files that nobody in his senses made, as calculation files and as the
 application settings, and prints how long each took.
 
-A session must end with status 0, say nothing, keep its window as it is, and open within a second, or
-three for files of 100 MiB. To be run as root: it takes on the rights of nobody for the unreadable
-file.
+A session must end with status 0, say nothing but one line about a file that cannot be read at all,
+keep its window as it is, and open within a second, or three for files of 100 MiB. To be run as root: it
+takes on the rights of nobody for the unreadable file.
 """
 
 import os
@@ -71,12 +71,13 @@ def sparse(path, size):
     os.truncate(path, size)
 
 
-def measure(name, length, prepare, prefix=()):
-    """@p prepare makes the file at a path. Prints a row of the table, returns whether it is good."""
+def measure(name, length, prepare, prefix=(), complaint=None):
+    """@p prepare makes the file at a path, @p complaint is why it cannot be opened. Prints a row of
+    the table, returns whether it is good."""
     home = Home()
     file = home.folder / "hostile.dezimo"
     prepare(file)
-    opened = home.run("quit", file, prefix=prefix)
+    opened = home.run("quit", file, prefix=prefix, complaint=complaint)
     home = Home()
     prepare(home.store)
     started = home.run("quit", prefix=prefix)
@@ -96,13 +97,18 @@ def main():
     store = home.store.read_text()
     print("| file | opened, ms | start with it as settings, ms | end, ms | |")
     print("|---|---|---|---|---|")
-    good = [measure("a folder", 0, os.mkdir)]
     unreadable = lambda path: (path.write_text(store), path.chmod(0))
-    good.append(measure("unreadable", 0, unreadable, NOBODY))
-    good.append(measure("a pipe", 0, os.mkfifo))
-    good.append(measure("a device without end", 0, lambda path: path.symlink_to("/dev/zero")))
-    good.append(measure("2.5 GiB of zeros", 0, lambda path: sparse(path, 2560 * MIB)))
-    good.append(measure("5 GiB of zeros", 0, lambda path: sparse(path, 5120 * MIB)))
+    not_regular = "hostile.dezimo: It is not a regular file"
+    too_large = "hostile.dezimo: It is larger than 256 MiB"
+    good = [
+        measure("a folder", 0, os.mkdir, complaint="hostile.dezimo: It is a folder"),
+        measure("unreadable", 0, unreadable, NOBODY, "hostile.dezimo: Permission denied"),
+        measure("a pipe", 0, os.mkfifo, complaint=not_regular),
+        measure("a device without end", 0, lambda path: path.symlink_to("/dev/zero"),
+                complaint=not_regular),
+        measure("2.5 GiB of zeros", 0, lambda path: sparse(path, 2560 * MIB), complaint=too_large),
+        measure("5 GiB of zeros", 0, lambda path: sparse(path, 5120 * MIB), complaint=too_large),
+    ]
     for name, text in hostile_texts(store):
         good.append(measure(name, len(text), lambda path: path.write_bytes(text)))
     print(f"{sum(good)} of {len(good)} good")

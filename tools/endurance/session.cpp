@@ -42,10 +42,13 @@ int startAndQuit(const QStringList &arguments)
         window.show();
         QCoreApplication::processEvents();
         std::printf("start %lld ms\n", timer.restart());
-        CalculationFiles::openFromCommandLine(MainProfile::instance(), arguments);
+        const QString said =
+            CalculationFiles::openFromCommandLine(MainProfile::instance(), arguments);
         QCoreApplication::processEvents();
         std::printf("open %lld ms, size %d x %d\n", timer.restart(), window.width(),
                     window.height());
+        if (!said.isEmpty())
+            std::fprintf(stderr, "%s\n", qPrintable(said));
         auto *quit = window.findChild<QAction *>(QStringLiteral("actionQuit"));
         QTimer soon;
         soon.setSingleShot(true);

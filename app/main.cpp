@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculationfiles.h"
+#include "endrequests.h"
 #include "identity.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
@@ -12,6 +13,15 @@
 #include <optional>
 
 namespace {
+
+/// A session that ends need not close the windows, which Qt would do by itself: it may be asked to
+/// end and then go on.
+void endWithoutAPerson(const EndRequests &requests, const MainWindow &window)
+{
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, &MainWindow::keepState);
+    QObject::connect(&requests, &EndRequests::received, &window, &MainWindow::endProgram);
+}
 
 /// Whoever started the program from a terminal reads it there.
 void say(const QString &line)
@@ -28,7 +38,9 @@ int main(int argc, char *argv[])
     std::optional<WithoutOpenGl> firstWindow(std::in_place);
     KelApplication application(argc, argv, true);
     Identity::apply();
+    const EndRequests endRequests;
     MainWindow window;
+    endWithoutAPerson(endRequests, window);
     window.show();
     firstWindow.reset();
     say(CalculationFiles::openFromCommandLine(MainProfile::instance(), QApplication::arguments()));

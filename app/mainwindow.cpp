@@ -19,6 +19,7 @@
 #include "vswrconverterwidget.h"
 #include "windowplacement.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QMoveEvent>
 #include <QResizeEvent>
@@ -106,7 +107,26 @@ MainWindow::~MainWindow()
 {
     hide();
     m_ui.reset();
-    SoundStore::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
+    writeState();
+}
+
+/// A field's edit is finished when the field is left.
+void MainWindow::keepState()
+{
+    if (QWidget *field = QApplication::focusWidget()) {
+        field->clearFocus();
+        field->setFocus(Qt::OtherFocusReason);
+    }
+    writeState();
+}
+
+/// Dialogs close before the windows below them. One that refuses is left together with its event
+/// loop.
+void MainWindow::endProgram()
+{
+    keepState();
+    QApplication::closeAllWindows();
+    QApplication::quit();
 }
 
 void MainWindow::moveEvent(QMoveEvent *event)
@@ -214,6 +234,11 @@ void MainWindow::addViews()
     addView<DbConverterWidget>(m_ui->page_4, "dbConverterWidget");
     addView<VswrConverterWidget>(m_ui->page_5, "vswrConverterWidget");
     QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
+}
+
+void MainWindow::writeState()
+{
+    SoundStore::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
 }
 
 /// A sheet that is set again would style every widget of the window once more, to the same looks.

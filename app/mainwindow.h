@@ -28,6 +28,14 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    /// Finishes the edit that is open and writes the state, for a session that may end without
+    /// asking again. The window goes on.
+    void keepState();
+    /// What Quit does, whatever menu or dialog is open: the edit that is open is finished, the
+    /// state written, every window closed and the event loop left with status 0. The state is
+    /// written at once, because whoever ends the program may not wait.
+    void endProgram();
+
 protected:
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -48,6 +56,7 @@ private:
     struct Target;
 
     void addViews();
+    void writeState();
     void applyStyleSheet(ApplicationTheme theme);
     void applyModuleIcons(ApplicationTheme theme);
     Target windowModeTarget() const;

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "endrequests.h"
+#include "kelapplication.h"
+#include "mainwindowcase.h"
+#include "testmain.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <csignal>
+
+#ifdef Q_OS_WIN
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+#endif
+
+/// What happens in the program when the system asks it to end. Sessions that are really ended are
+/// in endrequests_test.py.
+class EndRequestsTest : public MainWindowCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepingTheStateFinishesTheEditAndGoesOn();
+    void endingClosesADialogAndItsLoop();
+    void askingTwiceIsReceivedOnce();
+
+private:
+    /// An edit of both powers of the dB converter, of which the second is not finished.
+    void type();
+    static void ask(const QWidget &window);
+    static QString stored(const char *key);
+};
+
+void EndRequestsTest::type()
+{
+    store("currentModule", 3);
+    openWindow();
+    QTest::keyClicks(child<QLineEdit>("p1LineEdit"), QStringLiteral("10dBm"));
+    child("p2LineEdit")->setFocus();
+    QTest::keyClicks(child<QLineEdit>("p2LineEdit"), QStringLiteral("0dBm"));
+    QCOMPARE(child<QLineEdit>("pRatioLineEdit")->text(), QString());
+}
+
+void EndRequestsTest::ask(const QWidget &window)
+{
+#ifdef Q_OS_WIN
+    SendMessageW(reinterpret_cast<HWND>(window.winId()), WM_ENDSESSION, TRUE, 0);
+#else
+    Q_UNUSED(window)
+    QCOMPARE(raise(SIGTERM), 0);
+#endif
+}
+
+QString EndRequestsTest::stored(const char *key)
+{
+    return QSettings().value(QLatin1String("DbConverterProfile/") + QLatin1String(key)).toString();
+}
+
+/// A session that was to end may go on: the person types on where the cursor is.
+void EndRequestsTest::keepingTheStateFinishesTheEditAndGoesOn()
+{
+    type();
+    m_window->keepState();
+    QCOMPARE(stored("pRatio"), QStringLiteral("10"));
+    QCOMPARE(child<QLineEdit>("pDbLineEdit")->text(), QStringLiteral("10.00"));
+    QVERIFY(m_window->isVisible());
+    QVERIFY(child("p2LineEdit")->hasFocus());
+    QCOMPARE(child<QLineEdit>("p2LineEdit")->text(), QStringLiteral("0dBm"));
+}
+
+void EndRequestsTest::endingClosesADialogAndItsLoop()
+{
+    type();
+    QFileDialog dialog(m_window.get());
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    QTimer::singleShot(0, &dialog, [this] { m_window->endProgram(); });
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(stored("pRatio"), QStringLiteral("10"));
+}
+
+/// The last one, since on Windows Qt then lets no event loop begin any more.
+void EndRequestsTest::askingTwiceIsReceivedOnce()
+{
+    const EndRequests requests;
+    QSignalSpy received(&requests, &EndRequests::received);
+    openWindow();
+    ask(*m_window);
+    ask(*m_window);
+    QTRY_COMPARE(received.count(), 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(received.count(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    return runTestMain<KelApplication, EndRequestsTest>(argc, argv, true);
+}
+
+#include "tst_endrequests.moc"

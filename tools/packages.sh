@@ -23,7 +23,7 @@ declare -A packages=(
     [peers]="speedcrunch kcalc galculator qalculate-gtk"
     [windows-check]="g++-mingw-w64-x86-64-posix"
     [pictures]="pngquant"
-    [fuzz]="clang libclang-rt-14-dev"
+    [fuzz]="clang libclang-rt-dev"
     [endurance]="locales-all openbox weston strace util-linux"
     [coverage]="gcovr"
     [memcheck]="valgrind"
@@ -51,13 +51,16 @@ declare -A commands=(
     [windows-test]="Xvfb openbox xprop xdotool import unzip xmllint"
 )
 
-# Those of the given packages that dpkg does not have installed.
+# All that the installed packages offer, a name in a line: their own, and those that they provide. A
+# package that has got another name in a later release provides the old one.
+offered() {
+    dpkg-query --show --showformat='${db:Status-Status} ${Package} ${Provides}\n' |
+        sed --quiet 's/^installed //; T; s/([^)]*)//g; s/[ ,]\+/\n/g; p'
+}
+
+# Those of the given packages that are not there, under their own or another name.
 missing_of() {
-    local installed
-    installed=" $(dpkg-query --show --showformat='${db:Status-Status}=${Package} ' "$@" 2>/dev/null || true)"
-    for package in "$@"; do
-        [[ $installed == *" installed=$package "* ]] || echo "$package"
-    done
+    printf '%s\n' "$@" | grep --invert-match --line-regexp --fixed-strings --file=<(offered) || true
 }
 
 apt_get() {

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+#
+# packages_test.sh: what the install step takes for there, on a machine whose packages are made up
+# and whose apt only notes that it was called.
+set -euo pipefail
+
+scratch=$(mktemp --directory)
+trap 'rm -rf "$scratch"' EXIT
+
+fail() { echo "$*" >&2; exit 1; }
+
+# command_in_place_of NAME: the script that comes in.
+command_in_place_of() {
+    { echo '#!/bin/sh'; cat; } >"$scratch/$1"
+    chmod +x "$scratch/$1"
+}
+command_in_place_of dpkg-query <<<"cat '$scratch/packages'"
+command_in_place_of apt-get <<<"echo called >>'$scratch/apt'"
+command_in_place_of sudo <<<'exec "$@"'
+
+# says CASE WORDS: what is said for the group that needs valgrind alone, with the state, name and
+# provided names of the packages that come in.
+says() {
+    local said called=
+    cat >"$scratch/packages"
+    rm -f "$scratch/apt"
+    said=$(PATH="$scratch:$PATH" tools/packages.sh memcheck)
+    [[ $said == "$2" ]] || fail "$1: expected \"$2\", found \"$said\""
+    [[ ! -e $scratch/apt ]] || called=yes
+    [[ ${2:+yes} == "$called" ]] || fail "$1: apt was called: ${called:-no}"
+}
+
+says "nothing is there" "Installing: valgrind" </dev/null
+says "the package is there" "" <<<"installed valgrind "
+says "another one provides it" "" <<<"installed valgrind-t64 valgrind"
+says "another one provides it among others, of a version" "" \
+    <<<"installed checkers memcheck, valgrind (= 1:3.24), helgrind (= 1)"
+says "one of a longer name is there" "Installing: valgrind" <<<"installed valgrind-dbg valgrind-mpi"
+says "only its configuration is left" "Installing: valgrind" <<<"config-files valgrind valgrind"

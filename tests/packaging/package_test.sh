@@ -46,11 +46,14 @@ version() {
         "$(xmllint --xpath 'string(//release/@version)' "$share/metainfo/$DEZIMO_ID.metainfo.xml")"
 }
 
+# A library's package has another name in another release, so it is looked for by its file.
 dependencies() {
     local depends
     depends=$(field Depends)
-    for library in libc6 libstdc++6 libqt5core5a libqt5gui5 libqt5widgets5 libqt5svg5; do
-        [[ $depends == *"$library (>= "* ]] || fail "no dependency on $library in: $depends"
+    for library in libc.so.6 libstdc++.so.6 libQt5{Core,Gui,Widgets,Svg}.so.5; do
+        grep --quiet --fixed-strings --file=<(
+            dpkg-query --search "*/$library" | sed 's/:.*/ (>= /'
+        ) <<<"$depends" || fail "no dependency on a package with $library in: $depends"
     done
 }
 

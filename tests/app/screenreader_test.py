@@ -34,6 +34,12 @@ def wait_for(what, condition):
     raise AssertionError(f"waited in vain for {what}")
 
 
+def role_of(accessible):
+    """The name of its role. What is a button today was a push button in older AT-SPI."""
+    role = accessible.getRoleName()
+    return "button" if role == "push button" else role
+
+
 def visible_below(root):
     """Every accessible that is showing, breadth first. The lists of closed boxes are not."""
     rest = [root]
@@ -42,7 +48,7 @@ def visible_below(root):
         if accessible is None:
             continue
         yield accessible
-        if accessible.getRoleName() != "combo box":
+        if role_of(accessible) != "combo box":
             rest += [accessible.getChildAtIndex(i) for i in range(accessible.childCount)]
 
 
@@ -70,7 +76,7 @@ class Person:
             found = [
                 accessible
                 for accessible in visible_below(self.program)
-                if accessible.getRoleName() == role
+                if role_of(accessible) == role
                 and accessible.name == name
                 and (role == "menu item" or accessible.getState().contains(pyatspi.STATE_SHOWING))
             ]
@@ -101,7 +107,7 @@ class Person:
 
     def press(self, *keys):
         for key in keys:
-            self.act("push button", key)
+            self.act("button", key)
 
     def choose_next(self, box):
         self.act("combo box", box, "Increase")

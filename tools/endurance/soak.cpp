@@ -26,9 +26,9 @@ size_t below(Random &random, size_t bound)
 QString randomText(Random &random)
 {
     static const std::vector<const char *> pieces{
-        "0",  "1",   "7",   "50", ".5", "-3", "1e9", "1e-9", "+", "-", "*",     "/", "(", ")",
-        "dB", "dBm", "dBW", "W",  "mW", "µW", "V",   "mV",   "k", "m", "u",     " ", ",", ".",
-        "E",  "inf", "nan", "Ω",  "@",  "\n", "°",   "dBµV", "p", "G", "1e400", "−", "💥", "%1"};
+        "0",  "1",   "7",   "50", ".5", "-3", "1e9", "1e-9", "+", "-", "*",     "/", "(",  ")",
+        "dB", "dBm", "dBW", "W",  "mW", "µW", "V",   "mV",   "k", "m", "u",     " ", ",",  ".",
+        "E",  "inf", "nan", "Ω",  "@",  "\n", "°",   "dBµV", "p", "G", "1e400", "−", "%1", "💥"};
     QString text;
     for (size_t count = below(random, 8); count > 0; --count)
         text += QString::fromUtf8(pieces.at(below(random, pieces.size())));

@@ -27,10 +27,12 @@ QString OperatorChain::result(StepRule &rule) const
 {
     const int plain = m_units.back().index;
     std::optional<Operand> left = operand(0);
+    if (!left)
+        return ErrorText::invalidInput();
     QString number;
     for (std::size_t i = 0; i < m_operators.size(); ++i) {
         const std::optional<Operand> right = operand(i + 1);
-        if (!left || !right)
+        if (!right)
             return ErrorText::invalidInput();
         if ((left->unit == plain) != (right->unit == plain))
             return ErrorText::unitMissing();

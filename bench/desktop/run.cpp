@@ -55,7 +55,7 @@ private:
     void waitForPause();
     void prepareTyping();
     void typeDigits();
-    void clickRows();
+    void clickRows(int current);
     std::optional<Burst> burst(Clock::duration pause);
     Display::Event nextEvent(Display::Change change);
     double sinceStart(Clock::time_point time) const;
@@ -77,7 +77,7 @@ Run Measurement::run()
     prepareTyping();
     typeDigits();
     if (m_program.module)
-        clickRows();
+        clickRows(*m_program.module);
     return m_run;
 }
 
@@ -130,10 +130,10 @@ void Measurement::typeDigits()
 
 /// Every row once, beginning with the one after the current module's, so that each but the last
 /// shows its page for the first time.
-void Measurement::clickRows()
+void Measurement::clickRows(int current)
 {
     for (int i = 1; i <= kRows; ++i) {
-        const int row = (*m_program.module + i) % kRows;
+        const int row = (current + i) % kRows;
         const std::string title = m_display.title(m_window);
         m_display.movePointer(m_window, kRowX, kFirstRowY + row * kRowHeight);
         burst(kTypingPause);

@@ -142,7 +142,7 @@ starts() {
     start "$home/$file" "$home/$file"
     expect "with two files" 6W "$(stored_p1 "$home")"
     start "$home/none.dezimo"
-    expect "without the file" "" "$(stored_p1 "$home")"
+    expect "without the file" 6W "$(stored_p1 "$home")"
     [[ ! -e $home/none.dezimo ]] || fail "a file that is only read was made"
 }
 

@@ -340,7 +340,9 @@ void LookingTest::minimizeAndRestore()
     QCoreApplication::processEvents();
     m_window->showNormal();
     m_window->activateWindow();
-    QVERIFY(waitForKeyboard(*m_window));
+    // A compositor of Wayland brings windows back in its own time.
+    if (hasScreenPositions())
+        QVERIFY(waitForKeyboard(*m_window));
 }
 
 void LookingTest::activateAnotherWindow()
@@ -384,7 +386,8 @@ void LookingTest::saveToAFile()
 {
     QTimer untilItIsThere;
     connect(&untilItIsThere, &QTimer::timeout, m_window.get(), [this] {
-        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog && dialog->isActiveWindow()) {
             dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(m_file);
             static_cast<QDialog *>(dialog)->accept();
         }

@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QEvent>
 #include <QListView>
+#include <QWheelEvent>
 
 /// The list is made where it will be: a list that is moved there is styled anew.
 KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
@@ -19,6 +20,7 @@ KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
     setStyle(style);
     setView(new QListView(view()->parentWidget()));
     installAccessibleWidgets();
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &KelComboBox::selectCurrentItem);
 }
@@ -45,6 +47,15 @@ void KelComboBox::hidePopup()
 {
     QComboBox::hidePopup();
     QMetaObject::invokeMethod(this, "endPopup", Qt::QueuedConnection);
+}
+
+/// What the box leaves alone scrolls the page that it is on.
+void KelComboBox::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 /// A list that was left without a choice has selected what the pointer or the keys were last on.

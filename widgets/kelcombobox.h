@@ -10,6 +10,9 @@
  * A combo box whose list opens directly below the box and is at least as wide, on every platform.
  * The list is a plain list view, so that style sheets reach its items. Whether it is open or not,
  * the item selected in it is the chosen one, which assistive technology reads there.
+ *
+ * The wheel chooses only in a box that has the focus, which it does not get by the wheel. So a page
+ * can be scrolled past it.
  */
 class KelComboBox final : public QComboBox
 {
@@ -22,6 +25,9 @@ public:
 
     void showPopup() override;
     void hidePopup() override;
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     Q_INVOKABLE void endPopup();

@@ -25,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <functional>
 
@@ -71,6 +72,7 @@ private:
     void clickEveryField();
     void openEveryMenu();
     void openEveryUnitList();
+    void turnTheWheelOverEverySelector();
     void minimizeAndRestore();
     void activateAnotherWindow();
     void openAbout();
@@ -126,6 +128,7 @@ const QVector<LookingTest::Way> &LookingTest::ways()
         {"a click into every field", &Test::clickEveryField, true},
         {"every menu opened and closed", &Test::openEveryMenu, false},
         {"every list of units opened and closed", &Test::openEveryUnitList, false},
+        {"the wheel over every selector", &Test::turnTheWheelOverEverySelector, false},
         {"minimized and restored", &Test::minimizeAndRestore, false},
         {"another window and back", &Test::activateAnotherWindow, false},
         {"About opened and closed", &Test::openAbout, false},
@@ -331,6 +334,18 @@ void LookingTest::openEveryUnitList()
             continue;
         QTest::mouseClick(selector, Qt::LeftButton);
         closePopup();
+    }
+}
+
+/// As when the page is scrolled in a small window.
+void LookingTest::turnTheWheelOverEverySelector()
+{
+    const QList<QComboBox *> selectors = page().findChildren<QComboBox *>();
+    for (QComboBox *selector : selectors) {
+        const QPointF middle = selector->rect().center();
+        QWheelEvent down(middle, selector->mapToGlobal(middle.toPoint()), QPoint(), QPoint(0, -120),
+                         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(selector, &down);
     }
 }
 

@@ -168,6 +168,10 @@ class Session:
         x, y = self.positions[page, name]
         xdotool("mousemove", "--window", self.window, x, y, "click", 1)
 
+    def turn_wheel_over(self, name):
+        x, y = self.positions[self.page, name]
+        xdotool("mousemove", "--window", self.window, x, y, "click", 5)
+
     def enter(self, field, text):
         """Puts a text in the place of what a field shows, and leaves the edit open."""
         self.click(field)

@@ -71,6 +71,15 @@ def open_unit_lists(session):
         session.wait_for_windows(1)
 
 
+def turn_the_wheel_over_unit_lists(session):
+    """As when a page is scrolled in a small window."""
+    for page, name in session.positions:
+        if page == session.page and name in ("tab0", "tab1"):
+            session.click(name)
+        elif page == session.page and name.endswith("ComboBox"):
+            session.turn_wheel_over(name)
+
+
 def minimize(session):
     xdotool("windowminimize", "--sync", session.window)
     session.activate()
@@ -122,7 +131,8 @@ LOOKS = {
     "started and quit": [nothing],
     "every other page visited and back": [visit_all_pages],
     "Tab and Shift+Tab all round": [tab_all_round],
-    "a click into every field, the menus, the unit lists": [
+    "the wheel over the unit lists, a click into every field, the menus, the unit lists": [
+        turn_the_wheel_over_unit_lists,
         click_into_every_field,
         open_menus,
         open_unit_lists,

@@ -8,8 +8,10 @@
 #include "windowsystem.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QListView>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <memory>
 
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void opensBelowTheBox_data();
     void opensBelowTheBox();
     void choosesByKeyboard();
+    void theWheelChoosesOnlyWithTheFocus();
     void itsListSelectsTheChosenItem();
     void aListThatIsLeftSelectsTheChosenItemAgain();
     void isNotUnderAPointerThatLeftWhileTheListWasOpen();
@@ -167,6 +170,32 @@ void KelComboBoxTest::choosesByKeyboard()
     QTest::keyClick(box.view(), Qt::Key_Return);
     QCOMPARE(box.currentText(), QStringLiteral("mW"));
     QTRY_VERIFY(!box.view()->isVisible());
+}
+
+/// Who scrolls a page by the wheel passes over its boxes and means none of them.
+void KelComboBoxTest::theWheelChoosesOnlyWithTheFocus()
+{
+    QWidget window;
+    auto *edit = new QLineEdit(&window);
+    auto *box = new KelComboBox(&window);
+    box->addItems(units());
+    edit->setFocus();
+    window.show();
+    window.activateWindow();
+    QVERIFY(waitForKeyboard(window));
+    const QPointF middle = box->rect().center();
+    QWheelEvent down(middle, box->mapToGlobal(middle.toPoint()), QPoint(), QPoint(0, -120),
+                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+
+    QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
+    QCoreApplication::sendEvent(box, &down);
+    QCOMPARE(box->currentIndex(), 0);
+    QVERIFY(!down.isAccepted());
+
+    box->setFocus();
+    QCoreApplication::sendEvent(box, &down);
+    QCOMPARE(box->currentIndex(), 1);
+    QVERIFY(down.isAccepted());
 }
 
 void KelComboBoxTest::itsListSelectsTheChosenItem()

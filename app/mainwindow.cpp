@@ -13,6 +13,7 @@
 #include "mainprofile.h"
 #include "soundstore.h"
 #include "stylesheets.h"
+#include "takeoverslide.h"
 #include "ui_mainwindow.h"
 #include "unitconverterwidget.h"
 #include "voltagecalculatorwidget.h"
@@ -110,9 +111,13 @@ MainWindow::~MainWindow()
     writeState();
 }
 
-/// A field's edit is finished when the field is left.
+/// A field's edit is finished when the field is left. A result that is just sliding into the input
+/// arrives at once: what the model makes of it meanwhile is an error.
 void MainWindow::keepState()
 {
+    const QList<TakeOverSlide *> slides = findChildren<TakeOverSlide *>();
+    for (TakeOverSlide *slide : slides)
+        slide->finish();
     if (QWidget *field = QApplication::focusWidget()) {
         field->clearFocus();
         field->setFocus(Qt::OtherFocusReason);

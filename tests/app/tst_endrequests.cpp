@@ -6,6 +6,7 @@
 #include "mainwindowcase.h"
 #include "testmain.h"
 
+#include <QAbstractAnimation>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QSettings>
@@ -33,6 +34,7 @@ class EndRequestsTest : public MainWindowCase
 
 private Q_SLOTS:
     void keepingTheStateFinishesTheEditAndGoesOn();
+    void keepingTheStateDuringASlideKeepsNoError();
     void endingClosesADialogAndItsLoop();
     void askingTwiceIsReceivedOnce();
 
@@ -78,6 +80,22 @@ void EndRequestsTest::keepingTheStateFinishesTheEditAndGoesOn()
     QVERIFY(m_window->isVisible());
     QVERIFY(child("p2LineEdit")->hasFocus());
     QCOMPARE(child<QLineEdit>("p2LineEdit")->text(), QStringLiteral("0dBm"));
+}
+
+/// The process may be gone before the result has arrived as the next input.
+void EndRequestsTest::keepingTheStateDuringASlideKeepsNoError()
+{
+    openWindow();
+    auto *input =
+        child("dbmCalculatorWidget")->findChild<QLineEdit *>(QStringLiteral("inputLineEdit"));
+    QTest::keyClicks(input, QStringLiteral("10dBm+3dB"));
+    QTest::keyClick(input, Qt::Key_Return);
+    QVERIFY(m_window->findChild<QAbstractAnimation *>());
+    m_window->keepState();
+    const QSettings settings;
+    QCOMPARE(settings.value(QStringLiteral("DbmCalculatorProfile/input")).toString(),
+             QStringLiteral("13.00 dBm"));
+    QCOMPARE(settings.value(QStringLiteral("DbmCalculatorProfile/output")).toString(), QString());
 }
 
 void EndRequestsTest::endingClosesADialogAndItsLoop()

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QIntValidator>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void returnFinishesAlways();
     void anEditAfterReturnIsFinishedAgain();
     void aSlotMayReplaceTheText();
+    void aTextThatMustNotStayIsNotFinished();
     void everyLeavingFinishesWhereItIsAskedFor_data();
     void everyLeavingFinishesWhereItIsAskedFor();
     void anUnfocusedEditIsFinishedByHiding();
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void anErrorThatAppearsIsSelected();
     void aTypedErrorIsNotSelected();
     void aSecondClickPlacesTheCursor();
+    void aPartOfAnErrorIsSelectedByDragging();
     void theContextMenuKeepsTheCursor();
     void theContextMenuHasTheFontOfMenus();
 
@@ -501,6 +504,22 @@ void FinishedEditsTest::aSlotMayReplaceTheText()
     QCOMPARE(m_finished->count(), 1);
 }
 
+/// The edit stays open until the text is acceptable, as Return finishes none before.
+void FinishedEditsTest::aTextThatMustNotStayIsNotFinished()
+{
+    QIntValidator twoDigits(10, 99);
+    m_edit->setValidator(&twoDigits);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Tab);
+    QCOMPARE(m_finished->count(), 0);
+    m_edit->setFocus();
+    press(Qt::Key_End);
+    type("7");
+    press(Qt::Key_Tab);
+    QCOMPARE(m_edit->text(), QStringLiteral("17"));
+    QCOMPARE(m_finished->count(), 1);
+}
+
 void FinishedEditsTest::everyLeavingFinishesWhereItIsAskedFor_data()
 {
     QTest::addColumn<QString>("leaving");
@@ -628,6 +647,22 @@ void FinishedEditsTest::aSecondClickPlacesTheCursor()
     QVERIFY(!m_edit->hasSelectedText());
     type("1");
     QCOMPARE(m_edit->text(), QStringLiteral("1NAN"));
+}
+
+/// With the press that brings the focus.
+void FinishedEditsTest::aPartOfAnErrorIsSelectedByDragging()
+{
+    m_neighbor->setFocus();
+    m_edit->setText(QStringLiteral("invalid input"));
+    const QPoint start(1, 15);
+    const QPoint afterTheFirstWord(
+        m_edit->fontMetrics().horizontalAdvance(QStringLiteral("invalid")) + 5, 15);
+    QTest::mousePress(m_edit, Qt::LeftButton, Qt::NoModifier, start);
+    QMouseEvent drag(QEvent::MouseMove, afterTheFirstWord, Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(m_edit, &drag);
+    QTest::mouseRelease(m_edit, Qt::LeftButton, Qt::NoModifier, afterTheFirstWord);
+    QCOMPARE(m_edit->selectedText().trimmed(), QStringLiteral("invalid"));
 }
 
 void FinishedEditsTest::theContextMenuKeepsTheCursor()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void returnFinishesAlways();
     void anEditAfterReturnIsFinishedAgain();
     void aSlotMayReplaceTheText();
+    void aSlotMayHideTheEdit();
     void aTextThatMustNotStayIsNotFinished();
     void everyLeavingFinishesWhereItIsAskedFor_data();
     void everyLeavingFinishesWhereItIsAskedFor();
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void aPartOfAnErrorIsSelectedByDragging();
     void theContextMenuKeepsTheCursor();
     void theContextMenuHasTheFontOfMenus();
+    void theContextMenuGoesWhenItIsClosed();
 
 private:
     using Step = std::function<void(FinishedEditsTest &)>;
@@ -504,6 +506,16 @@ void FinishedEditsTest::aSlotMayReplaceTheText()
     QCOMPARE(m_finished->count(), 1);
 }
 
+/// Which is to leave it once more.
+void FinishedEditsTest::aSlotMayHideTheEdit()
+{
+    connect(m_edit, &QLineEdit::editingFinished, m_edit, &QWidget::hide);
+    type("3");
+    m_neighbor->setFocus();
+    QVERIFY(m_edit->isHidden());
+    QCOMPARE(m_finished->count(), 1);
+}
+
 /// The edit stays open until the text is acceptable, as Return finishes none before.
 void FinishedEditsTest::aTextThatMustNotStayIsNotFinished()
 {
@@ -682,6 +694,17 @@ void FinishedEditsTest::theContextMenuHasTheFontOfMenus()
     QCOMPARE(menu.font(), m_menu->font());
     QCOMPARE(menu.parentWidget(), m_window.get());
     QTest::keyClick(&menu, Qt::Key_Escape);
+}
+
+/// It belongs to the window, where one for each click would pile up.
+void FinishedEditsTest::theContextMenuGoesWhenItIsClosed()
+{
+    const QPointer<QMenu> left = &openContextMenu();
+    QTest::keyClick(left, Qt::Key_Escape);
+    QTRY_VERIFY(!left);
+    m_edit->selectAll();
+    chooseFromContextMenu(QStringLiteral("&Copy"));
+    QTRY_COMPARE(m_window->findChildren<QMenu *>(), QList<QMenu *>{m_menu.get()});
 }
 
 DEZIMO_TEST_MAIN(QApplication, FinishedEditsTest)

@@ -4,6 +4,7 @@
 #ifndef PROFILES_DBCONVERTERPROFILE_H
 #define PROFILES_DBCONVERTERPROFILE_H
 
+#include "announced.h"
 #include "profile.h"
 
 #include <QString>
@@ -37,30 +38,30 @@ class DbConverterProfile final : public Profile
 public:
     explicit DbConverterProfile(QObject *parent = nullptr);
 
-    QString p1() const { return m_p1; }
-    QString p2() const { return m_p2; }
-    QString v1() const { return m_v1; }
-    QString v2() const { return m_v2; }
-    QString pRatio() const { return m_pRatio; }
-    QString pDb() const { return m_pDb; }
-    QString vRatio() const { return m_vRatio; }
-    QString vDb() const { return m_vDb; }
+    QString p1() const { return m_powers.first.get(); }
+    QString p2() const { return m_powers.second.get(); }
+    QString v1() const { return m_voltages.first.get(); }
+    QString v2() const { return m_voltages.second.get(); }
+    QString pRatio() const { return m_powers.ratio.get(); }
+    QString pDb() const { return m_powers.db.get(); }
+    QString vRatio() const { return m_voltages.ratio.get(); }
+    QString vDb() const { return m_voltages.db.get(); }
     /// 0: powers, 1: voltages.
-    int currentMode() const { return m_currentMode; }
-    int pLatestRun() const { return m_pLatestRun; }
-    int vLatestRun() const { return m_vLatestRun; }
+    int currentMode() const { return m_currentMode.get(); }
+    int pLatestRun() const { return m_powers.latestRun.get(); }
+    int vLatestRun() const { return m_voltages.latestRun.get(); }
 
-    void setP1(const QString &text);
-    void setP2(const QString &text);
-    void setV1(const QString &text);
-    void setV2(const QString &text);
-    void setPRatio(const QString &text);
-    void setPDb(const QString &text);
-    void setVRatio(const QString &text);
-    void setVDb(const QString &text);
-    void setCurrentMode(int mode);
-    void setPLatestRun(int code);
-    void setVLatestRun(int code);
+    void setP1(const QString &text) { m_powers.first.set(text); }
+    void setP2(const QString &text) { m_powers.second.set(text); }
+    void setV1(const QString &text) { m_voltages.first.set(text); }
+    void setV2(const QString &text) { m_voltages.second.set(text); }
+    void setPRatio(const QString &text) { m_powers.ratio.set(text); }
+    void setPDb(const QString &text) { m_powers.db.set(text); }
+    void setVRatio(const QString &text) { m_voltages.ratio.set(text); }
+    void setVDb(const QString &text) { m_voltages.db.set(text); }
+    void setCurrentMode(int mode) { m_currentMode.set(mode); }
+    void setPLatestRun(int code) { m_powers.latestRun.set(code); }
+    void setVLatestRun(int code) { m_voltages.latestRun.set(code); }
 
     void saveSettings(QSettings &settings) override;
     void loadSettings(QSettings &settings) override;
@@ -89,40 +90,44 @@ Q_SIGNALS:
     void vLatestRunChanged();
 
 private:
-    struct Field;
-    struct Half;
+    struct Rule;
 
-    QString text(const Field &field) const;
-    void setText(const Field &field, const QString &text);
+    /// The four fields of one tab, of which each is calculated from the others.
+    struct Half
+    {
+        Announced<QString> first;
+        Announced<QString> second;
+        Announced<QString> ratio;
+        Announced<QString> db;
+        Announced<int> latestRun;
+        const Rule &rule;
 
-    using Step = void (DbConverterProfile::*)(const Half &);
-    void run(const Half &half, Step step, int guard, int code);
-    void finishFirst(const Half &half);
-    void finishSecond(const Half &half);
-    void finishRatio(const Half &half);
-    void finishDb(const Half &half);
+        void run(void (Half::*finish)(), int guard, int code);
+        void finishFirst();
+        void finishSecond();
+        void finishRatio();
+        void finishDb();
 
-    void showRatio(const Half &half, double ratio);
-    void showDbOf(const Half &half, double ratio);
-    void clearResults(const Half &half, const QString &ratioText = {});
-    void deriveFirst(const Half &half, double ratio);
-    void deriveSecond(const Half &half, double ratio);
-    void deriveMissingOperand(const Half &half, double ratio);
+    private:
+        void showRatio(double linear);
+        void showDbOf(double linear);
+        void clearResults(const QString &ratioText = {});
+        void deriveFirst(double linear);
+        void deriveSecond(double linear);
+        void deriveMissingOperand(double linear);
+    };
 
-    static const Half kPowers;
-    static const Half kVoltages;
+    static const Rule kPowers;
+    static const Rule kVoltages;
 
-    QString m_p1;
-    QString m_p2;
-    QString m_v1;
-    QString m_v2;
-    QString m_pRatio;
-    QString m_pDb;
-    QString m_vRatio;
-    QString m_vDb;
-    int m_currentMode = 0;
-    int m_pLatestRun = 0;
-    int m_vLatestRun = 0;
+    using Self = DbConverterProfile;
+    Half m_powers{{this, &Self::p1Changed},         {this, &Self::p2Changed},
+                  {this, &Self::pRatioChanged},     {this, &Self::pDbChanged},
+                  {this, &Self::pLatestRunChanged}, kPowers};
+    Half m_voltages{{this, &Self::v1Changed},         {this, &Self::v2Changed},
+                    {this, &Self::vRatioChanged},     {this, &Self::vDbChanged},
+                    {this, &Self::vLatestRunChanged}, kVoltages};
+    Announced<int> m_currentMode{this, &Self::currentModeChanged};
 };
 
 #endif

@@ -84,11 +84,8 @@ bool isNonFiniteWord(const QString &text)
 
 } // namespace
 
-struct UnitConverterProfile::Field
+struct UnitConverterProfile::Rule
 {
-    QString (UnitConverterProfile::*get)() const;
-    void (UnitConverterProfile::*set)(const QString &);
-    int UnitConverterProfile::*unit;
     const UnitTable &units;
     QString (*format)(double);
     bool mayBeNegative;
@@ -96,81 +93,12 @@ struct UnitConverterProfile::Field
 
 using Self = UnitConverterProfile;
 
-const Self::Field Self::kLogPower = {
-    &Self::logPower, &Self::setLogPower, &Self::m_logPowerUnit, kLogPowerUnits, fixedText, true,
-};
-
-const Self::Field Self::kLinPower = {
-    &Self::linPower, &Self::setLinPower, &Self::m_linPowerUnit, kLinPowerUnits, generalText, false,
-};
-
-const Self::Field Self::kLogVoltage = {
-    &Self::logVoltage,
-    &Self::setLogVoltage,
-    &Self::m_logVoltageUnit,
-    kLogVoltageUnits,
-    fixedText,
-    true,
-};
-
-const Self::Field Self::kLinVoltage = {
-    &Self::linVoltage, &Self::setLinVoltage, &Self::m_linVoltageUnit,
-    kLinVoltageUnits,  generalText,          false,
-};
+const Self::Rule Self::kLogPower = {kLogPowerUnits, fixedText, true};
+const Self::Rule Self::kLinPower = {kLinPowerUnits, generalText, false};
+const Self::Rule Self::kLogVoltage = {kLogVoltageUnits, fixedText, true};
+const Self::Rule Self::kLinVoltage = {kLinVoltageUnits, generalText, false};
 
 UnitConverterProfile::UnitConverterProfile(QObject *parent) : Profile(parent) {}
-
-void UnitConverterProfile::setLogPower(const QString &text)
-{
-    assign(m_logPower, text, &UnitConverterProfile::logPowerChanged);
-}
-
-void UnitConverterProfile::setLinPower(const QString &text)
-{
-    assign(m_linPower, text, &UnitConverterProfile::linPowerChanged);
-}
-
-/// Whoever sets the text (typing, a calculation, a load) means it in the unit that is chosen now.
-void UnitConverterProfile::setLogVoltage(const QString &text)
-{
-    m_previousLogVoltageUnit = m_logVoltageUnit;
-    assign(m_logVoltage, text, &UnitConverterProfile::logVoltageChanged);
-}
-
-void UnitConverterProfile::setLinVoltage(const QString &text)
-{
-    assign(m_linVoltage, text, &UnitConverterProfile::linVoltageChanged);
-}
-
-void UnitConverterProfile::setLogPowerUnit(int unit)
-{
-    assign(m_logPowerUnit, unit, &UnitConverterProfile::logPowerUnitChanged);
-}
-
-void UnitConverterProfile::setLinPowerUnit(int unit)
-{
-    assign(m_linPowerUnit, unit, &UnitConverterProfile::linPowerUnitChanged);
-}
-
-void UnitConverterProfile::setLogVoltageUnit(int unit)
-{
-    assign(m_logVoltageUnit, unit, &UnitConverterProfile::logVoltageUnitChanged);
-}
-
-void UnitConverterProfile::setLinVoltageUnit(int unit)
-{
-    assign(m_linVoltageUnit, unit, &UnitConverterProfile::linVoltageUnitChanged);
-}
-
-void UnitConverterProfile::setImpedance(const QString &text)
-{
-    assign(m_impedance, text, &UnitConverterProfile::impedanceChanged);
-}
-
-void UnitConverterProfile::setVoltageMode(int mode)
-{
-    assign(m_voltageMode, mode, &UnitConverterProfile::voltageModeChanged);
-}
 
 void UnitConverterProfile::saveSettings(QSettings &settings)
 {
@@ -188,112 +116,126 @@ void UnitConverterProfile::loadSettings(QSettings &settings)
 
 void UnitConverterProfile::calculateFromLinPower()
 {
-    const std::optional<double> milliwatt = readEdited(kLinPower);
+    const std::optional<double> milliwatt = readEdited(m_linPower);
     if (!milliwatt)
         return;
-    show(kLogPower, *milliwatt);
+    m_logPower.showValue(*milliwatt);
     showVoltagesOf(*milliwatt);
-    clearNonFiniteResults(kLinPower);
+    clearNonFiniteResults(m_linPower);
 }
 
 void UnitConverterProfile::calculateFromLinVoltage()
 {
-    const std::optional<double> millivolt = readEdited(kLinVoltage);
+    const std::optional<double> millivolt = readEdited(m_linVoltage);
     if (!millivolt)
         return;
-    const double rms = kVoltageModes.at(m_voltageMode).toBase(*millivolt);
+    const double rms = kVoltageModes.at(voltageMode()).toBase(*millivolt);
     showPowersOf(rms);
     // The level is that of the RMS value in every mode, unlike the level that a power gives.
-    show(kLogVoltage, rms);
-    clearNonFiniteResults(kLinVoltage);
+    m_logVoltage.showValue(rms);
+    clearNonFiniteResults(m_linVoltage);
 }
 
 void UnitConverterProfile::calculateFromLogPower()
 {
-    const std::optional<double> milliwatt = readEdited(kLogPower);
+    const std::optional<double> milliwatt = readEdited(m_logPower);
     if (!milliwatt)
         return;
-    show(kLinPower, *milliwatt);
+    m_linPower.showValue(*milliwatt);
     showVoltagesOf(*milliwatt);
-    clearNonFiniteResults(kLogPower);
+    clearNonFiniteResults(m_logPower);
 }
 
 void UnitConverterProfile::calculateFromLogVoltage()
 {
-    const std::optional<double> millivolt = readEdited(kLogVoltage);
+    const std::optional<double> millivolt = readEdited(m_logVoltage);
     if (!millivolt)
         return;
-    show(kLinVoltage, *millivolt);
-    showPowersOf(kVoltageModes.at(m_voltageMode).toBase(*millivolt));
-    clearNonFiniteResults(kLogVoltage);
+    m_linVoltage.showValue(*millivolt);
+    showPowersOf(kVoltageModes.at(voltageMode()).toBase(*millivolt));
+    clearNonFiniteResults(m_logVoltage);
 }
 
 void UnitConverterProfile::rescaleLinPower()
 {
-    rescale(kLinPower,
-            m_linPowerUnit == kWatt ? Levels::wattFromMilliwatt : Levels::milliwattFromWatt);
+    m_linPower.rescale(linPowerUnit() == kWatt ? Levels::wattFromMilliwatt
+                                               : Levels::milliwattFromWatt);
 }
 
 void UnitConverterProfile::rescaleLinVoltage()
 {
-    rescale(kLinVoltage,
-            m_linVoltageUnit == kVolt ? Levels::voltFromMillivolt : Levels::millivoltFromVolt);
+    m_linVoltage.rescale(linVoltageUnit() == kVolt ? Levels::voltFromMillivolt
+                                                   : Levels::millivoltFromVolt);
 }
 
 void UnitConverterProfile::rescaleLogPower()
 {
-    rescale(kLogPower, m_logPowerUnit == kDbw ? Levels::dbwFromDbm : Levels::dbmFromDbw);
+    m_logPower.rescale(logPowerUnit() == kDbw ? Levels::dbwFromDbm : Levels::dbmFromDbw);
 }
 
 void UnitConverterProfile::rescaleLogVoltage()
 {
-    const UnitConversion &before = kLogVoltageUnits.at(m_previousLogVoltageUnit);
-    const UnitConversion &now = kLogVoltageUnits.at(m_logVoltageUnit);
-    rescale(kLogVoltage, [&](double level) { return now.fromBase(before.toBase(level)); });
+    const UnitConversion &before = kLogVoltageUnits.at(m_logVoltage.textUnit);
+    const UnitConversion &now = kLogVoltageUnits.at(logVoltageUnit());
+    m_logVoltage.rescale([&](double level) { return now.fromBase(before.toBase(level)); });
 }
 
 void UnitConverterProfile::clearAll()
 {
-    for (const Field *field : {&kLinPower, &kLogPower, &kLinVoltage, &kLogVoltage})
-        setText(*field, QString());
+    for (Field *field : {&m_linPower, &m_logPower, &m_linVoltage, &m_logVoltage})
+        field->show(QString());
 }
 
-QString UnitConverterProfile::text(const Field &field) const
+void UnitConverterProfile::Field::show(const QString &newText)
 {
-    return (this->*field.get)();
+    textUnit = unit.get();
+    text.set(newText);
 }
 
-void UnitConverterProfile::setText(const Field &field, const QString &text)
+/// @p baseValue is in mW or mV.
+void UnitConverterProfile::Field::showValue(double baseValue)
 {
-    (this->*field.set)(text);
+    show(rule.format(rule.units.at(unit.get()).fromBase(baseValue)));
+}
+
+void UnitConverterProfile::Field::clearNonFinite()
+{
+    if (isNonFiniteWord(text.get()))
+        show(QString());
+}
+
+/// A value that is infinite or no number in the new unit leaves the field empty, as the result of a
+/// calculation would: a word is no quantity that could be kept.
+void UnitConverterProfile::Field::rescale(const std::function<double(double)> &toNewUnit)
+{
+    const std::optional<double> value = readPrefixedValue(text.get());
+    if (!value)
+        return;
+    show(rule.format(toNewUnit(*value)));
+    clearNonFinite();
 }
 
 /// The value of the field that was finished, in mW or mV. There is none in an empty field, which is
 /// left alone, nor in one that holds no usable number, which is rejected.
-std::optional<double> UnitConverterProfile::readEdited(const Field &edited)
+std::optional<double> UnitConverterProfile::readEdited(Field &edited)
 {
-    if (text(edited).isEmpty())
+    if (edited.text.get().isEmpty())
         return std::nullopt;
-    const std::optional<double> value = readPrefixedValue(text(edited));
-    if (!value || (*value < 0.0 && !edited.mayBeNegative)) {
+    const std::optional<double> value = readPrefixedValue(edited.text.get());
+    if (!value || (*value < 0.0 && !edited.rule.mayBeNegative)) {
         reject(edited);
         return std::nullopt;
     }
-    return edited.units.at(this->*edited.unit).toBase(*value);
+    return edited.rule.units.at(edited.unit.get()).toBase(*value);
 }
 
-void UnitConverterProfile::reject(const Field &edited)
+void UnitConverterProfile::reject(Field &edited)
 {
-    setText(edited, ErrorText::invalidInput());
-    for (const Field *field : {&kLinPower, &kLogPower, &kLinVoltage, &kLogVoltage}) {
+    edited.show(ErrorText::invalidInput());
+    for (Field *field : {&m_linPower, &m_logPower, &m_linVoltage, &m_logVoltage}) {
         if (field != &edited)
-            setText(*field, QString());
+            field->show(QString());
     }
-}
-
-void UnitConverterProfile::show(const Field &field, double baseValue)
-{
-    setText(field, field.format(field.units.at(this->*field.unit).fromBase(baseValue)));
 }
 
 /// Both voltages of a power are those of the voltage mode; the level is taken of the same value
@@ -301,51 +243,33 @@ void UnitConverterProfile::show(const Field &field, double baseValue)
 void UnitConverterProfile::showVoltagesOf(double milliwatt)
 {
     const double rms = Levels::millivoltFromMilliwatt(milliwatt, readImpedance());
-    const double millivolt = kVoltageModes.at(m_voltageMode).fromBase(rms);
-    show(kLinVoltage, millivolt);
-    show(kLogVoltage, millivolt);
+    const double millivolt = kVoltageModes.at(voltageMode()).fromBase(rms);
+    m_linVoltage.showValue(millivolt);
+    m_logVoltage.showValue(millivolt);
 }
 
 void UnitConverterProfile::showPowersOf(double millivoltRms)
 {
     const double milliwatt = Levels::milliwattFromMillivolt(millivoltRms, readImpedance());
-    show(kLinPower, milliwatt);
-    show(kLogPower, milliwatt);
-}
-
-void UnitConverterProfile::clearNonFinite(const Field &field)
-{
-    if (isNonFiniteWord(text(field)))
-        setText(field, QString());
+    m_linPower.showValue(milliwatt);
+    m_logPower.showValue(milliwatt);
 }
 
 /// A linear power that was typed stays as it is, even if it reads INF.
 void UnitConverterProfile::clearNonFiniteResults(const Field &edited)
 {
-    clearNonFinite(kLogPower);
-    clearNonFinite(kLogVoltage);
-    clearNonFinite(kLinVoltage);
-    if (&edited != &kLinPower)
-        clearNonFinite(kLinPower);
-}
-
-/// A value that is infinite or no number in the new unit leaves the field empty, as the result of a
-/// calculation would: a word is no quantity that could be kept.
-void UnitConverterProfile::rescale(const Field &field,
-                                   const std::function<double(double)> &toNewUnit)
-{
-    const std::optional<double> value = readPrefixedValue(text(field));
-    if (!value)
-        return;
-    setText(field, field.format(toNewUnit(*value)));
-    clearNonFinite(field);
+    m_logPower.clearNonFinite();
+    m_logVoltage.clearNonFinite();
+    m_linVoltage.clearNonFinite();
+    if (&edited != &m_linPower)
+        m_linPower.clearNonFinite();
 }
 
 /// In ohms. An impedance that does not parse is marked, and the calculation goes on with what the
 /// parser made of it: 0 for a word, infinity for a number beyond all numbers.
 double UnitConverterProfile::readImpedance()
 {
-    QString text = m_impedance;
+    QString text = impedance();
     bool ok = false;
     const double ohm = parsePrefixedValue(text, &ok);
     if (!ok)

@@ -4,6 +4,7 @@
 #ifndef PROFILES_UNITCONVERTERPROFILE_H
 #define PROFILES_UNITCONVERTERPROFILE_H
 
+#include "announced.h"
 #include "profile.h"
 
 #include <QString>
@@ -40,33 +41,33 @@ class UnitConverterProfile final : public Profile
 public:
     explicit UnitConverterProfile(QObject *parent = nullptr);
 
-    QString logPower() const { return m_logPower; }
-    QString linPower() const { return m_linPower; }
-    QString logVoltage() const { return m_logVoltage; }
-    QString linVoltage() const { return m_linVoltage; }
+    QString logPower() const { return m_logPower.text.get(); }
+    QString linPower() const { return m_linPower.text.get(); }
+    QString logVoltage() const { return m_logVoltage.text.get(); }
+    QString linVoltage() const { return m_linVoltage.text.get(); }
     /// 0: dBm, 1: dBW.
-    int logPowerUnit() const { return m_logPowerUnit; }
+    int logPowerUnit() const { return m_logPower.unit.get(); }
     /// 0: mW, 1: W.
-    int linPowerUnit() const { return m_linPowerUnit; }
+    int linPowerUnit() const { return m_linPower.unit.get(); }
     /// 0: dBV, 1: dBµV, 2: dBu.
-    int logVoltageUnit() const { return m_logVoltageUnit; }
+    int logVoltageUnit() const { return m_logVoltage.unit.get(); }
     /// 0: mV, 1: V.
-    int linVoltageUnit() const { return m_linVoltageUnit; }
+    int linVoltageUnit() const { return m_linVoltage.unit.get(); }
     /// In ohms.
-    QString impedance() const { return m_impedance; }
+    QString impedance() const { return m_impedance.get(); }
     /// 0: Vrms, 1: Vpp, 2: Vavg.
-    int voltageMode() const { return m_voltageMode; }
+    int voltageMode() const { return m_voltageMode.get(); }
 
-    void setLogPower(const QString &text);
-    void setLinPower(const QString &text);
-    void setLogVoltage(const QString &text);
-    void setLinVoltage(const QString &text);
-    void setLogPowerUnit(int unit);
-    void setLinPowerUnit(int unit);
-    void setLogVoltageUnit(int unit);
-    void setLinVoltageUnit(int unit);
-    void setImpedance(const QString &text);
-    void setVoltageMode(int mode);
+    void setLogPower(const QString &text) { m_logPower.show(text); }
+    void setLinPower(const QString &text) { m_linPower.show(text); }
+    void setLogVoltage(const QString &text) { m_logVoltage.show(text); }
+    void setLinVoltage(const QString &text) { m_linVoltage.show(text); }
+    void setLogPowerUnit(int unit) { m_logPower.unit.set(unit); }
+    void setLinPowerUnit(int unit) { m_linPower.unit.set(unit); }
+    void setLogVoltageUnit(int unit) { m_logVoltage.unit.set(unit); }
+    void setLinVoltageUnit(int unit) { m_linVoltage.unit.set(unit); }
+    void setImpedance(const QString &text) { m_impedance.set(text); }
+    void setVoltageMode(int mode) { m_voltageMode.set(mode); }
 
     void saveSettings(QSettings &settings) override;
     void loadSettings(QSettings &settings) override;
@@ -100,38 +101,44 @@ Q_SIGNALS:
     void voltageModeChanged();
 
 private:
-    struct Field;
+    struct Rule;
 
-    QString text(const Field &field) const;
-    void setText(const Field &field, const QString &text);
+    /// One of the four fields. Its text stands in the unit that was chosen when it was shown, be it
+    /// typed, calculated or loaded, until the rescale slot rewrites it.
+    struct Field
+    {
+        Announced<QString> text;
+        Announced<int> unit;
+        const Rule &rule;
+        int textUnit = 0;
 
-    std::optional<double> readEdited(const Field &edited);
-    void reject(const Field &edited);
-    void show(const Field &field, double baseValue);
+        void show(const QString &newText);
+        void showValue(double baseValue);
+        void clearNonFinite();
+        void rescale(const std::function<double(double)> &toNewUnit);
+    };
+
+    std::optional<double> readEdited(Field &edited);
+    void reject(Field &edited);
     void showVoltagesOf(double milliwatt);
     void showPowersOf(double millivoltRms);
-    void clearNonFinite(const Field &field);
     void clearNonFiniteResults(const Field &edited);
-    void rescale(const Field &field, const std::function<double(double)> &toNewUnit);
     double readImpedance();
 
-    static const Field kLogPower;
-    static const Field kLinPower;
-    static const Field kLogVoltage;
-    static const Field kLinVoltage;
+    static const Rule kLogPower;
+    static const Rule kLinPower;
+    static const Rule kLogVoltage;
+    static const Rule kLinVoltage;
 
-    QString m_logPower;
-    QString m_linPower;
-    QString m_logVoltage;
-    QString m_linVoltage;
-    int m_logPowerUnit = 0;
-    int m_linPowerUnit = 0;
-    int m_logVoltageUnit = 0;
-    int m_linVoltageUnit = 0;
-    QString m_impedance = QStringLiteral("50");
-    int m_voltageMode = 0;
-    /// The unit that was chosen when the text of logVoltage was set, which is the one it stands in.
-    int m_previousLogVoltageUnit = 0;
+    using Self = UnitConverterProfile;
+    Field m_logPower{{this, &Self::logPowerChanged}, {this, &Self::logPowerUnitChanged}, kLogPower};
+    Field m_linPower{{this, &Self::linPowerChanged}, {this, &Self::linPowerUnitChanged}, kLinPower};
+    Field m_logVoltage{
+        {this, &Self::logVoltageChanged}, {this, &Self::logVoltageUnitChanged}, kLogVoltage};
+    Field m_linVoltage{
+        {this, &Self::linVoltageChanged}, {this, &Self::linVoltageUnitChanged}, kLinVoltage};
+    Announced<QString> m_impedance{this, &Self::impedanceChanged, QStringLiteral("50")};
+    Announced<int> m_voltageMode{this, &Self::voltageModeChanged};
 };
 
 #endif

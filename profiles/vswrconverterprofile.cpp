@@ -94,11 +94,10 @@ std::optional<double> readVswr(QString text)
 
 } // namespace
 
-/// A quantity of the reflection group: how it is read, what is valid, and how it follows from the
+/// How a quantity of the reflection group is read, what is valid, and how it follows from the
 /// reflection coefficient.
-struct VswrConverterProfile::Quantity
+struct VswrConverterProfile::Rule
 {
-    Field field;
     std::optional<double> (*read)(QString);
     double minimum;
     double maximum;
@@ -108,95 +107,17 @@ struct VswrConverterProfile::Quantity
 
 using Self = VswrConverterProfile;
 
-const Self::Quantity Self::kVswr = {
-    {&Self::vswr, &Self::setVswr}, readVswr, 1.0, kNoMaximum, Reflection::fromVswr, vswrText,
-};
-
-const Self::Quantity Self::kR = {
-    {&Self::r, &Self::setR},
-    readPrefixedValue,
-    0.0,
-    kMaximumReflection,
-    [](double reflection) { return reflection; },
-    generalText,
-};
-
-const Self::Quantity Self::kR2 = {
-    {&Self::r2, &Self::setR2}, readPrefixedValue,      0.0,
-    Reflection::kPercent,      Reflection::fromSquare, squareText,
-};
-
-const Self::Quantity Self::kAr = {
-    {&Self::ar, &Self::setAr},  readPrefixedValue, 0.0, kNoMaximum,
-    Reflection::fromReturnLoss, returnLossText,
-};
-
-const Self::Quantity Self::kAm = {
-    {&Self::am, &Self::setAm},    readPrefixedValue, 0.0, kNoMaximum,
-    Reflection::fromMismatchLoss, mismatchLossText,
-};
+const Self::Rule Self::kVswr = {readVswr, 1.0, kNoMaximum, Reflection::fromVswr, vswrText};
+const Self::Rule Self::kR = {readPrefixedValue, 0.0, kMaximumReflection,
+                             [](double reflection) { return reflection; }, generalText};
+const Self::Rule Self::kR2 = {readPrefixedValue, 0.0, Reflection::kPercent, Reflection::fromSquare,
+                              squareText};
+const Self::Rule Self::kAr = {readPrefixedValue, 0.0, kNoMaximum, Reflection::fromReturnLoss,
+                              returnLossText};
+const Self::Rule Self::kAm = {readPrefixedValue, 0.0, kNoMaximum, Reflection::fromMismatchLoss,
+                              mismatchLossText};
 
 VswrConverterProfile::VswrConverterProfile(QObject *parent) : Profile(parent) {}
-
-void VswrConverterProfile::setVswr(const QString &text)
-{
-    assign(m_vswr, text, &VswrConverterProfile::vswrChanged);
-}
-
-void VswrConverterProfile::setR(const QString &text)
-{
-    assign(m_r, text, &VswrConverterProfile::rChanged);
-}
-
-void VswrConverterProfile::setR2(const QString &text)
-{
-    assign(m_r2, text, &VswrConverterProfile::r2Changed);
-}
-
-void VswrConverterProfile::setAr(const QString &text)
-{
-    assign(m_ar, text, &VswrConverterProfile::arChanged);
-}
-
-void VswrConverterProfile::setAm(const QString &text)
-{
-    assign(m_am, text, &VswrConverterProfile::amChanged);
-}
-
-void VswrConverterProfile::setPForward(const QString &text)
-{
-    assign(m_pForward, text, &VswrConverterProfile::pForwardChanged);
-}
-
-void VswrConverterProfile::setPReflected(const QString &text)
-{
-    assign(m_pReflected, text, &VswrConverterProfile::pReflectedChanged);
-}
-
-void VswrConverterProfile::setPAbsorbed(const QString &text)
-{
-    assign(m_pAbsorbed, text, &VswrConverterProfile::pAbsorbedChanged);
-}
-
-void VswrConverterProfile::setVForward(const QString &text)
-{
-    assign(m_vForward, text, &VswrConverterProfile::vForwardChanged);
-}
-
-void VswrConverterProfile::setVReflected(const QString &text)
-{
-    assign(m_vReflected, text, &VswrConverterProfile::vReflectedChanged);
-}
-
-void VswrConverterProfile::setVAbsorbed(const QString &text)
-{
-    assign(m_vAbsorbed, text, &VswrConverterProfile::vAbsorbedChanged);
-}
-
-void VswrConverterProfile::setCurrentMode(int mode)
-{
-    assign(m_currentMode, mode, &VswrConverterProfile::currentModeChanged);
-}
 
 void VswrConverterProfile::saveSettings(QSettings &settings)
 {
@@ -218,7 +139,7 @@ void VswrConverterProfile::loadSettings(QSettings &settings)
 /// other VSWR is meant.
 void VswrConverterProfile::calculateFromVswr()
 {
-    const std::optional<double> vswr = readEdited(kVswr);
+    const std::optional<double> vswr = readEdited(m_vswr);
     if (!vswr)
         return;
     const double reflection = kVswr.reflectionFrom(*vswr);
@@ -231,64 +152,55 @@ void VswrConverterProfile::calculateFromVswr()
 
 void VswrConverterProfile::calculateFromR()
 {
-    finishQuantity(kR);
+    finishQuantity(m_r);
 }
 
 void VswrConverterProfile::calculateFromR2()
 {
-    finishQuantity(kR2);
+    finishQuantity(m_r2);
 }
 
 void VswrConverterProfile::calculateFromAr()
 {
-    finishQuantity(kAr);
+    finishQuantity(m_ar);
 }
 
 void VswrConverterProfile::calculateFromAm()
 {
-    finishQuantity(kAm);
-}
-
-QString VswrConverterProfile::text(const Field &field) const
-{
-    return (this->*field.get)();
-}
-
-void VswrConverterProfile::setText(const Field &field, const QString &text)
-{
-    (this->*field.set)(text);
+    finishQuantity(m_am);
 }
 
 /// The value of the quantity that was finished. There is none in an empty field, which is left
 /// alone, nor in one that holds no valid number, which is rejected.
-std::optional<double> VswrConverterProfile::readEdited(const Quantity &edited)
+std::optional<double> VswrConverterProfile::readEdited(Quantity &edited)
 {
-    if (text(edited.field).isEmpty())
+    const QString text = edited.text.get();
+    if (text.isEmpty())
         return std::nullopt;
-    const std::optional<double> value = edited.read(text(edited.field));
-    if (value && *value >= edited.minimum && *value <= edited.maximum)
+    const std::optional<double> value = edited.rule.read(text);
+    if (value && *value >= edited.rule.minimum && *value <= edited.rule.maximum)
         return value;
     reject(edited);
     return std::nullopt;
 }
 
-void VswrConverterProfile::reject(const Quantity &edited)
+void VswrConverterProfile::reject(Quantity &edited)
 {
-    setText(edited.field, ErrorText::invalidInput());
-    for (const Quantity *quantity : {&kVswr, &kR, &kR2, &kAr, &kAm}) {
+    edited.text.set(ErrorText::invalidInput());
+    for (Quantity *quantity : {&m_vswr, &m_r, &m_r2, &m_ar, &m_am}) {
         if (quantity != &edited)
-            setText(quantity->field, QString());
+            quantity->text.set(QString());
     }
 }
 
-void VswrConverterProfile::finishQuantity(const Quantity &edited)
+void VswrConverterProfile::finishQuantity(Quantity &edited)
 {
     const std::optional<double> value = readEdited(edited);
     if (!value)
         return;
-    const double reflection = edited.reflectionFrom(*value);
-    for (const Quantity *quantity : {&kR, &kVswr, &kR2, &kAr, &kAm}) {
+    const double reflection = edited.rule.reflectionFrom(*value);
+    for (Quantity *quantity : {&m_r, &m_vswr, &m_r2, &m_ar, &m_am}) {
         if (quantity != &edited)
-            setText(quantity->field, quantity->textFrom(reflection));
+            quantity->text.set(quantity->rule.textFrom(reflection));
     }
 }

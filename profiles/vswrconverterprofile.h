@@ -4,6 +4,7 @@
 #ifndef PROFILES_VSWRCONVERTERPROFILE_H
 #define PROFILES_VSWRCONVERTERPROFILE_H
 
+#include "announced.h"
 #include "profile.h"
 
 #include <QString>
@@ -53,50 +54,50 @@ class VswrConverterProfile final : public Profile
 public:
     explicit VswrConverterProfile(QObject *parent = nullptr);
 
-    QString vswr() const { return m_vswr; }
+    QString vswr() const { return m_vswr.text.get(); }
     /// Magnitude of the reflection coefficient.
-    QString r() const { return m_r; }
+    QString r() const { return m_r.text.get(); }
     /// Its square in percent.
-    QString r2() const { return m_r2; }
+    QString r2() const { return m_r2.text.get(); }
     /// Return loss in dB.
-    QString ar() const { return m_ar; }
+    QString ar() const { return m_ar.text.get(); }
     /// Mismatch loss in dB.
-    QString am() const { return m_am; }
-    QString pForward() const { return m_pForward; }
-    QString pReflected() const { return m_pReflected; }
-    QString pAbsorbed() const { return m_pAbsorbed; }
-    QString vForward() const { return m_vForward; }
-    QString vReflected() const { return m_vReflected; }
-    QString vAbsorbed() const { return m_vAbsorbed; }
+    QString am() const { return m_am.text.get(); }
+    QString pForward() const { return m_powers.forward.text.get(); }
+    QString pReflected() const { return m_powers.reflected.text.get(); }
+    QString pAbsorbed() const { return m_powers.absorbed.text.get(); }
+    QString vForward() const { return m_voltages.forward.text.get(); }
+    QString vReflected() const { return m_voltages.reflected.text.get(); }
+    QString vAbsorbed() const { return m_voltages.absorbed.text.get(); }
     /// 0: powers, 1: voltages.
-    int currentMode() const { return m_currentMode; }
+    int currentMode() const { return m_currentMode.get(); }
     /// Power units are 0 dBm, 1 dBW, 2 W, 3 mW.
-    int pForwardUnit() const { return m_pForwardUnit; }
-    int pReflectedUnit() const { return m_pReflectedUnit; }
-    int pAbsorbedUnit() const { return m_pAbsorbedUnit; }
+    int pForwardUnit() const { return m_powers.forward.unit.get(); }
+    int pReflectedUnit() const { return m_powers.reflected.unit.get(); }
+    int pAbsorbedUnit() const { return m_powers.absorbed.unit.get(); }
     /// Voltage units are 0 dBV, 1 dBµV, 2 V, 3 mV.
-    int vForwardUnit() const { return m_vForwardUnit; }
-    int vReflectedUnit() const { return m_vReflectedUnit; }
-    int vAbsorbedUnit() const { return m_vAbsorbedUnit; }
+    int vForwardUnit() const { return m_voltages.forward.unit.get(); }
+    int vReflectedUnit() const { return m_voltages.reflected.unit.get(); }
+    int vAbsorbedUnit() const { return m_voltages.absorbed.unit.get(); }
 
-    void setVswr(const QString &text);
-    void setR(const QString &text);
-    void setR2(const QString &text);
-    void setAr(const QString &text);
-    void setAm(const QString &text);
-    void setPForward(const QString &text);
-    void setPReflected(const QString &text);
-    void setPAbsorbed(const QString &text);
-    void setVForward(const QString &text);
-    void setVReflected(const QString &text);
-    void setVAbsorbed(const QString &text);
-    void setCurrentMode(int mode);
-    void setPForwardUnit(int unit);
-    void setPReflectedUnit(int unit);
-    void setPAbsorbedUnit(int unit);
-    void setVForwardUnit(int unit);
-    void setVReflectedUnit(int unit);
-    void setVAbsorbedUnit(int unit);
+    void setVswr(const QString &text) { m_vswr.text.set(text); }
+    void setR(const QString &text) { m_r.text.set(text); }
+    void setR2(const QString &text) { m_r2.text.set(text); }
+    void setAr(const QString &text) { m_ar.text.set(text); }
+    void setAm(const QString &text) { m_am.text.set(text); }
+    void setPForward(const QString &text) { m_powers.forward.text.set(text); }
+    void setPReflected(const QString &text) { m_powers.reflected.text.set(text); }
+    void setPAbsorbed(const QString &text) { m_powers.absorbed.text.set(text); }
+    void setVForward(const QString &text) { m_voltages.forward.text.set(text); }
+    void setVReflected(const QString &text) { m_voltages.reflected.text.set(text); }
+    void setVAbsorbed(const QString &text) { m_voltages.absorbed.text.set(text); }
+    void setCurrentMode(int mode) { m_currentMode.set(mode); }
+    void setPForwardUnit(int unit) { m_powers.forward.setUnit(unit); }
+    void setPReflectedUnit(int unit) { m_powers.reflected.setUnit(unit); }
+    void setPAbsorbedUnit(int unit) { m_powers.absorbed.setUnit(unit); }
+    void setVForwardUnit(int unit) { m_voltages.forward.setUnit(unit); }
+    void setVReflectedUnit(int unit) { m_voltages.reflected.setUnit(unit); }
+    void setVAbsorbedUnit(int unit) { m_voltages.absorbed.setUnit(unit); }
 
     void saveSettings(QSettings &settings) override;
     /// The units come before the texts, so that the texts end up exactly as they were stored.
@@ -136,23 +137,30 @@ Q_SIGNALS:
     void currentModeChanged();
 
 private:
-    struct Field
+    struct Rule;
+
+    /// One of the five that describe the reflection.
+    struct Quantity
     {
-        QString (VswrConverterProfile::*get)() const;
-        void (VswrConverterProfile::*set)(const QString &);
+        Announced<QString> text;
+        const Rule &rule;
     };
 
-    struct Quantity;
-
+    /// A power or a voltage with its unit; base values are in mW or mV.
     struct Row
     {
-        Field field;
-        int VswrConverterProfile::*unit;
-        void (VswrConverterProfile::*unitChanged)();
+        Announced<QString> text;
+        Announced<int> unit;
         const UnitTable &units;
+
+        bool isFilled() const { return !text.get().isEmpty(); }
+        double value() const;
+        std::optional<double> readEdited();
+        void show(double baseValue);
+        void setUnit(int newUnit);
     };
 
-    /// The powers or the voltages. Both halves follow the same rules with the same factor: that the
+    /// The powers or the voltages. Both follow the same rules with the same factor: that the
     /// voltages too are linked by the square of the reflection coefficient, and that the absorbed
     /// one is the plain difference, is meant.
     struct Rows
@@ -162,49 +170,40 @@ private:
         Row absorbed;
     };
 
-    QString text(const Field &field) const;
-    void setText(const Field &field, const QString &text);
+    std::optional<double> readEdited(Quantity &edited);
+    void reject(Quantity &edited);
+    void finishQuantity(Quantity &edited);
 
-    std::optional<double> readEdited(const Quantity &edited);
-    void reject(const Quantity &edited);
-    void finishQuantity(const Quantity &edited);
-
-    void finishForward(const Rows &rows);
-    void finishReflected(const Rows &rows);
-    void finishAbsorbed(const Rows &rows);
-    std::optional<double> readEdited(const Row &edited);
-    double valueOf(const Row &row) const;
-    void show(const Row &row, double baseValue);
-    bool isFilled(const Row &row) const;
+    void finishForward(Rows &rows);
+    void finishReflected(Rows &rows);
+    void finishAbsorbed(Rows &rows);
     double reflectedShare() const;
-    void setUnit(const Row &row, int unit);
 
-    static const Quantity kVswr;
-    static const Quantity kR;
-    static const Quantity kR2;
-    static const Quantity kAr;
-    static const Quantity kAm;
-    static const Rows kPowers;
-    static const Rows kVoltages;
+    static const Rule kVswr;
+    static const Rule kR;
+    static const Rule kR2;
+    static const Rule kAr;
+    static const Rule kAm;
+    static const UnitTable kPowerUnits;
+    static const UnitTable kVoltageUnits;
 
-    QString m_vswr;
-    QString m_r;
-    QString m_r2;
-    QString m_ar;
-    QString m_am;
-    QString m_pForward;
-    QString m_pReflected;
-    QString m_pAbsorbed;
-    QString m_vForward;
-    QString m_vReflected;
-    QString m_vAbsorbed;
-    int m_currentMode = 0;
-    int m_pForwardUnit = 0;
-    int m_pReflectedUnit = 0;
-    int m_pAbsorbedUnit = 0;
-    int m_vForwardUnit = 0;
-    int m_vReflectedUnit = 0;
-    int m_vAbsorbedUnit = 0;
+    using Self = VswrConverterProfile;
+    Quantity m_vswr{{this, &Self::vswrChanged}, kVswr};
+    Quantity m_r{{this, &Self::rChanged}, kR};
+    Quantity m_r2{{this, &Self::r2Changed}, kR2};
+    Quantity m_ar{{this, &Self::arChanged}, kAr};
+    Quantity m_am{{this, &Self::amChanged}, kAm};
+    Rows m_powers{
+        {{this, &Self::pForwardChanged}, {this, &Self::pForwardUnitChanged}, kPowerUnits},
+        {{this, &Self::pReflectedChanged}, {this, &Self::pReflectedUnitChanged}, kPowerUnits},
+        {{this, &Self::pAbsorbedChanged}, {this, &Self::pAbsorbedUnitChanged}, kPowerUnits},
+    };
+    Rows m_voltages{
+        {{this, &Self::vForwardChanged}, {this, &Self::vForwardUnitChanged}, kVoltageUnits},
+        {{this, &Self::vReflectedChanged}, {this, &Self::vReflectedUnitChanged}, kVoltageUnits},
+        {{this, &Self::vAbsorbedChanged}, {this, &Self::vAbsorbedUnitChanged}, kVoltageUnits},
+    };
+    Announced<int> m_currentMode{this, &Self::currentModeChanged};
 };
 
 #endif

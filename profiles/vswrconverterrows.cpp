@@ -16,8 +16,6 @@ namespace {
 constexpr UnitConversion kPowerRows[] = {Units::kDbm, Units::kDbw, Units::kWatt, Units::kBase};
 constexpr UnitConversion kVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kVolt,
                                            Units::kBase};
-constexpr UnitTable kPowerUnits(kPowerRows, Units::kBase);
-constexpr UnitTable kVoltageUnits(kVoltageRows, Units::kBase);
 
 /// A field that is read but was not the one finished: no message, 0 if it is a word.
 double uncheckedValue(QString text)
@@ -27,187 +25,123 @@ double uncheckedValue(QString text)
 
 } // namespace
 
-using Self = VswrConverterProfile;
+const UnitTable VswrConverterProfile::kPowerUnits(kPowerRows, Units::kBase);
+const UnitTable VswrConverterProfile::kVoltageUnits(kVoltageRows, Units::kBase);
 
-const Self::Rows Self::kPowers = {
-    {{&Self::pForward, &Self::setPForward},
-     &Self::m_pForwardUnit,
-     &Self::pForwardUnitChanged,
-     kPowerUnits},
-    {{&Self::pReflected, &Self::setPReflected},
-     &Self::m_pReflectedUnit,
-     &Self::pReflectedUnitChanged,
-     kPowerUnits},
-    {{&Self::pAbsorbed, &Self::setPAbsorbed},
-     &Self::m_pAbsorbedUnit,
-     &Self::pAbsorbedUnitChanged,
-     kPowerUnits},
-};
-
-const Self::Rows Self::kVoltages = {
-    {{&Self::vForward, &Self::setVForward},
-     &Self::m_vForwardUnit,
-     &Self::vForwardUnitChanged,
-     kVoltageUnits},
-    {{&Self::vReflected, &Self::setVReflected},
-     &Self::m_vReflectedUnit,
-     &Self::vReflectedUnitChanged,
-     kVoltageUnits},
-    {{&Self::vAbsorbed, &Self::setVAbsorbed},
-     &Self::m_vAbsorbedUnit,
-     &Self::vAbsorbedUnitChanged,
-     kVoltageUnits},
-};
-
-void VswrConverterProfile::setPForwardUnit(int unit)
+/// In mW or mV.
+double VswrConverterProfile::Row::value() const
 {
-    setUnit(kPowers.forward, unit);
+    return units.at(unit.get()).toBase(uncheckedValue(text.get()));
 }
 
-void VswrConverterProfile::setPReflectedUnit(int unit)
+/// The value of the row that was finished, in mW or mV; nothing if there is none to calculate with.
+std::optional<double> VswrConverterProfile::Row::readEdited()
 {
-    setUnit(kPowers.reflected, unit);
+    if (!isFilled())
+        return std::nullopt;
+    const std::optional<double> typed = readPrefixedValue(text.get());
+    if (typed)
+        return units.at(unit.get()).toBase(*typed);
+    text.set(ErrorText::invalidInput());
+    return std::nullopt;
 }
 
-void VswrConverterProfile::setPAbsorbedUnit(int unit)
+void VswrConverterProfile::Row::show(double baseValue)
 {
-    setUnit(kPowers.absorbed, unit);
+    text.set(generalText(units.at(unit.get()).fromBase(baseValue)));
 }
 
-void VswrConverterProfile::setVForwardUnit(int unit)
+/// The text is rewritten before the unit is stored, and no other row is calculated.
+void VswrConverterProfile::Row::setUnit(int newUnit)
 {
-    setUnit(kVoltages.forward, unit);
-}
-
-void VswrConverterProfile::setVReflectedUnit(int unit)
-{
-    setUnit(kVoltages.reflected, unit);
-}
-
-void VswrConverterProfile::setVAbsorbedUnit(int unit)
-{
-    setUnit(kVoltages.absorbed, unit);
+    if (newUnit == unit.get())
+        return;
+    if (isFilled())
+        text.set(generalText(units.at(newUnit).fromBase(value())));
+    unit.set(newUnit);
 }
 
 void VswrConverterProfile::calculateFromPForward()
 {
-    finishForward(kPowers);
+    finishForward(m_powers);
 }
 
 void VswrConverterProfile::calculateFromPReflected()
 {
-    finishReflected(kPowers);
+    finishReflected(m_powers);
 }
 
 void VswrConverterProfile::calculateFromPAbsorbed()
 {
-    finishAbsorbed(kPowers);
+    finishAbsorbed(m_powers);
 }
 
 void VswrConverterProfile::calculateFromVForward()
 {
-    finishForward(kVoltages);
+    finishForward(m_voltages);
 }
 
 void VswrConverterProfile::calculateFromVReflected()
 {
-    finishReflected(kVoltages);
+    finishReflected(m_voltages);
 }
 
 void VswrConverterProfile::calculateFromVAbsorbed()
 {
-    finishAbsorbed(kVoltages);
+    finishAbsorbed(m_voltages);
 }
 
-void VswrConverterProfile::finishForward(const Rows &rows)
+void VswrConverterProfile::finishForward(Rows &rows)
 {
-    const std::optional<double> forward = readEdited(rows.forward);
+    const std::optional<double> forward = rows.forward.readEdited();
     if (!forward)
         return;
-    if (!m_r2.isEmpty()) {
+    if (!r2().isEmpty()) {
         const double reflected = *forward * reflectedShare();
-        show(rows.reflected, reflected);
-        show(rows.absorbed, *forward - reflected);
-    } else if (isFilled(rows.reflected)) {
-        show(rows.absorbed, *forward - valueOf(rows.reflected));
-    } else if (isFilled(rows.absorbed)) {
-        show(rows.reflected, *forward - valueOf(rows.absorbed));
+        rows.reflected.show(reflected);
+        rows.absorbed.show(*forward - reflected);
+    } else if (rows.reflected.isFilled()) {
+        rows.absorbed.show(*forward - rows.reflected.value());
+    } else if (rows.absorbed.isFilled()) {
+        rows.reflected.show(*forward - rows.absorbed.value());
     }
 }
 
-void VswrConverterProfile::finishReflected(const Rows &rows)
+void VswrConverterProfile::finishReflected(Rows &rows)
 {
-    const std::optional<double> reflected = readEdited(rows.reflected);
+    const std::optional<double> reflected = rows.reflected.readEdited();
     if (!reflected)
         return;
-    if (!m_r2.isEmpty()) {
+    if (!r2().isEmpty()) {
         const double forward = *reflected / reflectedShare();
-        show(rows.forward, forward);
-        show(rows.absorbed, forward - *reflected);
-    } else if (isFilled(rows.forward)) {
-        show(rows.absorbed, valueOf(rows.forward) - *reflected);
-    } else if (isFilled(rows.absorbed)) {
-        show(rows.forward, valueOf(rows.absorbed) + *reflected);
+        rows.forward.show(forward);
+        rows.absorbed.show(forward - *reflected);
+    } else if (rows.forward.isFilled()) {
+        rows.absorbed.show(rows.forward.value() - *reflected);
+    } else if (rows.absorbed.isFilled()) {
+        rows.forward.show(rows.absorbed.value() + *reflected);
     }
 }
 
 /// That a known reflection empties two rows, instead of solving them from the absorbed one, is
 /// meant.
-void VswrConverterProfile::finishAbsorbed(const Rows &rows)
+void VswrConverterProfile::finishAbsorbed(Rows &rows)
 {
-    const std::optional<double> absorbed = readEdited(rows.absorbed);
+    const std::optional<double> absorbed = rows.absorbed.readEdited();
     if (!absorbed)
         return;
-    if (!m_r2.isEmpty()) {
-        setText(rows.forward.field, QString());
-        setText(rows.absorbed.field, QString());
-    } else if (isFilled(rows.forward)) {
-        show(rows.reflected, valueOf(rows.forward) - *absorbed);
-    } else if (isFilled(rows.reflected)) {
-        show(rows.forward, valueOf(rows.reflected) + *absorbed);
+    if (!r2().isEmpty()) {
+        rows.forward.text.set(QString());
+        rows.absorbed.text.set(QString());
+    } else if (rows.forward.isFilled()) {
+        rows.reflected.show(rows.forward.value() - *absorbed);
+    } else if (rows.reflected.isFilled()) {
+        rows.forward.show(rows.reflected.value() + *absorbed);
     }
 }
 
-/// The value of the row that was finished, in mW or mV; nothing if there is none to calculate with.
-std::optional<double> VswrConverterProfile::readEdited(const Row &edited)
-{
-    if (!isFilled(edited))
-        return std::nullopt;
-    const std::optional<double> value = readPrefixedValue(text(edited.field));
-    if (value)
-        return edited.units.at(this->*edited.unit).toBase(*value);
-    setText(edited.field, ErrorText::invalidInput());
-    return std::nullopt;
-}
-
-/// In mW or mV.
-double VswrConverterProfile::valueOf(const Row &row) const
-{
-    return row.units.at(this->*row.unit).toBase(uncheckedValue(text(row.field)));
-}
-
-void VswrConverterProfile::show(const Row &row, double baseValue)
-{
-    setText(row.field, generalText(row.units.at(this->*row.unit).fromBase(baseValue)));
-}
-
-bool VswrConverterProfile::isFilled(const Row &row) const
-{
-    return !text(row.field).isEmpty();
-}
-
-/// Reflected over forward, in both halves.
+/// Reflected over forward, of powers and of voltages.
 double VswrConverterProfile::reflectedShare() const
 {
-    return uncheckedValue(m_r2) / Reflection::kPercent;
-}
-
-/// The text is rewritten before the unit is stored, and no other row is calculated.
-void VswrConverterProfile::setUnit(const Row &row, int unit)
-{
-    if (this->*row.unit == unit)
-        return;
-    if (isFilled(row))
-        setText(row.field, generalText(row.units.at(unit).fromBase(valueOf(row))));
-    assign(this->*row.unit, unit, row.unitChanged);
+    return uncheckedValue(r2()) / Reflection::kPercent;
 }

@@ -19,16 +19,22 @@ bool isErrorText(const QString &result)
     return result == ErrorText::invalidInput() || result == ErrorText::unitMissing();
 }
 
+QMap<int, bool> allOf(const ExpressionUnits &units)
+{
+    QMap<int, bool> valid;
+    for (const ExpressionUnit &unit : units)
+        valid.insert(unit.index, true);
+    return valid;
+}
+
 } // namespace
 
 ExpressionProfile::ExpressionProfile(const CalculatorTable &table, QObject *parent)
     : Profile(parent),
       m_table(table),
-      m_output(ErrorText::noResult())
-{
-    for (const ExpressionUnit &unit : m_table.units)
-        m_validUnits.insert(unit.index, true);
-}
+      m_output(this, &Self::outputChanged, ErrorText::noResult()),
+      m_validUnits(this, &Self::validUnitsChanged, allOf(table.units))
+{}
 
 int ExpressionProfile::plainUnit() const
 {
@@ -38,31 +44,6 @@ int ExpressionProfile::plainUnit() const
 QString ExpressionProfile::unitText(int unit) const
 {
     return ::unitText(m_table.units, unit);
-}
-
-void ExpressionProfile::setInput(const QString &text)
-{
-    assign(m_input, text, &ExpressionProfile::inputChanged);
-}
-
-void ExpressionProfile::setOutput(const QString &text)
-{
-    assign(m_output, text, &ExpressionProfile::outputChanged);
-}
-
-void ExpressionProfile::setOutputUnit(int unit)
-{
-    assign(m_outputUnit, unit, &ExpressionProfile::outputUnitChanged);
-}
-
-void ExpressionProfile::setMode(int mode)
-{
-    assign(m_mode, mode, &ExpressionProfile::modeChanged);
-}
-
-void ExpressionProfile::setValidUnits(const QMap<int, bool> &validUnits)
-{
-    assign(m_validUnits, validUnits, &ExpressionProfile::validUnitsChanged);
 }
 
 QString ExpressionProfile::evaluate(const QString &text)
@@ -80,7 +61,7 @@ void ExpressionProfile::saveSettings(QSettings &settings)
     settings.beginGroup(m_table.group);
     saveKeys(*this, settings, m_table.keys);
     for (const ValidityKey &row : m_table.validityKeys)
-        settings.setValue(QLatin1String(row.key), m_validUnits.value(row.unit));
+        settings.setValue(QLatin1String(row.key), m_validUnits.get().value(row.unit));
     settings.endGroup();
 }
 
@@ -97,8 +78,9 @@ void ExpressionProfile::loadSettings(QSettings &settings)
 
 void ExpressionProfile::calculate()
 {
-    const BracketedResult result = evaluateBracketed(
-        ExpressionText::cleaned(m_input), [this](const QString &text) { return evaluate(text); });
+    const BracketedResult result =
+        evaluateBracketed(ExpressionText::cleaned(m_input.get()),
+                          [this](const QString &text) { return evaluate(text); });
     if (result.isDefect)
         setOutput(result.text);
     else
@@ -129,7 +111,7 @@ void ExpressionProfile::publish(const QString &result)
 /// An error text keeps the output unit and offers what goes with it.
 ExpressionProfile::Shown ExpressionProfile::shownError(const QString &errorText) const
 {
-    return {errorText, m_outputUnit, unitsBeside(m_outputUnit)};
+    return {errorText, m_outputUnit.get(), unitsBeside(m_outputUnit.get())};
 }
 
 void ExpressionProfile::show(const Shown &result)

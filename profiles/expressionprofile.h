@@ -4,6 +4,7 @@
 #ifndef PROFILES_EXPRESSIONPROFILE_H
 #define PROFILES_EXPRESSIONPROFILE_H
 
+#include "announced.h"
 #include "operand.h"
 #include "profile.h"
 #include "storedkeys.h"
@@ -55,24 +56,24 @@ class ExpressionProfile : public Profile
 
 public:
     /// The expression as it was typed.
-    QString input() const { return m_input; }
+    QString input() const { return m_input.get(); }
     /// The result without its unit, or an error text; "---" before the first calculation.
-    QString output() const { return m_output; }
-    int outputUnit() const { return m_outputUnit; }
-    int mode() const { return m_mode; }
+    QString output() const { return m_output.get(); }
+    int outputUnit() const { return m_outputUnit.get(); }
+    int mode() const { return m_mode.get(); }
     /// For each unit whether it is offered as the output unit.
-    QMap<int, bool> validUnits() const { return m_validUnits; }
+    QMap<int, bool> validUnits() const { return m_validUnits.get(); }
     /// The index of the plain number, which is beyond those that a selector shows.
     int plainUnit() const;
     /// The text of a unit; empty for the plain number and for an index that is no unit's.
     QString unitText(int unit) const;
 
     /// No setter calculates by itself.
-    void setInput(const QString &text);
-    void setOutput(const QString &text);
-    void setOutputUnit(int unit);
-    void setMode(int mode);
-    void setValidUnits(const QMap<int, bool> &validUnits);
+    void setInput(const QString &text) { m_input.set(text); }
+    void setOutput(const QString &text) { m_output.set(text); }
+    void setOutputUnit(int unit) { m_outputUnit.set(unit); }
+    void setMode(int mode) { m_mode.set(mode); }
+    void setValidUnits(const QMap<int, bool> &validUnits) { m_validUnits.set(validUnits); }
 
     /// Evaluates a cleaned text without brackets. Returns a number and its unit, or an error text;
     /// a text without an operator is "invalid input", which is also put into output at once.
@@ -119,12 +120,13 @@ private:
     Shown shownError(const QString &errorText) const;
     void show(const Shown &result);
 
+    using Self = ExpressionProfile;
     const CalculatorTable &m_table;
-    QString m_input;
-    QString m_output;
-    int m_outputUnit = 0;
-    int m_mode = 0;
-    QMap<int, bool> m_validUnits;
+    Announced<QString> m_input{this, &Self::inputChanged};
+    Announced<QString> m_output;
+    Announced<int> m_outputUnit{this, &Self::outputUnitChanged};
+    Announced<int> m_mode{this, &Self::modeChanged};
+    Announced<QMap<int, bool>> m_validUnits;
 };
 
 #endif

@@ -39,31 +39,6 @@ MainProfile &MainProfile::instance()
     return profile;
 }
 
-void MainProfile::setWindowPosition(const QPoint &position)
-{
-    assign(m_windowPosition, position, &MainProfile::windowPositionChanged);
-}
-
-void MainProfile::setWindowSize(const QSize &size)
-{
-    assign(m_windowSize, size, &MainProfile::windowSizeChanged);
-}
-
-void MainProfile::setWindowMode(int mode)
-{
-    assign(m_windowMode, mode, &MainProfile::windowModeChanged);
-}
-
-void MainProfile::setCurrentModule(int module)
-{
-    assign(m_currentModule, module, &MainProfile::currentModuleChanged);
-}
-
-void MainProfile::setDecimalPlaces(int places)
-{
-    assign(m_decimalPlaces, places, &MainProfile::decimalPlacesChanged);
-}
-
 std::vector<Profile *> MainProfile::modules()
 {
     return {&m_dbmCalculator, &m_voltageCalculator, &m_dbConverter, &m_unitConverter,

@@ -4,6 +4,7 @@
 #ifndef PROFILES_MAINPROFILE_H
 #define PROFILES_MAINPROFILE_H
 
+#include "announced.h"
 #include "dbconverterprofile.h"
 #include "dbmcalculatorprofile.h"
 #include "profile.h"
@@ -45,23 +46,23 @@ public:
     /// (another one waits until it is complete), and lives until the process ends.
     static MainProfile &instance();
 
-    QPoint windowPosition() const { return m_windowPosition; }
+    QPoint windowPosition() const { return m_windowPosition.get(); }
     /// Invalid until a window has been shown.
-    QSize windowSize() const { return m_windowSize; }
+    QSize windowSize() const { return m_windowSize.get(); }
     /// 0: compact module list (icons); any other value: expanded (icons and texts).
-    int windowMode() const { return m_windowMode; }
+    int windowMode() const { return m_windowMode.get(); }
     /// Row of the module list: 0 dBm calculator, 1 voltage calculator, 2 unit converter,
     /// 3 dB converter, 4 VSWR converter.
-    int currentModule() const { return m_currentModule; }
+    int currentModule() const { return m_currentModule.get(); }
     /// Significant digits of linear values, 0 to 10. A change applies from the next calculation of
     /// each model; texts that are already shown stay.
-    int decimalPlaces() const { return m_decimalPlaces; }
+    int decimalPlaces() const { return m_decimalPlaces.get(); }
 
-    void setWindowPosition(const QPoint &position);
-    void setWindowSize(const QSize &size);
-    void setWindowMode(int mode);
-    void setCurrentModule(int module);
-    void setDecimalPlaces(int places);
+    void setWindowPosition(const QPoint &position) { m_windowPosition.set(position); }
+    void setWindowSize(const QSize &size) { m_windowSize.set(size); }
+    void setWindowMode(int mode) { m_windowMode.set(mode); }
+    void setCurrentModule(int module) { m_currentModule.set(module); }
+    void setDecimalPlaces(int places) { m_decimalPlaces.set(places); }
 
     DbmCalculatorProfile &dbmCalculator() { return m_dbmCalculator; }
     VoltageCalculatorProfile &voltageCalculator() { return m_voltageCalculator; }
@@ -88,11 +89,12 @@ Q_SIGNALS:
     void decimalPlacesChanged();
 
 private:
-    QPoint m_windowPosition{0, 0};
-    QSize m_windowSize;
-    int m_windowMode = 0;
-    int m_currentModule = 0;
-    int m_decimalPlaces = kDefaultDecimalPlaces;
+    using Self = MainProfile;
+    Announced<QPoint> m_windowPosition{this, &Self::windowPositionChanged};
+    Announced<QSize> m_windowSize{this, &Self::windowSizeChanged};
+    Announced<int> m_windowMode{this, &Self::windowModeChanged};
+    Announced<int> m_currentModule{this, &Self::currentModuleChanged};
+    Announced<int> m_decimalPlaces{this, &Self::decimalPlacesChanged, kDefaultDecimalPlaces};
     DbmCalculatorProfile m_dbmCalculator;
     VoltageCalculatorProfile m_voltageCalculator;
     DbConverterProfile m_dbConverter;

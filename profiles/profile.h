@@ -25,17 +25,6 @@ public:
     /// Reads the profile's group from @p settings through the setters; a key that is missing or
     /// malformed takes its default.
     virtual void loadSettings(QSettings &settings) = 0;
-
-protected:
-    /// The body of every plain setter: stores @p value and emits @p changed, only on a real change.
-    template <typename Self, typename Value>
-    void assign(Value &member, const Value &value, void (Self::*changed)())
-    {
-        if (member == value)
-            return;
-        member = value;
-        Q_EMIT(static_cast<Self *>(this)->*changed)();
-    }
 };
 
 #endif

@@ -36,14 +36,9 @@ VoltageCalculatorProfile::VoltageCalculatorProfile(QObject *parent)
     : ExpressionProfile(calculatorTable(), parent)
 {}
 
-void VoltageCalculatorProfile::setPhase(double degrees)
-{
-    assign(m_phase, degrees, &VoltageCalculatorProfile::phaseChanged);
-}
-
 std::unique_ptr<StepRule> VoltageCalculatorProfile::newStepRule() const
 {
-    return std::make_unique<VoltageSteps>(mode(), m_phase);
+    return std::make_unique<VoltageSteps>(mode(), phase());
 }
 
 ExpressionProfile::Shown VoltageCalculatorProfile::shown(const Operand &result) const

@@ -26,9 +26,9 @@ public:
     explicit VoltageCalculatorProfile(QObject *parent = nullptr);
 
     /// The angle between correlated voltages, in degrees.
-    double phase() const { return m_phase; }
+    double phase() const { return m_phase.get(); }
     /// Does not calculate by itself.
-    void setPhase(double degrees);
+    void setPhase(double degrees) { m_phase.set(degrees); }
 
 Q_SIGNALS:
     void phaseChanged();
@@ -38,7 +38,7 @@ protected:
     Shown shown(const Operand &result) const override;
 
 private:
-    double m_phase = 0.0;
+    Announced<double> m_phase{this, &VoltageCalculatorProfile::phaseChanged};
 };
 
 #endif

@@ -19,17 +19,9 @@ namespace {
 const StoredKeys &converterKeys()
 {
     static const StoredKeys rows{
-        {"p1", "p1", QString()},
-        {"p2", "p2", QString()},
-        {"v1", "v1", QString()},
-        {"v2", "v2", QString()},
-        {"pRatio", "pRatio", QString()},
-        {"pDb", "pDb", QString()},
-        {"vRatio", "vRatio", QString()},
-        {"vDb", "vDb", QString()},
-        {"pLatestRun", "pLatestRun", 0},
-        {"vLatestRun", "vLatestRun", 0},
-        {"currentMode", "currentMode", 0, upTo(1)},
+        {"p1", QString()},     {"p2", QString()},  {"v1", QString()},           {"v2", QString()},
+        {"pRatio", QString()}, {"pDb", QString()}, {"vRatio", QString()},       {"vDb", QString()},
+        {"pLatestRun", 0},     {"vLatestRun", 0},  {"currentMode", 0, upTo(1)},
     };
     return rows;
 }

@@ -20,10 +20,10 @@ const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
         QStringLiteral("DbmCalculatorProfile"),
-        {{"input", "input", QString()},
-         {"output", "output", ErrorText::noResult()},
-         {"outputUnit", "outputUnit", Dbm, upTo(None)},
-         {"mode", "mode", IncoherentPowers, upTo(NumericCalculation)}},
+        {{"input", QString()},
+         {"output", ErrorText::noResult()},
+         {"outputUnit", Dbm, upTo(None)},
+         {"mode", IncoherentPowers, upTo(NumericCalculation)}},
         {{"DbmValid", Dbm},
          {"DbwValid", Dbw},
          {"DbValid", Db},

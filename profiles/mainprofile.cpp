@@ -19,11 +19,11 @@ constexpr StoredRange kWindowSides{std::numeric_limits<int>::min(),
 const StoredKeys &windowKeys()
 {
     static const StoredKeys rows{
-        {"windowPosition", "windowPosition", QPoint(0, 0)},
-        {"windowSize", "windowSize", QSize(), kWindowSides},
-        {"windowMode", "windowMode", 0},
-        {"currentModule", "currentModule", 0},
-        {"decimalPlaces", "decimalPlaces", MainProfile::kDefaultDecimalPlaces,
+        {"windowPosition", QPoint(0, 0)},
+        {"windowSize", QSize(), kWindowSides},
+        {"windowMode", 0},
+        {"currentModule", 0},
+        {"decimalPlaces", MainProfile::kDefaultDecimalPlaces,
          upTo(MainProfile::kMaximumDecimalPlaces)},
     };
     return rows;

@@ -115,13 +115,13 @@ QVariant storedValue(const QSettings &settings, const char *key, const QVariant 
 void saveKeys(const Profile &profile, QSettings &settings, const StoredKeys &rows)
 {
     for (const StoredKey &row : rows)
-        settings.setValue(QLatin1String(row.key), profile.property(row.property));
+        settings.setValue(QLatin1String(row.property), profile.property(row.property));
 }
 
 void loadKeys(Profile &profile, const QSettings &settings, const StoredKeys &rows)
 {
     for (const StoredKey &row : rows) {
-        const QVariant value = storedValue(settings, row.key, row.defaultValue);
+        const QVariant value = storedValue(settings, row.property, row.defaultValue);
         profile.setProperty(row.property, isWithin(row.range, value) ? value : row.defaultValue);
     }
 }

@@ -26,13 +26,12 @@ constexpr StoredRange upTo(int last)
 }
 
 /**
- * One row of a profile's table of stored values. The same row drives saving and loading, so that
- * the two cannot drift apart. The type of the default is the type that is stored: text, int, bool,
- * double, point or size.
+ * One row of a profile's table of stored values: a property, stored under its own name. The same
+ * row drives saving and loading, so that the two cannot drift apart. The type of the default is the
+ * type that is stored: text, int, bool, double, point or size.
  */
 struct StoredKey
 {
-    const char *key;
     const char *property;
     QVariant defaultValue;
     StoredRange range = {};

@@ -59,16 +59,16 @@ constexpr int kVolt = 1;
 const StoredKeys &converterKeys()
 {
     static const StoredKeys rows{
-        {"impedance", "impedance", QStringLiteral("50")},
-        {"logPowerUnit", "logPowerUnit", 0, upTo(kLogPowerUnits.last())},
-        {"linPowerUnit", "linPowerUnit", 0, upTo(kLinPowerUnits.last())},
-        {"logVoltageUnit", "logVoltageUnit", 0, upTo(kLogVoltageUnits.last())},
-        {"linVoltageUnit", "linVoltageUnit", 0, upTo(kLinVoltageUnits.last())},
-        {"logPower", "logPower", QString()},
-        {"linPower", "linPower", QString()},
-        {"logVoltage", "logVoltage", QString()},
-        {"linVoltage", "linVoltage", QString()},
-        {"voltageMode", "voltageMode", 0, upTo(kVoltageModes.last())},
+        {"impedance", QStringLiteral("50")},
+        {"logPowerUnit", 0, upTo(kLogPowerUnits.last())},
+        {"linPowerUnit", 0, upTo(kLinPowerUnits.last())},
+        {"logVoltageUnit", 0, upTo(kLogVoltageUnits.last())},
+        {"linVoltageUnit", 0, upTo(kLinVoltageUnits.last())},
+        {"logPower", QString()},
+        {"linPower", QString()},
+        {"logVoltage", QString()},
+        {"linVoltage", QString()},
+        {"voltageMode", 0, upTo(kVoltageModes.last())},
     };
     return rows;
 }

@@ -15,12 +15,11 @@ const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
         QStringLiteral("VoltageCalculatorProfile"),
-        {{"input", "input", QString()},
-         {"output", "output", ErrorText::noResult()},
-         {"outputUnit", "outputUnit", Mv, upTo(None)},
-         {"mode", "mode", VoltageMode::Uncorrelated, upTo(VoltageMode::Peak)},
+        {{"input", QString()},
+         {"output", ErrorText::noResult()},
+         {"outputUnit", Mv, upTo(None)},
+         {"mode", VoltageMode::Uncorrelated, upTo(VoltageMode::Peak)},
          {"phase",
-          "phase",
           0.0,
           {VoltageCalculatorProfile::kMinimumPhase, VoltageCalculatorProfile::kMaximumPhase}}},
         {{"MvValid", Mv}, {"VValid", V}, {"NoneValid", None}},

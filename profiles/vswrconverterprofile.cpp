@@ -30,17 +30,10 @@ constexpr int kLastUnit = 3;
 const StoredKeys &textKeys()
 {
     static const StoredKeys rows{
-        {"vswr", "vswr", QString()},
-        {"r", "r", QString()},
-        {"r2", "r2", QString()},
-        {"ar", "ar", QString()},
-        {"am", "am", QString()},
-        {"pForward", "pForward", QString()},
-        {"pReflected", "pReflected", QString()},
-        {"pAbsorbed", "pAbsorbed", QString()},
-        {"vForward", "vForward", QString()},
-        {"vReflected", "vReflected", QString()},
-        {"vAbsorbed", "vAbsorbed", QString()},
+        {"vswr", QString()},       {"r", QString()},         {"r2", QString()},
+        {"ar", QString()},         {"am", QString()},        {"pForward", QString()},
+        {"pReflected", QString()}, {"pAbsorbed", QString()}, {"vForward", QString()},
+        {"vReflected", QString()}, {"vAbsorbed", QString()},
     };
     return rows;
 }
@@ -48,13 +41,13 @@ const StoredKeys &textKeys()
 const StoredKeys &selectionKeys()
 {
     static const StoredKeys rows{
-        {"currentMode", "currentMode", 0, upTo(1)},
-        {"pForwardUnit", "pForwardUnit", 0, upTo(kLastUnit)},
-        {"pReflectedUnit", "pReflectedUnit", 0, upTo(kLastUnit)},
-        {"pAbsorbedUnit", "pAbsorbedUnit", 0, upTo(kLastUnit)},
-        {"vForwardUnit", "vForwardUnit", 0, upTo(kLastUnit)},
-        {"vReflectedUnit", "vReflectedUnit", 0, upTo(kLastUnit)},
-        {"vAbsorbedUnit", "vAbsorbedUnit", 0, upTo(kLastUnit)},
+        {"currentMode", 0, upTo(1)},
+        {"pForwardUnit", 0, upTo(kLastUnit)},
+        {"pReflectedUnit", 0, upTo(kLastUnit)},
+        {"pAbsorbedUnit", 0, upTo(kLastUnit)},
+        {"vForwardUnit", 0, upTo(kLastUnit)},
+        {"vReflectedUnit", 0, upTo(kLastUnit)},
+        {"vAbsorbedUnit", 0, upTo(kLastUnit)},
     };
     return rows;
 }

@@ -27,7 +27,7 @@ private Q_SLOTS:
     void numbersComeBackUnchanged_data();
     void numbersComeBackUnchanged();
     void theLongestText();
-    void savesPropertiesUnderTheirKeys();
+    void savesPropertiesUnderTheirNames();
     void loadsRowsInOrder();
     void aNumberOutsideTheRangeIsMalformed_data();
     void aNumberOutsideTheRangeIsMalformed();
@@ -282,22 +282,21 @@ void StoredKeysTest::theLongestText()
     QCOMPARE(storedValue(file.settings(), "malformed", kText), QVariant(kText));
 }
 
-void StoredKeysTest::savesPropertiesUnderTheirKeys()
+void StoredKeysTest::savesPropertiesUnderTheirNames()
 {
-    const StoredKeys rows{{"second", "windowMode", 0}, {"first", "currentModule", 0}};
+    const StoredKeys rows{{"windowMode", 0}, {"currentModule", 0}};
     MainProfile profile;
     profile.setWindowMode(1);
     profile.setCurrentModule(4);
     SettingsFile file;
     saveKeys(profile, file.settings(), rows);
-    QCOMPARE(file.text(), QByteArray("[General]\nfirst=4\nsecond=1\n"));
+    QCOMPARE(file.text(), QByteArray("[General]\ncurrentModule=4\nwindowMode=1\n"));
 }
 
 void StoredKeysTest::loadsRowsInOrder()
 {
-    const StoredKeys rows{
-        {"c", "windowMode", 8}, {"a", "currentModule", 0}, {"b", "windowSize", QSize(5, 6)}};
-    SettingsFile file("[General]\na=4\nc=x\nwindowSize=@Size(1 2)\n");
+    const StoredKeys rows{{"windowMode", 8}, {"currentModule", 0}, {"windowSize", QSize(5, 6)}};
+    SettingsFile file("[General]\ncurrentModule=4\nwindowMode=x\n");
     MainProfile profile;
     ChangeLog log(profile);
     loadKeys(profile, file.settings(), rows);
@@ -324,8 +323,8 @@ void StoredKeysTest::aNumberOutsideTheRangeIsMalformed()
     QFETCH(QByteArray, stored);
     QFETCH(int, expected);
 
-    const StoredKeys rows{{"key", "windowMode", 1, {-2, 5}}};
-    SettingsFile file("[General]\nkey=" + stored + "\n");
+    const StoredKeys rows{{"windowMode", 1, {-2, 5}}};
+    SettingsFile file("[General]\nwindowMode=" + stored + "\n");
     MainProfile profile;
     profile.setWindowMode(4);
     loadKeys(profile, file.settings(), rows);
@@ -350,8 +349,8 @@ void StoredKeysTest::aSizeWithASideOutsideTheRangeIsMalformed()
     QFETCH(QByteArray, stored);
     QFETCH(QSize, expected);
 
-    const StoredKeys rows{{"key", "windowSize", kSize, {2, 9}}};
-    SettingsFile file("[General]\nkey=" + stored + "\n");
+    const StoredKeys rows{{"windowSize", kSize, {2, 9}}};
+    SettingsFile file("[General]\nwindowSize=" + stored + "\n");
     MainProfile profile;
     profile.setWindowSize({7, 7});
     loadKeys(profile, file.settings(), rows);

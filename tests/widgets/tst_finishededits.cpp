@@ -557,8 +557,10 @@ void FinishedEditsTest::everyLeavingFinishesWhereItIsAskedFor()
     stepOf(leavings(), leaving)(*this);
     QTRY_VERIFY(m_finished->count() > 0);
     QCoreApplication::processEvents();
-    // A menu gives the focus back, and some platforms then activate the window anew.
-    if (!leaving.startsWith(QStringLiteral("by a menu")))
+    // A menu and a window that is shown again give the focus back, and some platforms then activate
+    // the window anew.
+    if (!leaving.startsWith(QStringLiteral("by a menu")) &&
+        !leaving.startsWith(QStringLiteral("by minimizing")))
         QCOMPARE(m_finished->count(), 1);
 }
 

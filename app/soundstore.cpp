@@ -16,7 +16,7 @@
 namespace {
 
 /// Files beyond this are not even looked at, so that no file can exhaust the memory.
-constexpr qint64 kMebibyte = 1024 * 1024;
+constexpr qint64 kMebibyte = qint64(1024) * 1024;
 constexpr qint64 kLargestFile = 256 * kMebibyte;
 
 /// Where QSettings keeps a user's store, if that is a file at all: asked itself, it would read the

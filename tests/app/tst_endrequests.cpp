@@ -103,7 +103,10 @@ void EndRequestsTest::endingClosesADialogAndItsLoop()
     type();
     QFileDialog dialog(m_window.get());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    QTimer::singleShot(0, &dialog, [this] { m_window->endProgram(); });
+    QTimer soon;
+    soon.setSingleShot(true);
+    connect(&soon, &QTimer::timeout, m_window.get(), &MainWindow::endProgram);
+    soon.start(0);
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QVERIFY(!m_window->isVisible());
     QCOMPARE(stored("pRatio"), QStringLiteral("10"));

@@ -205,9 +205,9 @@ void GoldenTrace::loadForeign()
     SettingsFile store;
     m_root.saveSettings(store.settings());
     const QStringList keys = store.settings().allKeys();
-    const QString spoiled = keys.at(below(keys.size()));
+    const QString &spoiled = keys.at(below(keys.size()));
     const QString value = QLatin1String(anyOf(values));
-    const QString removed = keys.at(below(keys.size()));
+    const QString &removed = keys.at(below(keys.size()));
     m_lines += QStringLiteral("load with %1 as \"%2\" and without %3").arg(spoiled, value, removed);
     store.settings().setValue(spoiled, value);
     store.settings().remove(removed);

@@ -73,6 +73,7 @@ class Linux:
     settings = pathlib.Path.home() / ".config/Vantrel/Dezimo.conf"
     window_class = "^dezimo$"
     loses_first_keys = False
+    pause_between_keys_milliseconds = 1
 
     def command(self, program):
         return [program]
@@ -96,6 +97,7 @@ class Wine:
     key = r"HKEY_CURRENT_USER\Software\Vantrel\Dezimo"
     window_class = r"^dezimo\.exe$"
     loses_first_keys = True
+    pause_between_keys_milliseconds = 25
     file = pathlib.Path(os.environ.get("WINEPREFIX", "")) / "drive_c/state.reg"
 
     def command(self, program):
@@ -149,7 +151,7 @@ class Session:
         self.wait_for_windows(1)
 
     def press(self, *keys):
-        xdotool("key", "--delay", 1, *keys)
+        xdotool("key", "--delay", self.host.pause_between_keys_milliseconds, *keys)
 
     def press_until(self, key, what, condition):
         """Wine loses keys now and then, so this presses again where nothing comes of it."""
@@ -161,7 +163,7 @@ class Session:
         return wait_for(what, works)
 
     def type(self, text):
-        xdotool("type", "--delay", 1, text)
+        xdotool("type", "--delay", self.host.pause_between_keys_milliseconds, text)
 
     def click(self, name, page=None):
         page = self.page if page is None else page

@@ -9,6 +9,7 @@
 #include "kelapplication.h"
 #include "mainwindow.h"
 #include "testmain.h"
+#include "withoutopengl.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -84,6 +85,7 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
     const TestHome home;
+    const WithoutOpenGl asTheProgram; // a graphics driver never frees what it loads
     KelApplication application(argc, argv, true);
     Identity::apply();
     MainWindow window;

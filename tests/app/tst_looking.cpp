@@ -452,8 +452,8 @@ void LookingTest::lookingKeepsEveryValue()
     openPage(page);
     Values shown = shownValues();
     Values stored = moduleValues(QSettings());
-    QVERIFY(shown.values().contains(QStringLiteral("0.1995")));
-    QVERIFY(stored.values().contains(QStringLiteral("0.1995")));
+    QVERIFY(!shown.key(QStringLiteral("0.1995")).isEmpty());
+    QVERIFY(!stored.key(QStringLiteral("0.1995")).isEmpty());
 
     (this->*ways().at(way).go)();
     if (QTest::currentTestFailed())

@@ -557,11 +557,14 @@ void FinishedEditsTest::everyLeavingFinishesWhereItIsAskedFor()
     stepOf(leavings(), leaving)(*this);
     QTRY_VERIFY(m_finished->count() > 0);
     QCoreApplication::processEvents();
-    // A menu and a window that is shown again give the focus back, and some platforms then activate
-    // the window anew.
-    if (!leaving.startsWith(QStringLiteral("by a menu")) &&
-        !leaving.startsWith(QStringLiteral("by minimizing")))
-        QCOMPARE(m_finished->count(), 1);
+    // Where the focus may come back by itself, the platform decides how often it is lost.
+    static const QStringList comesBack{QStringLiteral("by a menu"), QStringLiteral("by minimizing"),
+                                       QStringLiteral("by another window")};
+    for (const QString &way : comesBack) {
+        if (leaving.startsWith(way))
+            return;
+    }
+    QCOMPARE(m_finished->count(), 1);
 }
 
 /// The means of a screen reader write without going there.

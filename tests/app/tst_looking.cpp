@@ -566,6 +566,7 @@ void LookingTest::menusOfFieldsHaveTheFontOfMenus()
 
 int main(int argc, char **argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     return runTestMain<KelApplication, LookingTest>(argc, argv, true);
 }
 

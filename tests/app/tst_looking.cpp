@@ -402,7 +402,7 @@ void LookingTest::saveToAFile()
     QTimer untilItIsThere;
     connect(&untilItIsThere, &QTimer::timeout, m_window.get(), [this] {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (dialog && dialog->isActiveWindow()) {
+        if (dialog && !m_window->isActiveWindow()) {
             dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(m_file);
             static_cast<QDialog *>(dialog)->accept();
         }

@@ -11,4 +11,5 @@ void initDezimoResources()
     Q_INIT_RESOURCE(html);
     Q_INIT_RESOURCE(icons);
     Q_INIT_RESOURCE(style);
+    Q_INIT_RESOURCE(themes);
 }

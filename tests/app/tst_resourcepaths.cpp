@@ -56,6 +56,7 @@ QStringList filledIn(const QString &pattern)
         QString path = pattern;
         path.replace(QLatin1String("%0"), QLatin1String(theme));
         path.replace(QLatin1String("%1"), QLatin1String(theme));
+        path.replace(QLatin1String("@theme"), QLatin1String(theme));
         if (!path.contains(QLatin1String("%2")))
             paths += path;
         else

@@ -6,6 +6,7 @@
 #include "kelmessagebox.h"
 #include "kelscrollbar.h"
 #include "osinfo.h"
+#include "palette.h"
 #include "ui_kelaboutwindow.h"
 
 #include <QClipboard>
@@ -221,7 +222,8 @@ void KelAboutWindow::showProduct()
 /// Qt gives links the color of the system's palette, which may be unreadable in the theme.
 void KelAboutWindow::showLinks(ApplicationTheme theme)
 {
-    const QString color = theme == Dark ? QStringLiteral("#5ab8ec") : QStringLiteral("#00669b");
+    const QLatin1String color(theme == Dark ? Palette::accentText.dark
+                                            : Palette::accentText.bright);
     m_ui->product_page->setText(
         anchor(productPage(m_product.applicationNote), tr("Product page"), color));
     m_ui->mail->setText(anchor(m_mailTarget, tr("Support mail"), color));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "colorcontrast.h"
+#include "palette.h"
 #include "resources.h"
 #include "testmain.h"
 
@@ -15,10 +16,7 @@
 #include <QTemporaryFile>
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
-#include <vector>
 
 namespace {
 
@@ -31,88 +29,42 @@ constexpr double kNoMinimum = 1.0; ///< inactive text, shades and lines that tel
 struct Pair
 {
     const char *use;
-    const char *foreground;
-    const char *background;
+    Palette::Role foreground;
+    Palette::Role background;
     double minimum;
 };
 
-const std::vector<Pair> &brightPairs()
-{
-    static const std::vector<Pair> pairs{
-        {"text on the window", "#1e2328", "#f5f7f9", kText},
-        {"text in a field", "#1e2328", "#ffffff", kText},
-        {"text under the pointer and on function keys", "#1e2328", "#e8edf1", kText},
-        {"text of a chosen item", "#1e2328", "#e0f0fa", kText},
-        {"muted text on the window", "#56606a", "#f5f7f9", kText},
-        {"placeholder in a field", "#56606a", "#ffffff", kText},
-        {"chosen tab on the window", "#00669b", "#f5f7f9", kText},
-        {"unit key", "#00669b", "#ffffff", kText},
-        {"unit key under the pointer", "#00669b", "#e8edf1", kText},
-        {"chosen module", "#00669b", "#e0f0fa", kText},
-        {"calculate key, selected text, checked segment", "#ffffff", "#00669b", kText},
-        {"calculate key under the pointer", "#ffffff", "#00557f", kText},
-        {"error on the window", "#b3261e", "#f5f7f9", kText},
-        {"error in a field", "#b3261e", "#ffffff", kText},
-        {"border of a field on the window", "#7e8994", "#f5f7f9", kMark},
-        {"border of a field against its inside", "#7e8994", "#ffffff", kMark},
-        {"border under the pointer", "#3b4650", "#f5f7f9", kMark},
-        {"focus mark on the window", "#008ed6", "#f5f7f9", kMark},
-        {"focus mark in a field", "#008ed6", "#ffffff", kMark},
-        {"bar of the chosen module", "#008ed6", "#e0f0fa", kMark},
-        {"sign of what is done", "#1c7c3c", "#f5f7f9", kMark},
-        {"sign of a warning", "#b35c00", "#f5f7f9", kMark},
-        {"sign of an error", "#b3261e", "#f5f7f9", kMark},
-        {"inside of the sign of what is done", "#ffffff", "#1c7c3c", kMark},
-        {"inside of the sign of a warning", "#ffffff", "#b35c00", kMark},
-        {"inside of the sign of an error", "#ffffff", "#b3261e", kMark},
-        {"inactive text", "#8b959e", "#f5f7f9", kNoMinimum},
-        {"quiet line", "#d5dbe1", "#f5f7f9", kNoMinimum},
-    };
-    return pairs;
-}
-
-const std::vector<Pair> &darkPairs()
-{
-    static const std::vector<Pair> pairs{
-        {"text on the window", "#e8ecf0", "#1e2328", kText},
-        {"text in a field", "#e8ecf0", "#262c33", kText},
-        {"text under the pointer and on function keys", "#e8ecf0", "#333c45", kText},
-        {"text of a chosen item", "#e8ecf0", "#17394f", kText},
-        {"muted text on the window", "#a9b4bf", "#1e2328", kText},
-        {"placeholder in a field", "#a9b4bf", "#262c33", kText},
-        {"chosen tab on the window", "#5ab8ec", "#1e2328", kText},
-        {"unit key", "#5ab8ec", "#262c33", kText},
-        {"unit key under the pointer", "#5ab8ec", "#333c45", kText},
-        {"chosen module", "#5ab8ec", "#17394f", kText},
-        {"calculate key, selected text, checked segment", "#1e2328", "#5ab8ec", kText},
-        {"calculate key under the pointer", "#1e2328", "#8accf2", kText},
-        {"error on the window", "#ff8a80", "#1e2328", kText},
-        {"error in a field", "#ff8a80", "#262c33", kText},
-        {"border of a field on the window", "#7d8893", "#1e2328", kMark},
-        {"border of a field against its inside", "#7d8893", "#262c33", kMark},
-        {"border under the pointer", "#dfe5ea", "#1e2328", kMark},
-        {"focus mark on the window", "#008ed6", "#1e2328", kMark},
-        {"focus mark in a field", "#008ed6", "#262c33", kMark},
-        {"bar of the chosen module", "#008ed6", "#17394f", kMark},
-        {"sign of what is done", "#5cc98a", "#1e2328", kMark},
-        {"sign of a warning", "#f0a83c", "#1e2328", kMark},
-        {"sign of an error", "#ff8a80", "#1e2328", kMark},
-        {"inside of the sign of what is done", "#1e2328", "#5cc98a", kMark},
-        {"inside of the sign of a warning", "#1e2328", "#f0a83c", kMark},
-        {"inside of the sign of an error", "#1e2328", "#ff8a80", kMark},
-        {"inactive text", "#6b7680", "#1e2328", kNoMinimum},
-        {"quiet line", "#3a424b", "#1e2328", kNoMinimum},
-    };
-    return pairs;
-}
-
-bool isOfTheme(const QString &fileName, bool dark)
-{
-    const bool isDark = fileName.contains(QLatin1String("_dark."));
-    const bool isBright =
-        fileName.contains(QLatin1String("_bright.")) || fileName.contains(QLatin1String("_light."));
-    return dark ? isDark : isBright;
-}
+const Pair kPairs[] = {
+    {"text on the window", Palette::text, Palette::window, kText},
+    {"text in a field", Palette::text, Palette::surface, kText},
+    {"text under the pointer and on function keys", Palette::text, Palette::pointer, kText},
+    {"text of a chosen item", Palette::text, Palette::chosen, kText},
+    {"muted text on the window", Palette::mutedText, Palette::window, kText},
+    {"placeholder in a field", Palette::mutedText, Palette::surface, kText},
+    {"chosen tab on the window", Palette::accentText, Palette::window, kText},
+    {"unit key", Palette::accentText, Palette::surface, kText},
+    {"unit key under the pointer", Palette::accentText, Palette::pointer, kText},
+    {"chosen module", Palette::accentText, Palette::chosen, kText},
+    {"calculate key, selected text, checked segment", Palette::inverseText, Palette::accentText,
+     kText},
+    {"calculate key under the pointer", Palette::inverseText, Palette::accentPointer, kText},
+    {"error on the window", Palette::error, Palette::window, kText},
+    {"error in a field", Palette::error, Palette::surface, kText},
+    {"border of a field on the window", Palette::border, Palette::window, kMark},
+    {"border of a field against its inside", Palette::border, Palette::surface, kMark},
+    {"border under the pointer", Palette::strongBorder, Palette::window, kMark},
+    {"focus mark on the window", Palette::accent, Palette::window, kMark},
+    {"focus mark in a field", Palette::accent, Palette::surface, kMark},
+    {"bar of the chosen module", Palette::accent, Palette::chosen, kMark},
+    {"sign of what is done", Palette::done, Palette::window, kMark},
+    {"sign of a warning", Palette::warning, Palette::window, kMark},
+    {"sign of an error", Palette::error, Palette::window, kMark},
+    {"inside of the sign of what is done", Palette::inverseText, Palette::done, kMark},
+    {"inside of the sign of a warning", Palette::inverseText, Palette::warning, kMark},
+    {"inside of the sign of an error", Palette::inverseText, Palette::error, kMark},
+    {"inactive text", Palette::inactiveText, Palette::window, kNoMinimum},
+    {"quiet line", Palette::quietLine, Palette::window, kNoMinimum},
+};
 
 QString textOf(const QString &name)
 {
@@ -165,23 +117,61 @@ QSet<QString> iconColors(bool dark)
     return colors;
 }
 
-QStringList sheets(const std::function<bool(const QString &)> &wanted)
+/// The sheets that only one theme shows.
+QStringList themeSheets(bool dark)
 {
-    QStringList files{QStringLiteral(":/main_light.qss"), QStringLiteral(":/main_dark.qss")};
     const QDir folder(QStringLiteral(":/Global/Style/"));
-    const QStringList names = folder.entryList({QStringLiteral("*.qss")});
+    QStringList files{dark ? QStringLiteral(":/main_dark.qss")
+                           : QStringLiteral(":/main_light.qss")};
+    const QStringList names =
+        folder.entryList({dark ? QStringLiteral("*_dark.qss") : QStringLiteral("*_bright.qss")});
     for (const QString &name : names)
         files += folder.filePath(name);
-    QStringList chosen;
-    std::copy_if(files.begin(), files.end(), std::back_inserter(chosen), wanted);
-    return chosen;
+    return files;
 }
 
-QSet<QString> colorsIn(const std::vector<Pair> &pairs)
+QString colorOf(const Palette::Role &role, bool dark)
+{
+    return QString::fromLatin1(dark ? role.dark : role.bright);
+}
+
+QSet<QString> colorsOfPairs(bool dark)
 {
     QSet<QString> colors;
-    for (const Pair &pair : pairs)
-        colors << QString::fromLatin1(pair.foreground) << QString::fromLatin1(pair.background);
+    for (const Pair &pair : kPairs)
+        colors << colorOf(pair.foreground, dark) << colorOf(pair.background, dark);
+    return colors;
+}
+
+QString sourcePath(const char *name)
+{
+    return QStringLiteral(DEZIMO_SOURCE_DIR "/") + QLatin1String(name);
+}
+
+QStringList sourceFiles(const char *folder, const QStringList &patterns)
+{
+    QDirIterator files(sourcePath(folder), patterns, QDir::Files, QDirIterator::Subdirectories);
+    QStringList names;
+    while (files.hasNext())
+        names += files.next();
+    return names;
+}
+
+/// Every color that the code and the forms write.
+QStringList colorsOfCode()
+{
+    static const QRegularExpression color(
+        QStringLiteral("#[0-9a-fA-F]{6}\\b|\\brgba?\\([^)]*\\)|\\bQColor\\([0-9][^)]*\\)"));
+    QStringList colors;
+    for (const char *folder : {"app", "profiles", "sysinfo", "views", "widgets"}) {
+        const QStringList names = sourceFiles(
+            folder, {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui")});
+        for (const QString &name : names) {
+            const QString text = textOf(name);
+            for (auto it = color.globalMatch(text); it.hasNext();)
+                colors += it.next().captured();
+        }
+    }
     return colors;
 }
 
@@ -206,9 +196,10 @@ private Q_SLOTS:
     void everyPairIsReadable();
     void everyColorOfTheSheetsIsInAPair_data();
     void everyColorOfTheSheetsIsInAPair();
-    void thePaletteHoldsTheSameColors();
+    void theDesignPageShowsThePalette();
+    void codeWritesNoColorButTheAccent();
     void findsEveryWayToWriteAColor();
-    void commonSheetsHoldNoColor();
+    void sheetsAndIconsNameRolesInsteadOfColors();
 };
 
 void ContrastTest::initTestCase()
@@ -230,14 +221,12 @@ void ContrastTest::everyPairIsReadable_data()
     QTest::addColumn<QColor>("background");
     QTest::addColumn<double>("minimum");
 
-    const auto rows = [](const char *theme, const std::vector<Pair> &pairs) {
-        for (const Pair &pair : pairs)
-            QTest::newRow(QByteArray(theme).append(pair.use).constData())
-                << QColor(QLatin1String(pair.foreground)) << QColor(QLatin1String(pair.background))
+    for (const bool dark : {false, true}) {
+        for (const Pair &pair : kPairs)
+            QTest::newRow(QByteArray(dark ? "dark: " : "bright: ").append(pair.use).constData())
+                << QColor(colorOf(pair.foreground, dark)) << QColor(colorOf(pair.background, dark))
                 << pair.minimum;
-    };
-    rows("bright: ", brightPairs());
-    rows("dark: ", darkPairs());
+    }
 }
 
 void ContrastTest::everyPairIsReadable()
@@ -262,18 +251,39 @@ void ContrastTest::everyColorOfTheSheetsIsInAPair()
 {
     QFETCH(bool, dark);
 
-    const QSet<QString> used =
-        colorsOf(sheets([dark](const QString &name) { return isOfTheme(name, dark); })) +
-        iconColors(dark);
+    const QSet<QString> used = colorsOf(themeSheets(dark)) + iconColors(dark);
     // Equal both ways: a pair whose color no sheet or icon uses any more would prove nothing.
-    QCOMPARE(sorted(used), sorted(colorsIn(dark ? darkPairs() : brightPairs())));
+    QCOMPARE(sorted(used), sorted(colorsOfPairs(dark)));
 }
 
-void ContrastTest::thePaletteHoldsTheSameColors()
+void ContrastTest::theDesignPageShowsThePalette()
 {
-    const QSet<QString> palette =
-        plainColorsIn(textOf(QStringLiteral(DEZIMO_SOURCE_DIR "/docs/design.md")));
-    QCOMPARE(sorted(palette), sorted(colorsIn(brightPairs()) + colorsIn(darkPairs())));
+    static const QRegularExpression row(
+        QStringLiteral("^([a-z-]+) +(#[0-9a-f]+) +(#[0-9a-f]+) +(.*)$"),
+        QRegularExpression::MultilineOption);
+    static const QRegularExpression line(QStringLiteral("^\\|.*`#.*\\|$"),
+                                         QRegularExpression::MultilineOption);
+    QStringList expected;
+    const QString palette = textOf(sourcePath("resources/style/palette.txt"));
+    for (auto it = row.globalMatch(palette); it.hasNext();) {
+        const QStringList cells = it.next().capturedTexts();
+        expected += QStringLiteral("| %1 | `%2` | `%3` | %4 |")
+                        .arg(cells.at(1), cells.at(2), cells.at(3), cells.at(4));
+    }
+    QStringList shown;
+    const QString page = textOf(sourcePath("docs/design.md"));
+    for (auto it = line.globalMatch(page); it.hasNext();)
+        shown += it.next().captured();
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(shown, expected);
+}
+
+void ContrastTest::codeWritesNoColorButTheAccent()
+{
+    const QString accent = QStringLiteral("rgb(0, 142, 214)");
+    QCOMPARE(colorsOfCode(), (QStringList{accent, accent}));
+    QCOMPARE(QColor(QLatin1String(Palette::accent.bright)), QColor(0, 142, 214));
+    QCOMPARE(QColor(QLatin1String(Palette::accent.dark)), QColor(0, 142, 214));
 }
 
 void ContrastTest::findsEveryWayToWriteAColor()
@@ -288,12 +298,15 @@ void ContrastTest::findsEveryWayToWriteAColor()
                           QStringLiteral("white")}));
 }
 
-void ContrastTest::commonSheetsHoldNoColor()
+void ContrastTest::sheetsAndIconsNameRolesInsteadOfColors()
 {
-    QCOMPARE(sorted(colorsOf(sheets([](const QString &name) {
-                 return !isOfTheme(name, true) && !isOfTheme(name, false);
-             }))),
-             QStringList());
+    const QStringList sheets = sourceFiles("resources/style", {QStringLiteral("*.qss")});
+    QVERIFY(sheets.size() > 10);
+    QCOMPARE(sorted(colorsOf(sheets)), QStringList());
+    const QStringList icons = sourceFiles("resources/icons", {QStringLiteral("*_??.svg")});
+    QVERIFY(icons.size() > 10);
+    for (const QString &icon : icons)
+        QVERIFY2(plainColorsIn(textOf(icon)).isEmpty(), qPrintable(icon));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, ContrastTest)

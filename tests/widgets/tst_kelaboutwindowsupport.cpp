@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "aboutwindowcase.h"
+#include "palette.h"
 #include "resources.h"
 #include "testmain.h"
 
@@ -230,9 +231,11 @@ void KelAboutWindowSupportTest::linksAreReadableInBothThemes()
     for (const char *name : {"product_page", "mail"}) {
         const auto *label = child<QLabel>(name);
         m_window->onThemeChanged(Dark);
-        QCOMPARE(markupFormat(label).foreground().color(), QColor(0x5a, 0xb8, 0xec));
+        QCOMPARE(markupFormat(label).foreground().color(),
+                 QColor(QLatin1String(Palette::accentText.dark)));
         m_window->onThemeChanged(Bright);
-        QCOMPARE(markupFormat(label).foreground().color(), QColor(0x00, 0x66, 0x9b));
+        QCOMPARE(markupFormat(label).foreground().color(),
+                 QColor(QLatin1String(Palette::accentText.bright)));
     }
 }
 

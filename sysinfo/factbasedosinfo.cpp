@@ -14,7 +14,7 @@ struct SystemRow
     const char *section;
     const char *key;
     std::optional<Fact> fact;
-    /// Shown where the row has no fact.
+    /// Shown if the row has no fact.
     const char *fixedText = nullptr;
 };
 
@@ -29,8 +29,8 @@ constexpr SystemRow kSystemRows[] = {
     {"DLL and EXE versions", "CVI runtime", Fact::CviRuntime},
     {"DLL and EXE versions", "MSI runtime", Fact::MsiRuntime},
     {"DLL and EXE versions", "Internet Explorer", Fact::InternetExplorer},
-    // These two are meant to be fixed: they name the support data that the text belongs to, not
-    // what happens to be installed.
+    // Fixed on purpose: these two name the support data that the text belongs to. What happens to
+    // be installed does not matter.
     {"DLL and EXE versions", "Support Tool", std::nullopt, "3.1.0.0"},
     {"DLL and EXE versions", "Qt", std::nullopt, "5.12.2"},
     {"NI ActiveX versions", "NI Analysis", Fact::NiAnalysis},

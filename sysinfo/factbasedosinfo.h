@@ -10,8 +10,8 @@
 #include <optional>
 
 /**
- * Puts the sections together from single facts. A platform only says what each fact is and which
- * drivers it finds; names, keys, order and the texts for what is missing are the same everywhere.
+ * Puts the sections together from single facts. Names, keys, order and the texts for missing facts
+ * are the same everywhere; a platform only says what each fact is and which drivers it finds.
  */
 class FactBasedOSInfo : public OSInfo
 {
@@ -56,11 +56,11 @@ public:
 protected:
     /// Empty if the fact cannot be read.
     virtual QString fact(Fact fact) const = 0;
-    /// The maker's installed drivers; no list at all where the platform knows no such drivers.
+    /// The maker's installed drivers, or no list if the platform has no drivers of that kind.
     virtual std::optional<QVector<Driver>> drivers(DriverKind kind) const = 0;
 
-    /// The C library's text of a moment (seconds since 1970-01-01 UTC) in local time, for example
-    /// "Thu Jan  1 00:00:00 1970"; empty for a year that the C library cannot write.
+    /// A moment (seconds since 1970-01-01 UTC) in local time as the C library writes it, for
+    /// example "Thu Jan  1 00:00:00 1970". Empty if the C library cannot write the year.
     static QString momentText(std::time_t moment);
     static QString yesOrNo(bool yes);
 

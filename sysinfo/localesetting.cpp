@@ -27,8 +27,8 @@ QString languageName(const QString &code)
     return language == QLocale::C ? QString() : QLocale::languageToString(language);
 }
 
-/// Qt finds a country only through a locale that it knows, and for an unusual pair such as "de_US"
-/// would take the language's own country; so the code is looked up in any locale.
+/// Qt knows no unusual pair such as "de_US" and would answer with the language's own country. So
+/// this looks for the country's code in every locale that Qt knows.
 QString countryName(const QString &code)
 {
     const QString ending = QLatin1Char('_') + code;

@@ -7,19 +7,19 @@
 #include <QString>
 
 /**
- * The regional settings of the user as a Unix system keeps them: a locale's name in environment
- * variables, for example "de_AT.UTF-8" or "sr_RS@latin". The program's own default locale, which is
- * English everywhere, says nothing about them.
+ * The user's regional settings, which a Unix system keeps in environment variables as the name of a
+ * locale, for example "de_AT.UTF-8" or "sr_RS@latin". The program's own default locale says nothing
+ * about them, because it is English everywhere.
  */
 struct LocaleSetting
 {
     /// The locale's whole name.
     QString name;
-    /// English names, empty if the locale's name has none (as "C" has not) or an unknown one.
+    /// English names. Empty if the locale's name has no such part, as "C", or an unknown one.
     QString language;
     QString country;
 
-    /// Takes the name apart. What cannot be a locale's name gives three empty texts.
+    /// Takes the name apart. All three texts are empty if it cannot be a locale's name.
     static LocaleSetting parsed(const QByteArray &name);
     /// The locale in which the user's programs write numbers.
     static LocaleSetting ofUser();

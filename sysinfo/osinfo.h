@@ -11,8 +11,8 @@
 
 /**
  * What the About window tells about the host: the operating system, the language settings, the
- * versions of run-time libraries and the installed instrument drivers. All values are texts for
- * display, collected anew by every call. No operation fails: a fact that cannot be read is "---".
+ * versions of run-time libraries and the installed instrument drivers. Every call collects the
+ * facts anew, as texts for display. No call fails: a fact that cannot be read is "---".
  */
 class OSInfo
 {

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What a backslash takes its meaning from within double quotes.
+/// The characters that a backslash escapes within double quotes.
 constexpr std::string_view kEscapable = "\"$\\`";
 
 bool isEscapable(char letter)
@@ -19,8 +19,8 @@ bool isEscapable(char letter)
     return kEscapable.find(letter) != std::string_view::npos;
 }
 
-/// What stands before the closing quote of double-quoted @p text; empty unless the closing one ends
-/// it.
+/// The content of a value whose opening double quote is already cut off; empty if anything follows
+/// the closing quote or there is none.
 QByteArray doubleQuoted(const QByteArray &text)
 {
     QByteArray content;
@@ -35,7 +35,7 @@ QByteArray doubleQuoted(const QByteArray &text)
     return QByteArray();
 }
 
-/// The same for single quotes, where a backslash is a letter like others.
+/// The same for single quotes, in which a backslash has no special meaning.
 QByteArray singleQuoted(const QByteArray &text)
 {
     const int end = text.indexOf('\'');
@@ -58,7 +58,7 @@ bool isPrintable(const QString &text)
     });
 }
 
-/// The beginning of the file in whole lines; empty if it cannot be read or is no ordinary file.
+/// The whole lines at the beginning of the file; empty if it is unreadable or no ordinary file.
 QByteArray beginning(const QString &path)
 {
     QFile file(path);
@@ -84,7 +84,7 @@ QString OsRelease::value(const QByteArray &text, const QByteArray &key)
         if (!line.startsWith(assignment))
             continue;
         const QByteArray content = unquoted(line.mid(assignment.size()));
-        // With its size, since a byte array alone would be taken only up to its first zero byte.
+        // The size is passed because fromUtf8() would otherwise stop at the first zero byte.
         const QString read = QString::fromUtf8(content.constData(), content.size());
         if (!read.isEmpty() && isPrintable(read))
             value = read;

@@ -8,19 +8,19 @@
 
 /**
  * Reads os-release files: lines KEY=value, where the value may stand in single quotes or in double
- * quotes with backslash escapes. A line that is not well-formed, and a value that is not printable
- * UTF-8 text, counts as not there. Of several lines of one key the last one holds.
+ * quotes with backslash escapes. A line that is not well-formed is ignored, and so is a value that
+ * is not printable UTF-8 text. If a key has several lines, the last one holds.
  */
 namespace OsRelease {
 
-/// Of a longer file only the beginning is read. A real one has less than 1 KiB.
+/// A real file has less than 1 KiB. Of a longer one only this much is read.
 constexpr int kLongestFile = 64 * 1024;
 
 /// The value of @p key in @p text, the content of an os-release file; empty if it is not there.
 QString value(const QByteArray &text, const QByteArray &key);
 
-/// The system's name for people, with its version where the file tells it ("PRETTY_NAME", else
-/// "NAME"). Empty if the file cannot be read or has no name.
+/// The system's name as people know it ("PRETTY_NAME", which has the version, else "NAME"). Empty
+/// if the file cannot be read or has no name.
 QString systemName(const QString &path);
 
 } // namespace OsRelease

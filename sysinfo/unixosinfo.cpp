@@ -53,9 +53,9 @@ QString UnixOSInfo::systemName() const
     return QString();
 }
 
-/// The root folder is made with its file system, that is by the installation. A file system that
-/// does not keep the time of birth leaves the machine's identity, which is written once, at the
-/// first start of the installed system.
+/// The installation makes the root folder together with its file system. If that does not keep the
+/// time of birth, the next best is the file with the machine's identity, which the first start of
+/// the installed system writes once.
 QString UnixOSInfo::installDate() const
 {
     const QDateTime moments[] = {QFileInfo(m_places.rootFolder).birthTime(),

@@ -11,19 +11,19 @@
 /// Where a Unix system keeps what UnixOSInfo tells about it.
 struct UnixPlaces
 {
-    /// The first one that names the system holds.
+    /// The first one that has a name for the system is used.
     QStringList osReleaseFiles = {QStringLiteral("/etc/os-release"),
                                   QStringLiteral("/usr/lib/os-release")};
     QString rootFolder = QStringLiteral("/");
     QString machineIdFile = QStringLiteral("/etc/machine-id");
-    /// The usual ones if empty.
+    /// Empty for the usual ones.
     QStringList libraryFolders;
 };
 
 /**
  * Tells what a Unix system has in place of the Windows facts: the system's name, the regional
- * settings, when it was installed, whether the user is the administrator, and the VISA library. It
- * has no ActiveX controls, and no instrument drivers in known places.
+ * settings, when it was installed, whether the user is the administrator, and the VISA library.
+ * There are no ActiveX controls, and no known places for instrument drivers.
  */
 class UnixOSInfo final : public FactBasedOSInfo
 {

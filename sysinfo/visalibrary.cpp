@@ -48,7 +48,7 @@ QStringList VisaLibrary::usualFolders()
 {
     const QString libraries = QStringLiteral("/usr/lib");
     QStringList folders;
-    // Of several architectures side by side the program can only use the libraries of its own.
+    // A system may have several architectures. The program can only use libraries of its own.
     const QString own = QStringLiteral(DEZIMO_LIBRARY_ARCHITECTURE);
     if (!own.isEmpty())
         folders.append(libraries + QLatin1Char('/') + own);

@@ -13,15 +13,15 @@
  */
 struct VisaLibrary
 {
-    /// Both are empty if there is no library, the version if only a file without one is there.
+    /// Both are empty without a library. The version alone is empty if no file name has one.
     QString name;
     QString version;
 
     /// The highest version among the names of files in one folder.
     static VisaLibrary among(const QStringList &fileNames);
-    /// The highest version in the first of @p folders that has any. Only file names are read.
+    /// The highest version in the first of @p folders that has any. It reads only file names.
     static VisaLibrary find(const QStringList &folders);
-    /// Where libraries are installed on the systems of today, the program's own architecture first.
+    /// Where today's systems install libraries, the program's own architecture first.
     static QStringList usualFolders();
 };
 

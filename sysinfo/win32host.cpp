@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Windows writes no longer path, and a longer registry value is none of the facts asked for.
+/// No path of Windows is longer, and none of the registry values asked for should be.
 constexpr DWORD kLongestText = 32768;
 
 using VersionResource = std::vector<char>;
@@ -117,8 +117,8 @@ QString stringBlock(const VersionResource &resource)
                              unsigned(languageAndCodePage[1]));
 }
 
-/// The folder that @p query writes, one of Windows' functions that take a buffer and its length
-/// and return the length written or needed.
+/// The folder that one of Windows' functions writes. @p query takes a buffer and its length and
+/// returns the length written or needed.
 QString folder(UINT(WINAPI *query)(wchar_t *, UINT))
 {
     std::vector<wchar_t> buffer(kLongestText);
@@ -132,7 +132,7 @@ QString Win32Host::registryText(Hive hive, const QString &key, const QString &va
 {
     std::vector<wchar_t> buffer(kLongestText);
     DWORD size = DWORD(buffer.size() * sizeof(wchar_t));
-    // RRF_RT_REG_SZ alone also takes texts with variables, and expands them.
+    // RRF_RT_REG_SZ also reads texts with variables and expands them.
     const LSTATUS status = RegGetValueW(rootKey(hive), wide(key), wide(value), RRF_RT_REG_SZ,
                                         nullptr, buffer.data(), &size);
     return status == ERROR_SUCCESS ? textUpTo(buffer.data(), size / sizeof(wchar_t)) : QString();

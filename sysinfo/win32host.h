@@ -7,9 +7,9 @@
 #include "windowshost.h"
 
 /**
- * Answers from the running Windows, through the wide-character functions only. What others wrote
- * (registry values, version resources) is never trusted: a value of another type, a text without
- * its terminator or a resource that points outside itself counts as missing or is cut.
+ * Asks the running Windows, through the wide-character functions only. It trusts nothing that other
+ * programs wrote (registry values, version resources): a value of another type is missing, a text
+ * without its terminator ends with its buffer, and nothing outside a resource is read.
  */
 class Win32Host final : public WindowsHost
 {

@@ -11,8 +11,8 @@
 #include <vector>
 
 /**
- * The few questions that are put to Windows itself. Paths are Windows paths with backslashes. A
- * text is empty if it cannot be read, whatever the reason.
+ * The few questions that only Windows itself can answer. Paths are Windows paths with backslashes.
+ * A text is empty if it cannot be read, whatever the reason.
  */
 class WindowsHost
 {
@@ -37,17 +37,16 @@ public:
 
     virtual ~WindowsHost() = default;
 
-    /// A text value; an empty @p value asks for the default value of the key. Variables in it are
-    /// expanded where its registry type says so.
+    /// A text value; an empty @p value asks for the default value of the key. Variables are
+    /// expanded if the value's registry type says so.
     virtual QString registryText(Hive hive, const QString &key, const QString &value) const = 0;
     /// A value of exactly 32 bits.
     virtual std::optional<std::uint32_t> registryNumber(Hive hive, const QString &key,
                                                         const QString &value) const = 0;
-    /// A field of the file's version resource, in the resource's first language. An empty path has
-    /// none.
+    /// A field of the file's version resource, in its first language. Empty if the path is empty.
     virtual QString versionField(const QString &path, VersionField field) const = 0;
-    /// The names, without folder, of the files that match @p pattern, a path whose last part may
-    /// have the wildcards * and ?. In no particular order.
+    /// The names, without folder and in no particular order, of the files that match @p pattern, a
+    /// path whose last part may have the wildcards * and ?.
     virtual std::vector<QString> findFiles(const QString &pattern) const = 0;
     virtual Membership administrators() const = 0;
     virtual QString systemFolder() const = 0;

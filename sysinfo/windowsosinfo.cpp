@@ -62,8 +62,8 @@ constexpr LibraryFact kLibraryFacts[] = {
 /// The GPIB library of the interface board's maker, or else the one of the older SICL layer.
 constexpr const char *kIeeeLibraries[] = {R"(\GPIB-32.dll)", R"(\sicl32.dll)"};
 
-/// @p relative, which begins with a backslash, below @p folder. Empty without a folder: nothing may
-/// be looked up relative to the root of the current drive.
+/// @p relative, which begins with a backslash, below @p folder. Without a folder that would be a
+/// path on the current drive, which nobody asked for, so the answer is empty.
 QString below(QString folder, const char *relative)
 {
     while (folder.endsWith(QLatin1Char('\\')))
@@ -116,7 +116,7 @@ QString WindowsOSInfo::fact(Fact fact) const
     case Fact::VisaCompany:
     case Fact::RemoteControl:
     case Fact::SensorControl:
-        // Of the tables above.
+        // These are in the tables above.
         break;
     }
     return QString();
@@ -161,7 +161,7 @@ QString WindowsOSInfo::internetExplorerVersion() const
 {
     QString path =
         m_host->registryText(Hive::LocalMachine, QLatin1String(kInternetExplorer), QString());
-    // Some set-ups write the path as it stands on a command line.
+    // Some set-ups write the path in quotes, as on a command line.
     path.remove(QLatin1Char('"'));
     return fileVersion(path);
 }
@@ -203,7 +203,7 @@ QVector<FactBasedOSInfo::Driver> WindowsOSInfo::librariesIn(const QString &folde
     return found;
 }
 
-/// The set-up file of a driver is what is searched for; name and version are the driver file's.
+/// A driver is found by its set-up file, but name and version are those of the driver file.
 QVector<FactBasedOSInfo::Driver> WindowsOSInfo::usbDrivers() const
 {
     const QString windows = m_host->windowsFolder();
@@ -224,7 +224,7 @@ QStringList WindowsOSInfo::makerFilesIn(const QString &folder, const QString &ex
         return {};
     QStringList names;
     for (const QString &name : m_host->findFiles(folder + QLatin1String(R"(\kel*)") + extension)) {
-        // Windows compares short names too, and those of "kel.inf_old" end with ".INF".
+        // Windows also matches short names, and the one of "kel.inf_old" ends with ".INF".
         if (name.endsWith(extension, Qt::CaseInsensitive))
             names.append(name);
     }

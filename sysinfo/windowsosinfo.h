@@ -12,7 +12,7 @@ class WindowsHost;
 
 /**
  * Knows where Windows keeps each fact: which registry value, which file's version resource, which
- * driver folder. It asks a WindowsHost for them, so that it can be built and tested anywhere.
+ * driver folder. It asks a WindowsHost for them, so it can be built and tested anywhere.
  */
 class WindowsOSInfo final : public FactBasedOSInfo
 {

@@ -9,11 +9,11 @@
 class QComboBox;
 
 /**
- * What assistive technology meets in a combo box of the toolkit. Qt's own interface gives the
- * chosen item as the name on Unix, whatever the box is for. Here the name is the box's and the item
- * is its value, which is also readable as text, since AT-SPI knows no other way to tell it. The
- * actions Increase and Decrease choose the next and the previous item as the arrow keys do, leaving
- * out the items that cannot be chosen.
+ * Shows a combo box of the toolkit to assistive technology. On Unix, Qt's own interface reports the
+ * chosen item as the name, so nobody hears what the box is for. Here the box keeps its name and the
+ * item is its value, which can also be read as text because AT-SPI has no other way to pass it on.
+ * The actions Increase and Decrease choose the next and the previous item as the arrow keys do, and
+ * skip the items that cannot be chosen.
  */
 class AccessibleComboBox final : public QAccessibleWidget, public QAccessibleTextInterface
 {

@@ -116,7 +116,7 @@ int AccessibleLineEdit::characterCount() const
     return m_edit->text().size();
 }
 
-/// The edit tells where its cursor is; a character is as far from it as the text between is wide.
+/// Qt only says where the cursor is. The width of the text between gives the place of a character.
 QRect AccessibleLineEdit::characterRect(int offset) const
 {
     if (offset < 0 || offset >= characterCount())

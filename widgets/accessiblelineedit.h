@@ -9,12 +9,12 @@
 class QLineEdit;
 
 /**
- * What assistive technology meets in a line edit of the toolkit. Unlike Qt's own interface it
- * edits as a person does: a text that is put in by a screen reader, a braille keyboard or by voice
- * emits textEdited(), on which the pages rely. Its action Press is the Return key, which finishes
- * the edit without moving the focus.
+ * Shows a line edit of the toolkit to assistive technology. The pages rely on textEdited(), which
+ * Qt's own interface does not emit. This one edits as a person does: a text from a screen reader, a
+ * braille keyboard or a voice emits it. The action Press is the Return key, which finishes the edit
+ * without moving the focus.
  *
- * Positions beyond the text count as its end; a read-only edit offers no editing.
+ * A position beyond the text means its end. A read-only edit offers no editing.
  */
 class AccessibleLineEdit final : public QAccessibleWidget,
                                  public QAccessibleTextInterface,

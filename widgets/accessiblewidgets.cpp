@@ -17,8 +17,7 @@
 
 namespace {
 
-/// One button of a segmented switch. Its only action is a click, since a switch follows clicks and
-/// no other way of checking a button.
+/// One button of a segmented switch. A switch only follows clicks, so its action is a click.
 class AccessibleSegment final : public QAccessibleWidget
 {
 public:
@@ -61,7 +60,7 @@ private:
     QPushButton *const m_button;
 };
 
-/// A link, whose name is its text without the markup. Its action opens it.
+/// A link: its name is the text without the markup, and its action opens it.
 class AccessibleLink final : public QAccessibleWidget
 {
 public:
@@ -99,8 +98,8 @@ private:
     KelLinkLabel *const m_label;
 };
 
-/// A label inside a line edit. The edit's description has its text already, so that a screen reader
-/// that walks through the window shall not meet it a second time.
+/// A label inside a line edit. The edit's description already holds its text, so the label hides
+/// from screen readers, which would read it twice.
 class AccessibleInnerLabel final : public QAccessibleWidget
 {
 public:

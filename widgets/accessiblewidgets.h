@@ -4,9 +4,9 @@
 #ifndef WIDGETS_ACCESSIBLEWIDGETS_H
 #define WIDGETS_ACCESSIBLEWIDGETS_H
 
-/// Makes the toolkit's own controls known to screen readers as what they are: a segmented switch as
-/// a group of radio buttons, an icon as a graphic, a label that is a link as a link, a label inside
-/// a line edit as part of that edit. Called by these widgets; only the first call has an effect.
+/// Tells screen readers what the toolkit's own controls are: a segmented switch is a group of radio
+/// buttons, an icon a graphic, a label that is a link a link, and a label inside a line edit part
+/// of that edit. These widgets call it themselves; only the first call has an effect.
 void installAccessibleWidgets();
 
 #endif

@@ -7,8 +7,8 @@
 #include <QString>
 
 /**
- * The two looks of the program. The theme selects style sheets and icons by the word that their
- * resource names carry.
+ * The two looks of the program. The names of style sheets and icons contain the theme's word, by
+ * which the program finds them.
  */
 enum ApplicationTheme { Bright = 0, Dark = 1 };
 

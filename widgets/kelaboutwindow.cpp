@@ -65,7 +65,7 @@ QString productPage(const QString &applicationNote)
     return QStringLiteral(DEZIMO_PRODUCT_PAGE) + QLatin1Char('/') + applicationNote;
 }
 
-/// Mail programs are given the body as it stands, on purpose without percent-encoding.
+/// The body is not percent-encoded, on purpose: mail programs get it as it stands.
 QString mailTarget(const QString &applicationNote, const QString &supportText)
 {
     return QStringLiteral("mailto:" DEZIMO_SUPPORT_MAIL "?subject=Application Note ") +
@@ -85,7 +85,7 @@ QPixmap renderLogo(ApplicationTheme theme, const QSize &size)
 
     const QString path =
         QStringLiteral(":/Global/Icons_SVG/custom/Kelmark_48_%0.svg").arg(themeWord(theme));
-    // Qt would log a warning about a file that is not there.
+    // Qt would log a warning about a missing file.
     if (QFile::exists(path)) {
         QSvgRenderer renderer(path);
         QPainter painter(&pixmap);
@@ -155,7 +155,7 @@ KelAboutWindow::KelAboutWindow(const Product &product, std::unique_ptr<OSInfo> o
     setFixedSize(size());
     setAttribute(Qt::WA_DeleteOnClose);
     m_copyButton->setObjectName(QStringLiteral("copyButton"));
-    // Return is not to copy from wherever it is pressed.
+    // A default button would copy whenever Return is pressed anywhere in the window.
     m_copyButton->setAutoDefault(false);
     const auto areas = findChildren<QAbstractScrollArea *>();
     for (QAbstractScrollArea *area : areas)

@@ -29,7 +29,7 @@ class KelAboutWindow final : public QDialog
     Q_OBJECT
 
 public:
-    /// What the window tells about the program. The application note is known by its number.
+    /// What the window tells about the program. The application note is given by its number.
     struct Product
     {
         QString name;

@@ -48,14 +48,14 @@ int KelAutoResizeLineEdit::textWidth(int fontSize) const
     return QFontMetrics(candidate).boundingRect(text()).width();
 }
 
-/// The size applied is one below the last size measured, which keeps a pixel of air around the text
-/// and is meant. In an edit too low for any text the size is zero or negative.
+/// To keep a pixel of air around the text, the size is one below the last one measured. In an edit
+/// that is too low for any text it is zero or negative.
 int KelAutoResizeLineEdit::fittingFontSize() const
 {
     const int available = width() - kFrame;
     int size = height() - kFrame;
     int measured = textWidth(size--);
-    // A text that is far too wide at the smallest size need not be measured at each of the others.
+    // Saves measuring a text that is far too wide even at the smallest size.
     if (size > kSmallestFontSize &&
         qint64(measured) * kSmallestFontSize / size / 2 > qMax(available, 0))
         return kSmallestFontSize;

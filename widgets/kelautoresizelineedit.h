@@ -7,11 +7,10 @@
 #include "kellineedit.h"
 
 /**
- * A line edit whose font shrinks so that its whole text can be read, from a size that fills the
- * edit's height down to 10 pixels; a text that is too long for that is clipped.
+ * A line edit whose font shrinks until the whole text can be read, from a size that fills the
+ * height of the edit down to 10 pixels. A text that is still too long is clipped.
  *
- * The font is set through the edit's own style sheet, which replaces any other that is set on the
- * edit itself.
+ * The edit sets the font in its own style sheet, so do not give it another one.
  */
 class KelAutoResizeLineEdit final : public KelLineEdit
 {
@@ -20,14 +19,14 @@ class KelAutoResizeLineEdit final : public KelLineEdit
 public:
     explicit KelAutoResizeLineEdit(QWidget *parent = nullptr);
 
-    /// The size in pixels at which a text is shown that fits easily. Only the height decides on it.
+    /// The size in pixels of a text with room to spare. It depends on the edit's height alone.
     int largestFontSize() const;
 
 public Q_SLOTS:
     void adjustTextSizeAuto();
 
 Q_SIGNALS:
-    /// The applied font size in pixels, when it differs from the one before.
+    /// Emitted with the new font size in pixels when it has changed.
     void fontSizeChanged(int size);
 
 protected:

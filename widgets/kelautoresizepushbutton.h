@@ -8,8 +8,7 @@
 
 /**
  * A push button whose font follows its size: half the smaller one of width and height, in pixels.
- * The font is set through the button's own style sheet, which replaces any other that is set on the
- * button itself.
+ * The button sets the font in its own style sheet, so do not give it another one.
  */
 class KelAutoResizePushButton final : public KelPushButton
 {

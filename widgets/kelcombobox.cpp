@@ -12,7 +12,7 @@
 #include <QListView>
 #include <QWheelEvent>
 
-/// The list is made where it will be: a list that is moved there is styled anew.
+/// The list gets its final parent at once, because Qt would style it again after a move.
 KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
 {
     auto *style = new KelComboBoxStyle;
@@ -42,14 +42,14 @@ void KelComboBox::showPopup()
     view()->parentWidget()->move(mapToGlobal(QPoint(0, height())));
 }
 
-/// A choice by key is read from the list only after it is hidden.
+/// Qt hides the list before it reads a choice by key from it, so the list must not change at once.
 void KelComboBox::hidePopup()
 {
     QComboBox::hidePopup();
     QMetaObject::invokeMethod(this, "endPopup", Qt::QueuedConnection);
 }
 
-/// What the box leaves alone scrolls the page that it is on.
+/// An ignored wheel event goes to the page, which scrolls.
 void KelComboBox::wheelEvent(QWheelEvent *event)
 {
     if (hasFocus())
@@ -58,8 +58,8 @@ void KelComboBox::wheelEvent(QWheelEvent *event)
         event->ignore();
 }
 
-/// A list that was left without a choice has selected what the pointer or the keys were last on.
-/// And while it was open, the box was not told that the pointer has left.
+/// Puts right what an open list leaves behind: if nothing was chosen, the item last under the
+/// pointer or the keys is still selected, and nobody has told the box that the pointer has left it.
 void KelComboBox::endPopup()
 {
     selectCurrentItem();

@@ -8,11 +8,11 @@
 
 /**
  * A combo box whose list opens directly below the box and is at least as wide, on every platform.
- * The list is a plain list view, so that style sheets reach its items. Whether it is open or not,
- * the item selected in it is the chosen one, which assistive technology reads there.
+ * The list is a plain list view, so that style sheets reach its items. Assistive technology reads
+ * the choice from the list, so the chosen item is selected there even while the list is closed.
  *
- * The wheel chooses only in a box that has the focus, which it does not get by the wheel. So a page
- * can be scrolled past it.
+ * The wheel changes the choice only if the box has the focus, and it does not give the focus to the
+ * box. So a page scrolls past the box without changing it.
  */
 class KelComboBox final : public QComboBox
 {
@@ -20,7 +20,7 @@ class KelComboBox final : public QComboBox
 
 public:
     explicit KelComboBox(QWidget *parent = nullptr);
-    /// The list gives up the focus first: what it says of losing it must find the whole box.
+    /// Takes the focus from the list while the box that hears of it is still whole.
     ~KelComboBox() override;
 
     void showPopup() override;

@@ -51,7 +51,7 @@ void KelIconWidget::paintEvent(QPaintEvent *event)
     const QPointF center(width() * 0.5, height() * 0.5);
 
     QPainter painter(this);
-    // Deprecated because Qt's own paint engines take no notice of it; kept on purpose for others.
+    // Deprecated, because Qt's own paint engines ignore it; kept on purpose for other engines.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     painter.setRenderHint(QPainter::HighQualityAntialiasing);

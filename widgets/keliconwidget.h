@@ -9,9 +9,9 @@
 #include <QWidget>
 
 /**
- * Shows an icon in its center, turned clockwise by `rotation` degrees about that center. The
- * properties can be set by a style sheet (qproperty-icon) and be animated. Without an icon nothing
- * is drawn.
+ * Shows an icon in its center, turned clockwise by `rotation` degrees about that center. A style
+ * sheet can set the icon (qproperty-icon), and the rotation can be animated. Without an icon it
+ * draws nothing.
  */
 class KelIconWidget final : public QWidget
 {

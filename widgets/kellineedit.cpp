@@ -97,8 +97,8 @@ void KelLineEdit::showEvent(QShowEvent *event)
     layOutLabels();
 }
 
-/// Whatever hides the edit, be it a page that is turned or a window that is closed, the focus goes
-/// afterwards or, with a window that is not active, not at all.
+/// A hidden edit loses the focus only afterwards, and in a window that is not active never. So
+/// being hidden, by a turned page or a closed window, finishes an edit by itself.
 void KelLineEdit::hideEvent(QHideEvent *event)
 {
     QLineEdit::hideEvent(event);
@@ -114,8 +114,8 @@ void KelLineEdit::focusInEvent(QFocusEvent *event)
         selectError();
 }
 
-/// Qt's own editingFinished is held back, because it follows another rule. So is the news that the
-/// selection has gone, which is told afterwards.
+/// Qt would emit editingFinished by a rule of its own, so its signals are blocked. That also blocks
+/// the one about a lost selection, which is sent afterwards.
 void KelLineEdit::focusOutEvent(QFocusEvent *event)
 {
     const bool hadSelection = hasSelectedText();
@@ -131,8 +131,8 @@ void KelLineEdit::focusOutEvent(QFocusEvent *event)
         leave();
 }
 
-/// The click that brings the focus also places the cursor, so an error word is selected after it. A
-/// further click, or a part selected by dragging, is the person's own choice.
+/// The click that brings the focus also places the cursor, so an error word is selected after it.
+/// What the person does then, clicking again or selecting a part, stays as it is.
 void KelLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
     QLineEdit::mouseReleaseEvent(event);
@@ -141,7 +141,7 @@ void KelLineEdit::mouseReleaseEvent(QMouseEvent *event)
     m_isEnteredByClick = false;
 }
 
-/// What is dropped is an edit, which takes the focus to be left and so finished.
+/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it.
 void KelLineEdit::dropEvent(QDropEvent *event)
 {
     QLineEdit::dropEvent(event);
@@ -149,7 +149,7 @@ void KelLineEdit::dropEvent(QDropEvent *event)
         setFocus(Qt::OtherFocusReason);
 }
 
-/// The menu belongs to the window: as a child of the edit it would take on the size of its text.
+/// As a child of the edit the menu would take on the edit's font size, so it belongs to the window.
 void KelLineEdit::contextMenuEvent(QContextMenuEvent *event)
 {
     m_contextMenu = createStandardContextMenu();
@@ -166,8 +166,8 @@ void KelLineEdit::noteEdit(const QString &text)
     m_editedText = text;
 }
 
-/// Qt tells of an edit by textEdited and textChanged, of a text that the program writes by
-/// textChanged alone.
+/// Qt emits textEdited before textChanged if a person edits, and textChanged alone if the program
+/// writes a text.
 void KelLineEdit::noteWrittenText(const QString &text)
 {
     if (text != m_editedText)
@@ -224,8 +224,7 @@ void KelLineEdit::updateError()
     Q_EMIT errorChanged();
 }
 
-/// A style sheet writes its own palette whenever it is applied; the placeholder's color is put
-/// back.
+/// Every application of a style sheet replaces the palette, and with it the placeholder's color.
 void KelLineEdit::applyPlaceholderColor()
 {
     QPalette colors = palette();

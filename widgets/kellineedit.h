@@ -16,16 +16,16 @@ class QMenu;
  * A line edit that can show a fixed text, such as a unit, inside its left and its right end. What
  * is typed keeps clear of both.
  *
- * Looking is no editing: `editingFinished` is emitted by Return, and by leaving the edit if the
- * person has changed its text since it was last finished. A text that the program writes is no edit
- * and ends one that was open. Losing the focus, to a menu or another window too, and being hidden
- * are ways of leaving. All this holds with every version of Qt; by itself Qt 5.15 also takes what
- * the program wrote for an edit.
+ * Looking at an edit changes nothing, so leaving it emits `editingFinished` only if the person has
+ * changed the text since the last time. Return always emits it. The person leaves the edit when it
+ * loses the focus, even to a menu or another window, or when it is hidden. A text that the program
+ * writes is no change by the person and makes the edit forget an earlier one. Qt 5.15 by itself
+ * would take it for one.
  *
- * Given a list of error words, the edit tells by its `error` property whether its text is one of
- * them, so that a style sheet can make it look like one. It selects such a word whole, so that
- * typing replaces it. A screen reader is told the fixed texts as the edit's description, unless the
- * edit was given a description of its own.
+ * Given a list of error words, the edit sets its `error` property while its text is one of them, so
+ * that a style sheet can make it look like one. It selects such a word whole, so that typing
+ * replaces it. Screen readers get the fixed texts as the edit's description, unless the edit has a
+ * description of its own.
  */
 class KelLineEdit : public QLineEdit
 {
@@ -49,7 +49,7 @@ public:
     void setSuffixText(const QString &text);
     void setErrorTexts(const QStringList &texts);
 
-    /// Makes every leaving finish an edit, also without a change. Off at first.
+    /// Emits editingFinished whenever the edit is left, changed or not. Off at first.
     void setFinishedByEveryLeaving(bool finished) { m_isFinishedByEveryLeaving = finished; }
 
 Q_SIGNALS:
@@ -85,9 +85,9 @@ private:
     QColor m_placeholderColor;
 
     bool m_isFinishedByEveryLeaving = false;
-    bool m_isEntered = false; ///< got the focus, and was not left since
+    bool m_isEntered = false; ///< has had the focus since it was last left
     bool m_isEdited = false;  ///< by the person, since the last finished edit
-    QString m_editedText;     ///< what the person has made of it
+    QString m_editedText;     ///< as the person left it
     bool m_isEnteredByClick = false;
     QPointer<QMenu> m_contextMenu;
 };

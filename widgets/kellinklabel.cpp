@@ -32,8 +32,8 @@ void KelLinkLabel::open() const
 
 bool KelLinkLabel::focusNextPrevChild(bool next)
 {
-    // Before a link at the very beginning of the text QLabel finds that link again, and again. To
-    // pass QLabel over is therefore meant, which the linter takes for a slip.
+    // Going back from a link at the very beginning of the text, QLabel finds the same link for
+    // ever, so this passes QLabel over. The linter would take that for a slip.
     if (!next && hasSelectedText())
         return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
     return QLabel::focusNextPrevChild(next);

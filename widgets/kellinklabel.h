@@ -8,7 +8,7 @@
 
 /**
  * A label that is one link and nothing else. The first press of the Tab key gives it the focus, the
- * second selects the link, and the third leaves, in both directions.
+ * second selects the link, and the third moves on. Shift and Tab do the same backwards.
  */
 class KelLinkLabel final : public QLabel
 {
@@ -17,7 +17,7 @@ class KelLinkLabel final : public QLabel
 public:
     explicit KelLinkLabel(QWidget *parent = nullptr);
 
-    /// What is shown of the link, without its markup.
+    /// The text of the link without its markup.
     QString linkText() const;
     void open() const;
 

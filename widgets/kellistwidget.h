@@ -7,12 +7,11 @@
 #include <QListWidget>
 
 /**
- * A list that is reached by Tab only: a click on an item chooses it and leaves the keyboard focus
- * where it is, so that typing goes on in the page that the item opens. It shows no focus rectangle
- * of the platform.
+ * A list that takes the keyboard focus only from Tab. A click on an item chooses it and leaves the
+ * focus where it is, so that the person can go on typing in the page that the item opens. The list
+ * draws no focus rectangle of the platform.
  *
- * An item that is selected without being made current becomes current: assistive technology does
- * no more than select.
+ * Assistive technology can only select an item, so a selected item becomes the current one.
  */
 class KelListWidget final : public QListWidget
 {

@@ -7,9 +7,8 @@
 #include <QMainWindow>
 
 /**
- * The base of the program's main window. It behaves as the window class that it derives from and
- * gives style sheets a class of its own to select. All of a window's state is kept by the class
- * that derives from it.
+ * The base of the program's main window. It only gives style sheets a class name to select; all
+ * behavior is that of the classes above and below it.
  */
 class KelMainWindow : public QMainWindow
 {

@@ -14,7 +14,7 @@ KelMessageBox::KelMessageBox(State state, const QString &title, const QString &t
       m_ui(std::make_unique<Ui::KelMessageBox>()),
       m_state(state)
 {
-    // A property of an enumeration that is not registered is a bare number to a style sheet.
+    // Style sheets select the state by its name, which they only see if the type is registered.
     qRegisterMetaType<State>();
     m_ui->setupUi(this);
     auto *label = new QLabel(text, m_ui->content);
@@ -36,8 +36,8 @@ KelMessageBox::KelMessageBox(State state, const QString &title, const QString &t
 
 KelMessageBox::~KelMessageBox() = default;
 
-/// One pixel more than the contents need: on Wayland a window comes out a pixel lower than it was
-/// made if the scale is no whole number.
+/// One pixel more than the contents need, because on Wayland a window loses a pixel of its height
+/// if the scale is not a whole number.
 QSize KelMessageBox::sizeHint() const
 {
     return QDialog::sizeHint() + QSize(0, 1);

@@ -14,8 +14,8 @@ class KelMessageBox;
 }
 
 /**
- * A modal message in the program's own look: an icon for its state, a text and standard buttons. It
- * is created and executed once.
+ * A modal message in the program's own look: an icon for its state, a text and standard buttons.
+ * Create it anew for every message.
  *
  * The style sheets choose icon and colors by the `state` property. A normal message has no icon.
  * The text is shown as it stands, never as markup.
@@ -39,7 +39,7 @@ public:
     QSize sizeHint() const override;
 
     /// Shows a normal message and waits for the answer: the button clicked last, NoButton if the
-    /// message was closed without one, or Cancel if it could not be run.
+    /// person closed the message without one, or Cancel if it could not be shown.
     static QDialogButtonBox::StandardButton ask(QWidget *parent, const QString &title,
                                                 const QString &text,
                                                 QDialogButtonBox::StandardButtons buttons);

@@ -10,12 +10,12 @@
 
 namespace {
 
-/// The SI prefix letters that may stand before the unit; micro is the letter u. They are those that
-/// the models read, and the rest of the table is blank.
+/// The SI prefix letters that may stand before the unit, the same that the models read; micro is
+/// the letter u. The rest of the table is blank.
 constexpr char kPrefixTable[17] = {'f', 'p', 'n', 'u', 'm', 'k', 'M', 'G', 'T',
                                    'P', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
 
-/// The regular expression engine repeats nothing more often than this.
+/// The regular expression engine allows no more repetitions.
 constexpr int kMaximalRepetitions = 1024;
 
 QString digitsPattern(int maximum)

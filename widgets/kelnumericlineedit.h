@@ -9,12 +9,12 @@
 class QRegExpValidator;
 
 /**
- * A line edit that only a number can be typed into: digits before and after the decimal point of
- * the widget's locale, an exponent, one SI prefix letter and the unit, of which any beginning will
- * do, as in "-12.5 dBm" or "4e3kW".
+ * A line edit that takes nothing but a number, as in "-12.5 dBm" or "4e3kW": digits before and
+ * after the decimal point of the widget's locale, an exponent, one SI prefix letter, and the unit
+ * or its first letters.
  *
- * `decimals` and `integerDigits` are the greatest numbers of digits after and before the point.
- * Either may be 0, so that the part is left out, but not both: a 0 beside a 0 is refused.
+ * At most `decimals` digits follow the point and at most `integerDigits` stand before it. Either
+ * may be 0, which leaves that part out. No number is without both, so the second 0 is refused.
  */
 class KelNumericLineEdit final : public KelLineEdit
 {

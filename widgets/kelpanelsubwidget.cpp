@@ -71,8 +71,8 @@ void KelPanelSubWidget::on_titleButton_clicked()
     toggle();
 }
 
-/// A click on the header beside the title's button counts as one on the title; as with a
-/// button, one that is let go elsewhere does nothing.
+/// The whole header works as its title button does: a click toggles the section unless the mouse
+/// button is released elsewhere.
 bool KelPanelSubWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {
@@ -83,7 +83,7 @@ bool KelPanelSubWidget::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// What the content unfolds to later. Before it was ever laid out that is what it asks for.
+/// Keeps the height to unfold to later. A content that was never laid out has only its size hint.
 void KelPanelSubWidget::rememberContentHeight()
 {
     const QWidget *content = m_ui->content;
@@ -92,8 +92,8 @@ void KelPanelSubWidget::rememberContentHeight()
     m_contentMaximum = content->maximumHeight();
 }
 
-/// The minimum moves before the maximum: a maximum that goes below the minimum of the frame before
-/// would leave the content that high, and at the last frame nothing would shrink it any more.
+/// In every frame the minimum moves before the maximum. Otherwise the maximum would be below the
+/// last frame's minimum, which wins, and after the last frame the content would stay too high.
 void KelPanelSubWidget::startFolding(int contentHeight, int arrowRotation)
 {
     if (m_folding)

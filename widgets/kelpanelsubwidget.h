@@ -17,9 +17,9 @@ class KelPanelSubWidget;
 
 /**
  * One section of a side panel: a header with a title and a disclosure arrow, and below it a content
- * that folds up and down when the header is clicked. A section starts expanded.
+ * that a click on the header folds away and brings back. A section starts expanded.
  *
- * The content is empty at first; give it a layout. Folded it has no height and takes no focus.
+ * The content is empty at first; give it a layout. Folded, it has no height and takes no focus.
  */
 class KelPanelSubWidget final : public QWidget
 {

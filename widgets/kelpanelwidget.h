@@ -18,8 +18,8 @@ class KelPanelWidget;
 }
 
 /**
- * A side panel of sections that a button folds to a narrow strip and back. A panel starts expanded,
- * 184 pixels wide or more; folded it is 34 pixels wide.
+ * A side panel of sections, which a button folds to a narrow strip and back. A panel starts
+ * expanded, 184 pixels wide or more; folded it is 34 pixels wide.
  *
  * Folding the panel folds all its sections, and they stay folded when it is expanded again.
  */

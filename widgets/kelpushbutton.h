@@ -7,9 +7,8 @@
 #include <QPushButton>
 
 /**
- * The push button that the toolkit's other push buttons build on. It behaves as the one it derives
- * from and gives style sheets a class of its own to select.
- * It takes its size, text and icon from the form or the view that holds it.
+ * The push button that the toolkit's other push buttons build on. It behaves as Qt's and only gives
+ * style sheets a class name to select.
  */
 class KelPushButton : public QPushButton
 {

@@ -7,8 +7,8 @@
 #include <QSpinBox>
 
 /**
- * A spin box for whole numbers that shows no focus rectangle of the platform, so that its focus
- * looks as the style sheets say. Range, prefix and suffix come from the form that holds it.
+ * A spin box for whole numbers without the platform's focus rectangle, so that its focus looks as
+ * the style sheets say.
  */
 class KelSpinBox final : public QSpinBox
 {

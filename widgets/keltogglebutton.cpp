@@ -89,7 +89,7 @@ void KelToggleButton::onCurrentIndexChanged(int index)
     Q_EMIT currentIndexChanged(index);
 }
 
-/// Draws what a style sheet gives this widget, which a plain widget would not do by itself.
+/// A plain widget does not draw what a style sheet gives it, so this one does.
 void KelToggleButton::paintEvent(QPaintEvent *)
 {
     QStyleOption option;
@@ -98,7 +98,7 @@ void KelToggleButton::paintEvent(QPaintEvent *)
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
 
-/// Tab stops once at a switch, at the checked button, from whichever side it comes; without one
+/// Tab stops once at a switch, at the checked button, in both directions. While none is checked,
 /// every button is a stop. The arrow keys go from button to button.
 void KelToggleButton::updateTabStop()
 {
@@ -110,7 +110,7 @@ void KelToggleButton::updateTabStop()
 
 void KelToggleButton::connectGroup()
 {
-    // Deprecated since Qt 5.15 in favor of idClicked(int), which says the same; kept on purpose.
+    // Kept on purpose, although Qt 5.15 prefers idClicked(int), which says the same.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     m_groupClicks = connect(m_group, QOverload<int>::of(&QButtonGroup::buttonClicked), this,

@@ -10,10 +10,10 @@ class QButtonGroup;
 class QHBoxLayout;
 
 /**
- * A segmented switch: a row of push buttons of which one at most is checked. The items are counted
- * from 0 in the order in which they were added; without a checked item the current index is -1.
+ * A segmented switch: a row of push buttons of which at most one is checked. The items have indexes
+ * from 0 in the order in which they were added; the current index is -1 while none is checked.
  *
- * Only a person's click emits currentIndexChanged(). An index without a button is ignored.
+ * Only a person's click emits currentIndexChanged(). An index that no button has is ignored.
  */
 class KelToggleButton final : public QWidget
 {

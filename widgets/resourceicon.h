@@ -7,8 +7,8 @@
 #include <QFile>
 #include <QIcon>
 
-/// The icon in a file of the resources, or none where there is no such file: Qt would log a warning
-/// at each attempt to draw it.
+/// The icon in a file of the resources. A missing file gives no icon, because Qt would log a
+/// warning each time it tried to draw it.
 inline QIcon resourceIcon(const QString &path)
 {
     return QFile::exists(path) ? QIcon(path) : QIcon();

@@ -8,21 +8,21 @@ set -euo pipefail
 
 sdk=$1
 folder=$2
-# One for windows, one for their looks, two for SVG pictures.
+# One plugin for windows, one for their looks, two for SVG pictures.
 plugins=(platforms/qwindows styles/qwindowsvistastyle imageformats/qsvg iconengines/qsvgicon)
 
 folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
 
 sources=("$sdk/bin" "$(folder_of libstdc++-6.dll)" "$(folder_of libwinpthread-1.dll)")
 
-# take FILE FOLDER: copies it without the symbols that only a debugger reads.
+# take FILE FOLDER: copies a file without the symbols that only a debugger reads.
 take() {
     install --directory "$2"
     x86_64-w64-mingw32-strip --strip-unneeded -o "$2/${1##*/}" "$1"
     chmod 644 "$2/${1##*/}"
 }
 
-# libraries_of FILE: the names of those that Windows loads with it.
+# libraries_of FILE: the names of the libraries that Windows loads with it.
 libraries_of() { x86_64-w64-mingw32-objdump --private-headers "$1" | sed --quiet 's/^\tDLL Name: //p'; }
 
 waiting=("$folder/dezimo.exe")

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# make_packages.sh SDK VERSION: from the Windows build, the program with all it needs as a folder in
-# build/windows/package, and of that the zip and the installer. The same build gives the same zip.
+# make_packages.sh SDK VERSION: copies the program of the Windows build and all it needs into
+# build/windows/package and makes the zip and the installer of that. The same build gives the same zip.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -13,7 +13,7 @@ packages=build/windows/package
 staged=$packages/Dezimo
 name=dezimo_${version}_win64
 
-# The uninstaller removes what is on these lists and nothing else; folders from the inside out.
+# The uninstaller removes what is on these lists and nothing else, inner folders before outer ones.
 write_removals() {
     # shellcheck disable=SC2016
     local remove='s,/,\\,g; s,.*,"$INSTDIR\\&",'

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 
-# The application's icon in single sizes, for systems that do not scale the drawing themselves.
+# The application's icon in single sizes, for systems that cannot scale the drawing.
 
 find_program(DEZIMO_RSVG_CONVERT rsvg-convert)
 mark_as_advanced(DEZIMO_RSVG_CONVERT)

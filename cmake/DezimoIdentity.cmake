@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 
-# Who makes the program and where the maker is reached. A maker sets these once at configure time;
-# the defaults lie under the domain that is reserved for examples.
+# Who makes the program and how to reach the maker, who sets these at configure time. The defaults
+# use the domain that is reserved for examples.
 
 set(DEZIMO_ORGANIZATION_DOMAIN "vantrel.example" CACHE STRING
   "Internet domain of the maker")
@@ -11,12 +11,12 @@ set(DEZIMO_PRODUCT_PAGE "https://www.vantrel.example/appnote" CACHE STRING
 set(DEZIMO_SUPPORT_MAIL "support@vantrel.example" CACHE STRING
   "Mail address for support requests")
 
-# The same domain with its parts turned round, as identifiers are made from it.
+# Identifiers begin with the domain's parts in reverse order.
 string(REPLACE "." ";" domain_parts "${DEZIMO_ORGANIZATION_DOMAIN}")
 list(REVERSE domain_parts)
 list(JOIN domain_parts "." DEZIMO_REVERSED_DOMAIN)
 unset(domain_parts)
 
-# The program among all others: it names the desktop entry, the metainfo, the MIME package and the
-# icon, by which a desktop takes them for one application.
+# Tells the program from all others. Desktop entry, metainfo, MIME package and icon have this name, so
+# that a desktop knows that they belong together.
 set(DEZIMO_ID "${DEZIMO_REVERSED_DOMAIN}.dezimo")

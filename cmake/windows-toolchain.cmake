@@ -6,7 +6,7 @@
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-# std::mutex and its like need the compilers with POSIX threads.
+# std::mutex and the like need the compilers with POSIX threads.
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
@@ -19,7 +19,7 @@ if(missing)
   message(FATAL_ERROR "There is no Qt for Windows yet; tools/windows_sdk.sh makes it")
 endif()
 
-# Headers and libraries are those of Windows; programs that the build runs are those of this machine.
+# Headers and libraries come from Windows, the programs that the build runs from this machine.
 set(CMAKE_FIND_ROOT_PATH "${DEZIMO_WINDOWS_SDK}" /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -3,7 +3,7 @@
 #
 # Makes the application fonts in the build folder; DEZIMO_FONT_SOURCES holds them as a resource.
 
-# The system's own Python comes first, since the distribution's fontTools belongs to that one.
+# The distribution installs fontTools for the system's own Python, so that one is tried first.
 find_program(DEZIMO_FONT_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
 find_program(DEZIMO_FONT_PYTHON NAMES python3 python DOC "Python that has fontTools")
 if(NOT DEZIMO_FONT_PYTHON)
@@ -18,7 +18,7 @@ if(NOT DEZIMO_FONTTOOLS_RESULT EQUAL 0)
   message(FATAL_ERROR "${DEZIMO_FONT_PYTHON} has no fontTools. Debian's package: python3-fonttools")
 endif()
 
-# Sets out to the list of the files found; DEZIMO_FONT_DIRS is searched first.
+# dezimo_find_fonts(<variable> <package> <file>...): sets the variable to the files found.
 function(dezimo_find_fonts out package)
   foreach(name IN LISTS ARGN)
     find_file(DEZIMO_FONT_${name} ${name}
@@ -67,7 +67,7 @@ add_custom_command(
   VERBATIM
 )
 
-# Not left to AUTORCC, which runs again in every build when the files themselves are made by one.
+# AUTORCC would run in every build, because the build itself makes the files.
 file(CONFIGURE OUTPUT ${font_folder}/fonts.qrc @ONLY CONTENT "<RCC>
   <qresource prefix=\"/Global/Fonts\">
 ${font_entries}  </qresource>

@@ -3,9 +3,9 @@
 
 #include "calculationfiles.h"
 
+#include "checkedsettings.h"
 #include "mainprofile.h"
-#include "soundstore.h"
-#include "storetext.h"
+#include "settingstext.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -16,6 +16,8 @@
 #include <QVector>
 
 #include <algorithm>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -58,7 +60,7 @@ void arrange(const QString &fileName)
         return;
     const QByteArray text = saved.readAll();
     saved.close();
-    const QByteArray arranged = arrangedStoreText(text);
+    const QByteArray arranged = SettingsText::arranged(text);
     if (arranged == text)
         return;
     QSaveFile file(fileName);
@@ -96,12 +98,13 @@ QString CalculationFiles::askForFileToSave(QWidget *parent)
 
 void CalculationFiles::open(MainProfile &profile, const QString &fileName)
 {
-    SoundStore::readFile(fileName, [&](QSettings &file) { profile.loadModuleSettings(file); });
+    CheckedSettings::readFile(fileName, profile.storedGroups(),
+                              [&](QSettings &file) { profile.loadModuleSettings(file); });
 }
 
 void CalculationFiles::save(MainProfile &profile, const QString &fileName)
 {
-    if (!SoundStore::makeWritable(fileName))
+    if (!CheckedSettings::makeWritable(fileName))
         return;
     {
         QSettings file(fileName, QSettings::IniFormat);
@@ -119,7 +122,7 @@ QString CalculationFiles::openFromCommandLine(MainProfile &profile, const QStrin
     const bool looksLikeAnOption = name.startsWith(QLatin1Char('-'));
     if (arguments.size() != 2 || name.isEmpty() || looksLikeAnOption)
         return {};
-    const QString reason = SoundStore::whyUnreadable(name);
+    const QString reason = CheckedSettings::whyUnreadable(name);
     if (!reason.isEmpty())
         return onOneLine(QStringLiteral("dezimo: cannot open %1: %2").arg(name, reason));
     open(profile, name);
@@ -128,5 +131,6 @@ QString CalculationFiles::openFromCommandLine(MainProfile &profile, const QStrin
 
 void CalculationFiles::loadDefaults(MainProfile &profile)
 {
-    SoundStore::readDefaults([&](QSettings &store) { profile.loadModuleSettings(store); });
+    CheckedSettings::readDefaults(profile.storedGroups(),
+                                  [&](QSettings &store) { profile.loadModuleSettings(store); });
 }

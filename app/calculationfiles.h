@@ -6,8 +6,11 @@
 
 #include <QStringList>
 
-class MainProfile;
 class QWidget;
+
+namespace Dezimo {
+class MainProfile;
+}
 
 /**
  * Calculation files are INI files with the groups and keys of the application settings. A file is
@@ -22,8 +25,8 @@ QString askForFileToOpen(QWidget *parent);
 /// The same for saving; the dialog adds the extension to a name that has none.
 QString askForFileToSave(QWidget *parent);
 
-void open(MainProfile &profile, const QString &fileName);
-void save(MainProfile &profile, const QString &fileName);
+void open(Dezimo::MainProfile &profile, const QString &fileName);
+void save(Dezimo::MainProfile &profile, const QString &fileName);
 
 /// Opens the one file that the command line names, as a double click in a file manager passes it.
 /// @p arguments begin with the program's own name. Without a name or with several nothing is
@@ -31,10 +34,10 @@ void save(MainProfile &profile, const QString &fileName);
 /// leaves every module as it is: nobody chose it in a dialog, and a mistyped name must not cost the
 /// values of the last run. Returns the line that tells which file that was and why, or an empty
 /// text.
-QString openFromCommandLine(MainProfile &profile, const QStringList &arguments);
+QString openFromCommandLine(Dezimo::MainProfile &profile, const QStringList &arguments);
 
 /// Gives every module its default values.
-void loadDefaults(MainProfile &profile);
+void loadDefaults(Dezimo::MainProfile &profile);
 
 } // namespace CalculationFiles
 

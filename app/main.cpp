@@ -12,6 +12,8 @@
 #include <cstdio>
 #include <optional>
 
+using namespace Dezimo;
+
 namespace {
 
 /// A session that ends need not close the windows, which Qt would do by itself: it may be asked to

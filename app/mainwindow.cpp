@@ -5,13 +5,13 @@
 
 #include "animations.h"
 #include "calculationfiles.h"
+#include "checkedsettings.h"
 #include "dbconverterwidget.h"
 #include "dbmcalculatorwidget.h"
 #include "identity.h"
 #include "kelaboutwindow.h"
 #include "kellatepage.h"
 #include "mainprofile.h"
-#include "soundstore.h"
 #include "stylesheets.h"
 #include "takeoverslide.h"
 #include "ui_mainwindow.h"
@@ -29,6 +29,8 @@
 
 #include <algorithm>
 #include <array>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -92,7 +94,8 @@ MainWindow::MainWindow(QWidget *parent)
             &MainWindow::onCurrentModuleChanged);
     connect(m_ui->menuDecimal_Places, &QMenu::aboutToShow, this,
             &MainWindow::onDecimalPlacesMenuAboutToShow);
-    SoundStore::readSettings([this](QSettings &store) { m_profile.loadSettings(store); });
+    CheckedSettings::readSettings(m_profile.storedGroups(),
+                                  [this](QSettings &store) { m_profile.loadSettings(store); });
 
     onThemeChanged(Bright);
     applyWindowMode();
@@ -243,7 +246,7 @@ void MainWindow::addViews()
 
 void MainWindow::writeState()
 {
-    SoundStore::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
+    CheckedSettings::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
 }
 
 /// A sheet that is set again would style every widget of the window once more, to the same looks.

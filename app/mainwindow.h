@@ -9,7 +9,9 @@
 
 #include <memory>
 
+namespace Dezimo {
 class MainProfile;
+}
 
 namespace Ui {
 class MainWindow;
@@ -69,7 +71,7 @@ private:
     void updateModeButton(ApplicationTheme theme);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
-    MainProfile &m_profile;
+    Dezimo::MainProfile &m_profile;
     ApplicationTheme m_iconTheme = Bright; ///< of the list's icons, which come with the form
 };
 

@@ -7,6 +7,8 @@
 #include <functional>
 #include <utility>
 
+namespace Dezimo {
+
 /**
  * A value of a model that announces itself: setting it to what it is already does nothing, and
  * every real change emits the signal that the model has for it, once and after the change.
@@ -36,5 +38,7 @@ private:
     Value m_value;
     const std::function<void()> m_announce;
 };
+
+} // namespace Dezimo
 
 #endif

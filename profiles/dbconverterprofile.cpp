@@ -4,15 +4,15 @@
 #include "dbconverterprofile.h"
 
 #include "errortexts.h"
-#include "levels.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
+#include "units.h"
 #include "valuetext.h"
-
-#include <QSettings>
 
 #include <cmath>
 #include <optional>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -26,86 +26,57 @@ const StoredKeys &converterKeys()
     return rows;
 }
 
-enum class Unit { None, W, Dbm, Dbw };
-
-/// One operand as it was read: its value in watts (0 where it is no number) and the unit it was
-/// typed in, in which a derived partner is written.
-struct Operand
-{
-    Unit unit;
-    bool isNumber;
-    double watt;
-};
-
-/// Up to this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm, which
-/// is meant: only finishing the second operand tests for exact zero.
+/// Up to this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm: only
+/// finishing the second operand tests for exact zero.
 constexpr double kZeroTolerance = 1e-12;
+
+/// One operand as it was read. A derived partner is written in the same unit.
+struct ComparedOperand
+{
+    const Unit &unit;
+    bool isNumber;
+    /// 0 where it is no number.
+    double watt;
+
+    bool isPlain() const { return &unit == &Units::kNone; }
+};
 
 /// Looks for the unit words in the order dBW, W, dBm and removes them all; the last one found is
 /// the unit.
-Unit takeUnit(QString &text)
+const Unit &takeUnit(QString &text)
 {
-    struct Word
-    {
-        QLatin1String text;
-        Unit unit;
-    };
-    const Word words[] = {{QLatin1String("dBW"), Unit::Dbw},
-                          {QLatin1String("W"), Unit::W},
-                          {QLatin1String("dBm"), Unit::Dbm}};
-    Unit unit = Unit::None;
-    for (const Word &word : words) {
-        if (!text.contains(word.text))
+    const Unit *unit = &Units::kNone;
+    for (const Unit *word : {&Units::kDbw, &Units::kWatt, &Units::kDbm}) {
+        if (!text.contains(word->symbol))
             continue;
-        unit = word.unit;
-        text.remove(word.text);
+        unit = word;
+        text.remove(word->symbol);
     }
-    return unit;
+    return *unit;
 }
 
-double wattFrom(double value, Unit unit)
+/// Operands are compared in watts, and so is a plain number. Neither makes the detour over
+/// milliwatts, which would cost the last digit.
+bool isInWatts(const Unit &unit)
 {
-    switch (unit) {
-    case Unit::Dbm:
-        return Levels::wattFromMilliwatt(Levels::milliwattFromDbm(value));
-    case Unit::Dbw:
-        return Levels::wattFromMilliwatt(Levels::milliwattFromDbw(value));
-    case Unit::W:
-    case Unit::None:
-        break;
-    }
-    return value;
+    return &unit == &Units::kWatt || &unit == &Units::kNone;
 }
 
-Operand parseOperand(QString text)
+ComparedOperand readCompared(QString text)
 {
-    const Unit unit = takeUnit(text);
+    const Unit &unit = takeUnit(text);
     const std::optional<double> value = readPrefixedValue(text);
-    return {unit, value.has_value(), value ? wattFrom(*value, unit) : 0.0};
+    if (!value)
+        return {unit, false, 0.0};
+    return {unit, true, isInWatts(unit) ? *value : Levels::wattFromMilliwatt(unit.toBase(*value))};
 }
 
-QString operandText(double watt, Unit unit)
+bool isUnitMismatch(const ComparedOperand &first, const ComparedOperand &second)
 {
-    const double milliwatt = Levels::milliwattFromWatt(watt);
-    switch (unit) {
-    case Unit::W:
-        return generalText(watt) + QLatin1Char('W');
-    case Unit::Dbm:
-        return generalText(Levels::dbmFromMilliwatt(milliwatt)) + QLatin1String("dBm");
-    case Unit::Dbw:
-        return generalText(Levels::dbwFromMilliwatt(milliwatt)) + QLatin1String("dBW");
-    case Unit::None:
-        break;
-    }
-    return generalText(watt);
+    return first.isPlain() != second.isPlain();
 }
 
-bool isUnitMismatch(const Operand &first, const Operand &second)
-{
-    return (first.unit == Unit::None) != (second.unit == Unit::None);
-}
-
-/// What is no number counts as zero too, so that neither a ratio nor an operand is made of it.
+/// Neither a ratio nor an operand can be made of zero, nor of what is not a number.
 bool isZero(double value)
 {
     return !(std::abs(value) > kZeroTolerance);
@@ -131,20 +102,14 @@ const DbConverterProfile::Rule DbConverterProfile::kPowers = {
 const DbConverterProfile::Rule DbConverterProfile::kVoltages = {
     Levels::dbFromVoltageRatio, Levels::voltageRatioFromDb, 3, 4, 7, 8};
 
-DbConverterProfile::DbConverterProfile(QObject *parent) : Profile(parent) {}
-
 void DbConverterProfile::saveSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("DbConverterProfile"));
-    saveKeys(*this, settings, converterKeys());
-    settings.endGroup();
+    saveGroup(*this, settings, group(), converterKeys());
 }
 
 void DbConverterProfile::loadSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("DbConverterProfile"));
-    loadKeys(*this, settings, converterKeys());
-    settings.endGroup();
+    loadGroup(*this, settings, group(), converterKeys());
 }
 
 void DbConverterProfile::calculateFromP1()
@@ -199,19 +164,19 @@ void DbConverterProfile::Half::finishFirst()
 {
     if (first.get().isEmpty())
         return clearResults();
-    const Operand numerator = parseOperand(first.get());
+    const ComparedOperand numerator = readCompared(first.get());
     if (!numerator.isNumber)
-        return first.set(ErrorText::invalidInput());
+        return first.set(ErrorText::kInvalidInput);
     if (second.get().isEmpty()) {
         if (const std::optional<double> known = readPrefixedValue(ratio.get()))
             deriveSecond(*known);
         return;
     }
-    const Operand denominator = parseOperand(second.get());
+    const ComparedOperand denominator = readCompared(second.get());
     if (isZero(denominator.watt))
-        return clearResults(ErrorText::notANumber());
+        return clearResults(ErrorText::kNotANumber);
     if (isUnitMismatch(numerator, denominator))
-        return first.set(ErrorText::unitMismatch());
+        return first.set(ErrorText::kUnitMismatch);
     showRatio(numerator.watt / denominator.watt);
 }
 
@@ -219,19 +184,19 @@ void DbConverterProfile::Half::finishSecond()
 {
     if (second.get().isEmpty())
         return clearResults();
-    const Operand denominator = parseOperand(second.get());
+    const ComparedOperand denominator = readCompared(second.get());
     if (!denominator.isNumber)
-        return second.set(ErrorText::invalidInput());
+        return second.set(ErrorText::kInvalidInput);
     if (denominator.watt == 0.0)
-        return clearResults(ErrorText::notANumber());
+        return clearResults(ErrorText::kNotANumber);
     if (first.get().isEmpty()) {
         if (const std::optional<double> known = readPrefixedValue(ratio.get()))
             deriveFirst(*known);
         return;
     }
-    const Operand numerator = parseOperand(first.get());
+    const ComparedOperand numerator = readCompared(first.get());
     if (isUnitMismatch(numerator, denominator))
-        return second.set(ErrorText::unitMismatch());
+        return second.set(ErrorText::kUnitMismatch);
     showRatio(numerator.watt / denominator.watt);
 }
 
@@ -241,7 +206,7 @@ void DbConverterProfile::Half::finishRatio()
         return db.set(QString());
     const std::optional<double> linear = readPrefixedValue(ratio.get());
     if (!linear)
-        return db.set(ErrorText::invalidInput());
+        return db.set(ErrorText::kInvalidInput);
     showDbOf(*linear);
     deriveMissingOperand(*linear);
 }
@@ -252,15 +217,21 @@ void DbConverterProfile::Half::finishDb()
         return ratio.set(QString());
     const std::optional<double> decibels = readPrefixedValue(db.get());
     if (!decibels)
-        return ratio.set(ErrorText::invalid());
+        return ratio.set(ErrorText::kInvalid);
     const double linear = rule.ratioFromDb(*decibels);
-    ratio.set(generalText(linear));
+    ratio.set(generalText(linear, model.significantDigits()));
     deriveMissingOperand(linear);
+}
+
+QString DbConverterProfile::Half::operandText(double watt, const Unit &unit) const
+{
+    const double value = isInWatts(unit) ? watt : unit.fromBase(Levels::milliwattFromWatt(watt));
+    return generalText(value, model.significantDigits()) + unit.symbol;
 }
 
 void DbConverterProfile::Half::showRatio(double linear)
 {
-    ratio.set(generalText(linear));
+    ratio.set(generalText(linear, model.significantDigits()));
     showDbOf(linear);
 }
 
@@ -279,14 +250,14 @@ void DbConverterProfile::Half::clearResults(const QString &ratioText)
 /// The present operand's unit is the derived one's as well.
 void DbConverterProfile::Half::deriveFirst(double linear)
 {
-    const Operand denominator = parseOperand(second.get());
+    const ComparedOperand denominator = readCompared(second.get());
     if (denominator.isNumber)
         first.set(operandText(linear * denominator.watt, denominator.unit));
 }
 
 void DbConverterProfile::Half::deriveSecond(double linear)
 {
-    const Operand numerator = parseOperand(first.get());
+    const ComparedOperand numerator = readCompared(first.get());
     if (numerator.isNumber && !isZero(linear))
         second.set(operandText(numerator.watt / linear, numerator.unit));
 }

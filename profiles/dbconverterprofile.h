@@ -5,9 +5,13 @@
 #define PROFILES_DBCONVERTERPROFILE_H
 
 #include "announced.h"
-#include "profile.h"
+#include "moduleprofile.h"
 
 #include <QString>
+
+namespace Dezimo {
+
+struct Unit;
 
 /**
  * The dB converter: two operands, their ratio and the ratio in dB, once for powers (P1, P2) and
@@ -20,7 +24,7 @@
  * The latest-run codes keep a field that is left again without typing from being calculated twice:
  * a calculation that finds its own code does nothing, and typing sets the code to 0.
  */
-class DbConverterProfile final : public Profile
+class DbConverterProfile final : public ModuleProfile
 {
     Q_OBJECT
     Q_PROPERTY(QString p1 READ p1 WRITE setP1 NOTIFY p1Changed)
@@ -36,7 +40,7 @@ class DbConverterProfile final : public Profile
     Q_PROPERTY(int vLatestRun READ vLatestRun WRITE setVLatestRun NOTIFY vLatestRunChanged)
 
 public:
-    explicit DbConverterProfile(QObject *parent = nullptr);
+    using ModuleProfile::ModuleProfile;
 
     QString p1() const { return m_powers.first.get(); }
     QString p2() const { return m_powers.second.get(); }
@@ -101,6 +105,8 @@ private:
         Announced<QString> db;
         Announced<int> latestRun;
         const Rule &rule;
+        /// Whose digits the results have.
+        const ModuleProfile &model;
 
         void run(void (Half::*finish)(), int guard, int code);
         void finishFirst();
@@ -109,6 +115,7 @@ private:
         void finishDb();
 
     private:
+        QString operandText(double watt, const Unit &unit) const;
         void showRatio(double linear);
         void showDbOf(double linear);
         void clearResults(const QString &ratioText = {});
@@ -121,13 +128,23 @@ private:
     static const Rule kVoltages;
 
     using Self = DbConverterProfile;
-    Half m_powers{{this, &Self::p1Changed},         {this, &Self::p2Changed},
-                  {this, &Self::pRatioChanged},     {this, &Self::pDbChanged},
-                  {this, &Self::pLatestRunChanged}, kPowers};
-    Half m_voltages{{this, &Self::v1Changed},         {this, &Self::v2Changed},
-                    {this, &Self::vRatioChanged},     {this, &Self::vDbChanged},
-                    {this, &Self::vLatestRunChanged}, kVoltages};
+    Half m_powers{{this, &Self::p1Changed},
+                  {this, &Self::p2Changed},
+                  {this, &Self::pRatioChanged},
+                  {this, &Self::pDbChanged},
+                  {this, &Self::pLatestRunChanged},
+                  kPowers,
+                  *this};
+    Half m_voltages{{this, &Self::v1Changed},
+                    {this, &Self::v2Changed},
+                    {this, &Self::vRatioChanged},
+                    {this, &Self::vDbChanged},
+                    {this, &Self::vLatestRunChanged},
+                    kVoltages,
+                    *this};
     Announced<int> m_currentMode{this, &Self::currentModeChanged};
 };
+
+} // namespace Dezimo
 
 #endif

@@ -3,25 +3,31 @@
 
 #include "dbmcalculatorprofile.h"
 
+#include "calculatortable.h"
 #include "errortexts.h"
-#include "levels.h"
 #include "powersteps.h"
 #include "valuetext.h"
 
-namespace {
+using namespace Dezimo;
+using namespace Dezimo::PowerUnit;
 
-using namespace PowerUnit;
+namespace {
 
 /// The modes, as the indexes of the mode selector. The coherent one adds in phase, that is as the
 /// numeric one does.
 enum Mode { IncoherentPowers, CoherentPowers, NumericCalculation };
 
+/// In the order of PowerUnit, as far as a power can be shown in them.
+constexpr const Unit *kPowerUnits[] = {&Units::kDbm, &Units::kMilliwatt, &Units::kWatt,
+                                       &Units::kMicrowatt, &Units::kDbw};
+
+constexpr int kStepDigits = 12;
+
 const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
-        QStringLiteral("DbmCalculatorProfile"),
         {{"input", QString()},
-         {"output", ErrorText::noResult()},
+         {"output", QString(ErrorText::kNoResult)},
          {"outputUnit", Dbm, upTo(None)},
          {"mode", IncoherentPowers, upTo(NumericCalculation)}},
         {{"DbmValid", Dbm},
@@ -31,14 +37,14 @@ const CalculatorTable &calculatorTable()
          {"MwValid", Mw},
          {"UwValid", Uw},
          {"NoneValid", None}},
-        {{Dbm, QStringLiteral("dBm")},
-         {Dbw, QStringLiteral("dBW")},
-         {Db, QStringLiteral("dB"), true},
-         {Mw, QStringLiteral("mW")},
-         {Uw, QStringLiteral("\u00B5W")},
-         {W, QStringLiteral("W")},
-         {None, QString(), true}},
-        12,
+        {{Dbm, &Units::kDbm},
+         {Dbw, &Units::kDbw},
+         {Db, &Units::kDb, true},
+         {Mw, &Units::kMilliwatt},
+         {Uw, &Units::kMicrowatt},
+         {W, &Units::kWatt},
+         {None, &Units::kNone, true}},
+        kStepDigits,
     };
     return table;
 }
@@ -50,20 +56,7 @@ bool isLevelUnit(int unit)
 
 bool isPowerUnit(int unit)
 {
-    return isLevelUnit(unit) || unit == Mw || unit == W || unit == Uw;
-}
-
-/// @p level is in dBm and ignored unless @p unit is a level's.
-QString powerText(double level, double milliwatt, int unit)
-{
-    switch (unit) {
-    case Dbm:
-        return fixedText(level);
-    case Dbw:
-        return fixedText(Levels::dbwFromDbm(level));
-    default:
-        return generalText(powerIn(unit, milliwatt));
-    }
+    return unit >= Dbm && unit <= Dbw;
 }
 
 } // namespace
@@ -79,21 +72,17 @@ std::unique_ptr<StepRule> DbmCalculatorProfile::newStepRule() const
 
 ExpressionProfile::Shown DbmCalculatorProfile::shown(const Operand &result) const
 {
-    switch (result.unit) {
-    case Db:
+    if (result.unit == &Units::kDb)
         return {fixedText(result.value), Db, unitsBeside(Db)};
-    case None:
-        return {generalText(result.value), None, unitsBeside(None)};
-    default:
-        return shownPower(result);
-    }
+    if (result.unit == &Units::kNone)
+        return {generalText(result.value, significantDigits()), None, unitsBeside(None)};
+    return shownPower(result);
 }
 
 ExpressionProfile::Shown DbmCalculatorProfile::shownPower(const Operand &power) const
 {
-    const double milliwatt = milliwattFrom(power);
-    const bool isLevel = isLevelUnit(power.unit);
-    const bool hasLevel = isLevel || milliwatt > 0.0;
+    const bool isLevel = power.unit == &Units::kDbm || power.unit == &Units::kDbw;
+    const bool hasLevel = isLevel || power.inBaseUnit() > 0.0;
 
     int unit = outputUnit();
     if (!isPowerUnit(unit))
@@ -104,5 +93,18 @@ ExpressionProfile::Shown DbmCalculatorProfile::shownPower(const Operand &power) 
     QMap<int, bool> offered = unitsBeside(unit);
     offered[Dbm] = hasLevel;
     offered[Dbw] = hasLevel;
-    return {powerText(levelFrom(power), milliwatt, unit), unit, offered};
+    return {powerText(power, unit), unit, offered};
+}
+
+/// A level keeps to decibels on its way to another one, so that it arrives unchanged.
+QString DbmCalculatorProfile::powerText(const Operand &power, int unit) const
+{
+    switch (unit) {
+    case Dbm:
+        return fixedText(levelFrom(power));
+    case Dbw:
+        return fixedText(Levels::dbwFromDbm(levelFrom(power)));
+    default:
+        return generalText(kPowerUnits[unit]->fromBase(power.inBaseUnit()), significantDigits());
+    }
 }

@@ -6,6 +6,15 @@
 
 #include "expressionprofile.h"
 
+namespace Dezimo {
+
+/// The units of the dBm calculator, as the indexes of its unit selector.
+namespace PowerUnit {
+
+enum Index { Dbm, Mw, W, Uw, Dbw, Db, None };
+
+} // namespace PowerUnit
+
 /**
  * The dBm calculator: sums and differences of power levels (dBm, dBW), powers (W, mW, µW), ratios
  * (dB) and plain numbers. Powers are combined in mW, levels with ratios in dB.
@@ -26,6 +35,9 @@ protected:
 
 private:
     Shown shownPower(const Operand &power) const;
+    QString powerText(const Operand &power, int unit) const;
 };
+
+} // namespace Dezimo
 
 #endif

@@ -4,6 +4,7 @@
 #include "expressionprofile.h"
 
 #include "bracketgroups.h"
+#include "calculatortable.h"
 #include "errortexts.h"
 #include "expressiontext.h"
 #include "operatorchain.h"
@@ -12,11 +13,13 @@
 
 #include <algorithm>
 
+using namespace Dezimo;
+
 namespace {
 
 bool isErrorText(const QString &result)
 {
-    return result == ErrorText::invalidInput() || result == ErrorText::unitMissing();
+    return result == ErrorText::kInvalidInput || result == ErrorText::kUnitMissing;
 }
 
 QMap<int, bool> allOf(const ExpressionUnits &units)
@@ -30,9 +33,9 @@ QMap<int, bool> allOf(const ExpressionUnits &units)
 } // namespace
 
 ExpressionProfile::ExpressionProfile(const CalculatorTable &table, QObject *parent)
-    : Profile(parent),
+    : ModuleProfile(parent),
       m_table(table),
-      m_output(this, &Self::outputChanged, ErrorText::noResult()),
+      m_output(this, &Self::outputChanged, ErrorText::kNoResult),
       m_validUnits(this, &Self::validUnitsChanged, allOf(table.units))
 {}
 
@@ -43,23 +46,22 @@ int ExpressionProfile::plainUnit() const
 
 QString ExpressionProfile::unitText(int unit) const
 {
-    return ::unitText(m_table.units, unit);
+    for (const ExpressionUnit &row : m_table.units) {
+        if (row.index == unit)
+            return row.unit->symbol;
+    }
+    return {};
 }
 
 QString ExpressionProfile::evaluate(const QString &text)
 {
-    const OperatorChain chain(text, m_table.units, m_table.stepDigits);
-    if (chain.isEmpty()) {
-        setOutput(ErrorText::invalidInput());
-        return ErrorText::invalidInput();
-    }
-    return chain.result(*newStepRule());
+    return evaluated(text).text;
 }
 
 void ExpressionProfile::saveSettings(QSettings &settings)
 {
-    settings.beginGroup(m_table.group);
-    saveKeys(*this, settings, m_table.keys);
+    saveGroup(*this, settings, group(), m_table.keys);
+    settings.beginGroup(group());
     for (const ValidityKey &row : m_table.validityKeys)
         settings.setValue(QLatin1String(row.key), m_validUnits.get().value(row.unit));
     settings.endGroup();
@@ -67,8 +69,8 @@ void ExpressionProfile::saveSettings(QSettings &settings)
 
 void ExpressionProfile::loadSettings(QSettings &settings)
 {
-    settings.beginGroup(m_table.group);
-    loadKeys(*this, settings, m_table.keys);
+    loadGroup(*this, settings, group(), m_table.keys);
+    settings.beginGroup(group());
     QMap<int, bool> validUnits;
     for (const ValidityKey &row : m_table.validityKeys)
         validUnits.insert(row.unit, storedValue(settings, row.key, true).toBool());
@@ -80,11 +82,11 @@ void ExpressionProfile::calculate()
 {
     const BracketedResult result =
         evaluateBracketed(ExpressionText::cleaned(m_input.get()),
-                          [this](const QString &text) { return evaluate(text); });
+                          [this](const QString &text) { return evaluated(text); });
     if (result.isDefect)
-        setOutput(result.text);
+        setOutput(result.evaluation.text);
     else
-        publish(result.text);
+        publish(result.evaluation);
 }
 
 QMap<int, bool> ExpressionProfile::unitsBeside(int unit) const
@@ -99,13 +101,23 @@ QMap<int, bool> ExpressionProfile::unitsBeside(int unit) const
     return offered;
 }
 
-/// A lone value from a group around the whole text is first read here, and may be no number.
-void ExpressionProfile::publish(const QString &result)
+Evaluation ExpressionProfile::evaluated(const QString &text)
 {
-    if (isErrorText(result))
-        return show(shownError(result));
-    const std::optional<Operand> number = parseOperand(result, m_table.units);
-    show(number ? shown(*number) : shownError(ErrorText::invalidInput()));
+    const OperatorChain chain(text, m_table.units, m_table.stepDigits);
+    if (!chain.isEmpty())
+        return chain.result(*newStepRule());
+    setOutput(ErrorText::kInvalidInput);
+    return {ErrorText::kInvalidInput};
+}
+
+/// A lone value from a group around the whole text is first read here, and may be no number.
+void ExpressionProfile::publish(const Evaluation &result)
+{
+    if (isErrorText(result.text))
+        return show(shownError(result.text));
+    const std::optional<Operand> number =
+        result.number ? result.number : parseOperand(result.text, m_table.units);
+    show(number ? shown(*number) : shownError(ErrorText::kInvalidInput));
 }
 
 /// An error text keeps the output unit and offers what goes with it.

@@ -5,36 +5,19 @@
 #define PROFILES_EXPRESSIONPROFILE_H
 
 #include "announced.h"
-#include "operand.h"
-#include "profile.h"
-#include "storedkeys.h"
+#include "moduleprofile.h"
 
 #include <QMap>
 #include <QString>
 
 #include <memory>
-#include <vector>
+
+namespace Dezimo {
 
 class StepRule;
-
-/// Where one entry of the valid units is stored.
-struct ValidityKey
-{
-    const char *key;
-    int unit;
-};
-
-/// What a calculator is, as far as data can say it.
-struct CalculatorTable
-{
-    QString group;
-    StoredKeys keys;
-    /// Written after the keys, in this order.
-    std::vector<ValidityKey> validityKeys;
-    ExpressionUnits units;
-    /// Significant digits that a step of an evaluation keeps.
-    int stepDigits;
-};
+struct CalculatorTable;
+struct Evaluation;
+struct Operand;
 
 /**
  * An expression calculator: evaluates the typed text, shows the result in the chosen unit, and
@@ -44,7 +27,7 @@ struct CalculatorTable
  * Bad input becomes an error text in output. A calculator adds its units and modes, how a step
  * combines two operands, and how a result is converted.
  */
-class ExpressionProfile : public Profile
+class ExpressionProfile : public ModuleProfile
 {
     Q_OBJECT
     Q_PROPERTY(QString input READ input WRITE setInput NOTIFY inputChanged)
@@ -116,7 +99,8 @@ protected:
     QMap<int, bool> unitsBeside(int unit) const;
 
 private:
-    void publish(const QString &result);
+    Evaluation evaluated(const QString &text);
+    void publish(const Evaluation &result);
     Shown shownError(const QString &errorText) const;
     void show(const Shown &result);
 
@@ -128,5 +112,7 @@ private:
     Announced<int> m_mode{this, &Self::modeChanged};
     Announced<QMap<int, bool>> m_validUnits;
 };
+
+} // namespace Dezimo
 
 #endif

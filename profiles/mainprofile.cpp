@@ -5,9 +5,9 @@
 
 #include "storedkeys.h"
 
-#include <QSettings>
-
 #include <limits>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -39,31 +39,43 @@ MainProfile &MainProfile::instance()
     return profile;
 }
 
-std::vector<Profile *> MainProfile::modules()
+std::vector<ModuleProfile *> MainProfile::modules()
 {
     return {&m_dbmCalculator, &m_voltageCalculator, &m_dbConverter, &m_unitConverter,
             &m_vswrConverter};
 }
 
+QByteArrayList MainProfile::storedGroups()
+{
+    QByteArrayList groups{group().toLatin1()};
+    for (const ModuleProfile *module : modules())
+        groups += module->group().toLatin1();
+    return groups;
+}
+
+/// The models are told before anybody hears of it, so that whoever calculates then has the digits.
+void MainProfile::setDecimalPlaces(int places)
+{
+    for (ModuleProfile *module : modules())
+        module->setSignificantDigits(places);
+    m_decimalPlaces.set(places);
+}
+
 void MainProfile::saveSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("MainProfile"));
-    saveKeys(*this, settings, windowKeys());
-    settings.endGroup();
-    for (Profile *module : modules())
+    saveGroup(*this, settings, group(), windowKeys());
+    for (ModuleProfile *module : modules())
         module->saveSettings(settings);
 }
 
 void MainProfile::loadSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("MainProfile"));
-    loadKeys(*this, settings, windowKeys());
-    settings.endGroup();
+    loadGroup(*this, settings, group(), windowKeys());
     loadModuleSettings(settings);
 }
 
 void MainProfile::loadModuleSettings(QSettings &settings)
 {
-    for (Profile *module : modules())
+    for (ModuleProfile *module : modules())
         module->loadSettings(settings);
 }

@@ -7,15 +7,17 @@
 #include "announced.h"
 #include "dbconverterprofile.h"
 #include "dbmcalculatorprofile.h"
-#include "profile.h"
 #include "unitconverterprofile.h"
 #include "voltagecalculatorprofile.h"
 #include "vswrconverterprofile.h"
 
+#include <QByteArrayList>
 #include <QPoint>
 #include <QSize>
 
 #include <vector>
+
+namespace Dezimo {
 
 /**
  * The one root model: the state of the main window, the number of digits of all value texts, and
@@ -35,7 +37,7 @@ class MainProfile final : public Profile
         int decimalPlaces READ decimalPlaces WRITE setDecimalPlaces NOTIFY decimalPlacesChanged)
 
 public:
-    static constexpr int kDefaultDecimalPlaces = 3;
+    static constexpr int kDefaultDecimalPlaces = ModuleProfile::kDefaultSignificantDigits;
     static constexpr int kMaximumDecimalPlaces = 10;
     /// In pixels. It is more than screens have, and little enough for a window to be painted.
     static constexpr int kLargestWindowSide = 16384;
@@ -62,7 +64,7 @@ public:
     void setWindowSize(const QSize &size) { m_windowSize.set(size); }
     void setWindowMode(int mode) { m_windowMode.set(mode); }
     void setCurrentModule(int module) { m_currentModule.set(module); }
-    void setDecimalPlaces(int places) { m_decimalPlaces.set(places); }
+    void setDecimalPlaces(int places);
 
     DbmCalculatorProfile &dbmCalculator() { return m_dbmCalculator; }
     VoltageCalculatorProfile &voltageCalculator() { return m_voltageCalculator; }
@@ -71,7 +73,9 @@ public:
     VswrConverterProfile &vswrConverter() { return m_vswrConverter; }
 
     /// The module profiles in the order in which they are saved and loaded.
-    std::vector<Profile *> modules();
+    std::vector<ModuleProfile *> modules();
+    /// The names of all groups that saveSettings() writes.
+    QByteArrayList storedGroups();
 
     /// Writes the window group and then every module's group.
     void saveSettings(QSettings &settings) override;
@@ -101,5 +105,7 @@ private:
     UnitConverterProfile m_unitConverter;
     VswrConverterProfile m_vswrConverter;
 };
+
+} // namespace Dezimo
 
 #endif

@@ -3,4 +3,9 @@
 
 #include "profile.h"
 
-Profile::Profile(QObject *parent) : QObject(parent) {}
+using namespace Dezimo;
+
+QString Profile::group() const
+{
+    return QString::fromLatin1(metaObject()->className()).section(QLatin1String("::"), -1);
+}

@@ -8,6 +8,8 @@
 
 class QSettings;
 
+namespace Dezimo {
+
 /**
  * Base of every model. A profile holds the values of one concern as the texts a person sees,
  * announces each real change by a signal without arguments, and keeps its values in a group of its
@@ -18,7 +20,10 @@ class Profile : public QObject
     Q_OBJECT
 
 public:
-    explicit Profile(QObject *parent = nullptr);
+    explicit Profile(QObject *parent = nullptr) : QObject(parent) {}
+
+    /// The name of the profile's group in a store: that of its class, without the namespace.
+    QString group() const;
 
     /// Writes the profile's group into @p settings.
     virtual void saveSettings(QSettings &settings) = 0;
@@ -26,5 +31,7 @@ public:
     /// malformed takes its default.
     virtual void loadSettings(QSettings &settings) = 0;
 };
+
+} // namespace Dezimo
 
 #endif

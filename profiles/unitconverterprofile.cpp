@@ -4,17 +4,16 @@
 #include "unitconverterprofile.h"
 
 #include "errortexts.h"
-#include "levels.h"
 #include "pi.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
-#include "unittable.h"
+#include "units.h"
 #include "valuetext.h"
-
-#include <QSettings>
 
 #include <algorithm>
 #include <iterator>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -24,37 +23,36 @@ constexpr double kPeakToPeakPerRms = 2.82842714;
 /// Average of a rectified sine of 1 V RMS.
 constexpr double kAveragePerRms = kPeakToPeakPerRms / kPi;
 
-constexpr UnitConversion kPeakToPeak = {[](double vpp) { return vpp / kPeakToPeakPerRms; },
-                                        [](double rms) {
-                                            return rms * kPeakToPeakPerRms;
-                                        }};
-constexpr UnitConversion kAverage = {[](double vavg) { return vavg / kAveragePerRms; },
-                                     [](double rms) {
-                                         return rms * kAveragePerRms;
-                                     }};
+/// The voltage modes are units of a sine: of its peak-to-peak and of its average value.
+constexpr Unit kPeakToPeak{QLatin1String("Vpp"), [](double vpp) { return vpp / kPeakToPeakPerRms; },
+                           [](double rms) {
+                               return rms * kPeakToPeakPerRms;
+                           }};
+constexpr Unit kAverage{QLatin1String("Vavg"), [](double vavg) { return vavg / kAveragePerRms; },
+                        [](double rms) {
+                            return rms * kAveragePerRms;
+                        }};
 /// A voltage level in an unknown unit is 0, whatever the voltage.
-constexpr UnitConversion kNoUnit = {[](double) { return 0.0; },
-                                    [](double) {
-                                        return 0.0;
-                                    }};
+constexpr Unit kNoUnit{QLatin1String(""), [](double) { return 0.0; },
+                       [](double) {
+                           return 0.0;
+                       }};
 
-constexpr UnitConversion kLogPowerRows[] = {Units::kDbm, Units::kDbw};
-constexpr UnitConversion kLinPowerRows[] = {Units::kBase, Units::kWatt};
-constexpr UnitConversion kLogVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kDbu};
-constexpr UnitConversion kLinVoltageRows[] = {Units::kBase, Units::kVolt};
-constexpr UnitConversion kVoltageModeRows[] = {Units::kBase, kPeakToPeak, kAverage};
+constexpr Unit kLogPowerRows[] = {Units::kDbm, Units::kDbw};
+constexpr Unit kLinPowerRows[] = {Units::kMilliwatt, Units::kWatt};
+constexpr Unit kLogVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kDbu};
+constexpr Unit kLinVoltageRows[] = {Units::kMillivolt, Units::kVolt};
+constexpr Unit kVoltageModeRows[] = {Units::kMillivolt, kPeakToPeak, kAverage};
 
-constexpr UnitTable kLogPowerUnits(kLogPowerRows, Units::kDbm);
-constexpr UnitTable kLinPowerUnits(kLinPowerRows, Units::kBase);
-constexpr UnitTable kLogVoltageUnits(kLogVoltageRows, kNoUnit);
-constexpr UnitTable kLinVoltageUnits(kLinVoltageRows, Units::kBase);
+constexpr UnitSelector kLogPowerUnits(kLogPowerRows, Units::kDbm);
+constexpr UnitSelector kLinPowerUnits(kLinPowerRows, Units::kMilliwatt);
+constexpr UnitSelector kLogVoltageUnits(kLogVoltageRows, kNoUnit);
+constexpr UnitSelector kLinVoltageUnits(kLinVoltageRows, Units::kMillivolt);
 /// What a voltage field shows, from and to mV RMS.
-constexpr UnitTable kVoltageModes(kVoltageModeRows, Units::kBase);
+constexpr UnitSelector kVoltageModes(kVoltageModeRows, Units::kMillivolt);
 
-/// Indices of the units that the rescaling asks for.
-constexpr int kDbw = 1;
-constexpr int kWatt = 1;
-constexpr int kVolt = 1;
+/// The larger one of two units: dBW, W or V.
+constexpr int kLargerUnit = 1;
 
 const StoredKeys &converterKeys()
 {
@@ -84,34 +82,28 @@ bool isNonFiniteWord(const QString &text)
 
 } // namespace
 
+/// A level may be negative and always has two decimals, unlike a linear value.
 struct UnitConverterProfile::Rule
 {
-    const UnitTable &units;
-    QString (*format)(double);
-    bool mayBeNegative;
+    const UnitSelector &units;
+    bool isLevel;
 };
 
 using Self = UnitConverterProfile;
 
-const Self::Rule Self::kLogPower = {kLogPowerUnits, fixedText, true};
-const Self::Rule Self::kLinPower = {kLinPowerUnits, generalText, false};
-const Self::Rule Self::kLogVoltage = {kLogVoltageUnits, fixedText, true};
-const Self::Rule Self::kLinVoltage = {kLinVoltageUnits, generalText, false};
-
-UnitConverterProfile::UnitConverterProfile(QObject *parent) : Profile(parent) {}
+const Self::Rule Self::kLogPower = {kLogPowerUnits, true};
+const Self::Rule Self::kLinPower = {kLinPowerUnits, false};
+const Self::Rule Self::kLogVoltage = {kLogVoltageUnits, true};
+const Self::Rule Self::kLinVoltage = {kLinVoltageUnits, false};
 
 void UnitConverterProfile::saveSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("UnitConverterProfile"));
-    saveKeys(*this, settings, converterKeys());
-    settings.endGroup();
+    saveGroup(*this, settings, group(), converterKeys());
 }
 
 void UnitConverterProfile::loadSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("UnitConverterProfile"));
-    loadKeys(*this, settings, converterKeys());
-    settings.endGroup();
+    loadGroup(*this, settings, group(), converterKeys());
 }
 
 void UnitConverterProfile::calculateFromLinPower()
@@ -119,7 +111,7 @@ void UnitConverterProfile::calculateFromLinPower()
     const std::optional<double> milliwatt = readEdited(m_linPower);
     if (!milliwatt)
         return;
-    m_logPower.showValue(*milliwatt);
+    m_logPower.showBaseValue(*milliwatt);
     showVoltagesOf(*milliwatt);
     clearNonFiniteResults(m_linPower);
 }
@@ -132,7 +124,7 @@ void UnitConverterProfile::calculateFromLinVoltage()
     const double rms = kVoltageModes.at(voltageMode()).toBase(*millivolt);
     showPowersOf(rms);
     // The level is that of the RMS value in every mode, unlike the level that a power gives.
-    m_logVoltage.showValue(rms);
+    m_logVoltage.showBaseValue(rms);
     clearNonFiniteResults(m_linVoltage);
 }
 
@@ -141,7 +133,7 @@ void UnitConverterProfile::calculateFromLogPower()
     const std::optional<double> milliwatt = readEdited(m_logPower);
     if (!milliwatt)
         return;
-    m_linPower.showValue(*milliwatt);
+    m_linPower.showBaseValue(*milliwatt);
     showVoltagesOf(*milliwatt);
     clearNonFiniteResults(m_logPower);
 }
@@ -151,32 +143,32 @@ void UnitConverterProfile::calculateFromLogVoltage()
     const std::optional<double> millivolt = readEdited(m_logVoltage);
     if (!millivolt)
         return;
-    m_linVoltage.showValue(*millivolt);
+    m_linVoltage.showBaseValue(*millivolt);
     showPowersOf(kVoltageModes.at(voltageMode()).toBase(*millivolt));
     clearNonFiniteResults(m_logVoltage);
 }
 
 void UnitConverterProfile::rescaleLinPower()
 {
-    m_linPower.rescale(linPowerUnit() == kWatt ? Levels::wattFromMilliwatt
-                                               : Levels::milliwattFromWatt);
+    m_linPower.rescale(linPowerUnit() == kLargerUnit ? Levels::wattFromMilliwatt
+                                                     : Levels::milliwattFromWatt);
 }
 
 void UnitConverterProfile::rescaleLinVoltage()
 {
-    m_linVoltage.rescale(linVoltageUnit() == kVolt ? Levels::voltFromMillivolt
-                                                   : Levels::millivoltFromVolt);
+    m_linVoltage.rescale(linVoltageUnit() == kLargerUnit ? Levels::voltFromMillivolt
+                                                         : Levels::millivoltFromVolt);
 }
 
 void UnitConverterProfile::rescaleLogPower()
 {
-    m_logPower.rescale(logPowerUnit() == kDbw ? Levels::dbwFromDbm : Levels::dbmFromDbw);
+    m_logPower.rescale(logPowerUnit() == kLargerUnit ? Levels::dbwFromDbm : Levels::dbmFromDbw);
 }
 
 void UnitConverterProfile::rescaleLogVoltage()
 {
-    const UnitConversion &before = kLogVoltageUnits.at(m_logVoltage.textUnit);
-    const UnitConversion &now = kLogVoltageUnits.at(logVoltageUnit());
+    const Unit &before = kLogVoltageUnits.at(m_logVoltage.textUnit);
+    const Unit &now = kLogVoltageUnits.at(logVoltageUnit());
     m_logVoltage.rescale([&](double level) { return now.fromBase(before.toBase(level)); });
 }
 
@@ -192,10 +184,15 @@ void UnitConverterProfile::Field::show(const QString &newText)
     text.set(newText);
 }
 
-/// @p baseValue is in mW or mV.
-void UnitConverterProfile::Field::showValue(double baseValue)
+void UnitConverterProfile::Field::showValue(double value)
 {
-    show(rule.format(rule.units.at(unit.get()).fromBase(baseValue)));
+    show(rule.isLevel ? fixedText(value) : generalText(value, model.significantDigits()));
+}
+
+/// @p baseValue is in mW or mV.
+void UnitConverterProfile::Field::showBaseValue(double baseValue)
+{
+    showValue(rule.units.at(unit.get()).fromBase(baseValue));
 }
 
 void UnitConverterProfile::Field::clearNonFinite()
@@ -211,7 +208,7 @@ void UnitConverterProfile::Field::rescale(const std::function<double(double)> &t
     const std::optional<double> value = readPrefixedValue(text.get());
     if (!value)
         return;
-    show(rule.format(toNewUnit(*value)));
+    showValue(toNewUnit(*value));
     clearNonFinite();
 }
 
@@ -222,7 +219,7 @@ std::optional<double> UnitConverterProfile::readEdited(Field &edited)
     if (edited.text.get().isEmpty())
         return std::nullopt;
     const std::optional<double> value = readPrefixedValue(edited.text.get());
-    if (!value || (*value < 0.0 && !edited.rule.mayBeNegative)) {
+    if (!value || (*value < 0.0 && !edited.rule.isLevel)) {
         reject(edited);
         return std::nullopt;
     }
@@ -231,7 +228,7 @@ std::optional<double> UnitConverterProfile::readEdited(Field &edited)
 
 void UnitConverterProfile::reject(Field &edited)
 {
-    edited.show(ErrorText::invalidInput());
+    edited.show(ErrorText::kInvalidInput);
     for (Field *field : {&m_linPower, &m_logPower, &m_linVoltage, &m_logVoltage}) {
         if (field != &edited)
             field->show(QString());
@@ -244,15 +241,15 @@ void UnitConverterProfile::showVoltagesOf(double milliwatt)
 {
     const double rms = Levels::millivoltFromMilliwatt(milliwatt, readImpedance());
     const double millivolt = kVoltageModes.at(voltageMode()).fromBase(rms);
-    m_linVoltage.showValue(millivolt);
-    m_logVoltage.showValue(millivolt);
+    m_linVoltage.showBaseValue(millivolt);
+    m_logVoltage.showBaseValue(millivolt);
 }
 
 void UnitConverterProfile::showPowersOf(double millivoltRms)
 {
     const double milliwatt = Levels::milliwattFromMillivolt(millivoltRms, readImpedance());
-    m_linPower.showValue(milliwatt);
-    m_logPower.showValue(milliwatt);
+    m_linPower.showBaseValue(milliwatt);
+    m_logPower.showBaseValue(milliwatt);
 }
 
 /// A linear power that was typed stays as it is, even if it reads INF.
@@ -273,6 +270,6 @@ double UnitConverterProfile::readImpedance()
     bool ok = false;
     const double ohm = parsePrefixedValue(text, &ok);
     if (!ok)
-        setImpedance(ErrorText::invalid());
+        setImpedance(ErrorText::kInvalid);
     return ohm;
 }

@@ -5,12 +5,14 @@
 #define PROFILES_UNITCONVERTERPROFILE_H
 
 #include "announced.h"
-#include "profile.h"
+#include "moduleprofile.h"
 
 #include <QString>
 
 #include <functional>
 #include <optional>
+
+namespace Dezimo {
 
 /**
  * The unit converter: one signal at a load impedance as power level, power, voltage and voltage
@@ -22,7 +24,7 @@
  * "invalid input" and empties the others, an impedance that does not parse reads "invalid", and
  * results that are infinite or no number are not shown.
  */
-class UnitConverterProfile final : public Profile
+class UnitConverterProfile final : public ModuleProfile
 {
     Q_OBJECT
     Q_PROPERTY(QString logPower READ logPower WRITE setLogPower NOTIFY logPowerChanged)
@@ -39,7 +41,7 @@ class UnitConverterProfile final : public Profile
     Q_PROPERTY(int voltageMode READ voltageMode WRITE setVoltageMode NOTIFY voltageModeChanged)
 
 public:
-    explicit UnitConverterProfile(QObject *parent = nullptr);
+    using ModuleProfile::ModuleProfile;
 
     QString logPower() const { return m_logPower.text.get(); }
     QString linPower() const { return m_linPower.text.get(); }
@@ -110,10 +112,13 @@ private:
         Announced<QString> text;
         Announced<int> unit;
         const Rule &rule;
+        /// Whose digits a result has.
+        const ModuleProfile &model;
         int textUnit = 0;
 
         void show(const QString &newText);
-        void showValue(double baseValue);
+        void showValue(double value);
+        void showBaseValue(double baseValue);
         void clearNonFinite();
         void rescale(const std::function<double(double)> &toNewUnit);
     };
@@ -131,14 +136,18 @@ private:
     static const Rule kLinVoltage;
 
     using Self = UnitConverterProfile;
-    Field m_logPower{{this, &Self::logPowerChanged}, {this, &Self::logPowerUnitChanged}, kLogPower};
-    Field m_linPower{{this, &Self::linPowerChanged}, {this, &Self::linPowerUnitChanged}, kLinPower};
+    Field m_logPower{
+        {this, &Self::logPowerChanged}, {this, &Self::logPowerUnitChanged}, kLogPower, *this};
+    Field m_linPower{
+        {this, &Self::linPowerChanged}, {this, &Self::linPowerUnitChanged}, kLinPower, *this};
     Field m_logVoltage{
-        {this, &Self::logVoltageChanged}, {this, &Self::logVoltageUnitChanged}, kLogVoltage};
+        {this, &Self::logVoltageChanged}, {this, &Self::logVoltageUnitChanged}, kLogVoltage, *this};
     Field m_linVoltage{
-        {this, &Self::linVoltageChanged}, {this, &Self::linVoltageUnitChanged}, kLinVoltage};
+        {this, &Self::linVoltageChanged}, {this, &Self::linVoltageUnitChanged}, kLinVoltage, *this};
     Announced<QString> m_impedance{this, &Self::impedanceChanged, QStringLiteral("50")};
     Announced<int> m_voltageMode{this, &Self::voltageModeChanged};
 };
+
+} // namespace Dezimo
 
 #endif

@@ -3,28 +3,31 @@
 
 #include "voltagecalculatorprofile.h"
 
+#include "calculatortable.h"
 #include "errortexts.h"
 #include "valuetext.h"
 #include "voltagesteps.h"
 
+using namespace Dezimo;
+using namespace Dezimo::VoltageUnit;
+
 namespace {
 
-using namespace VoltageUnit;
+constexpr int kStepDigits = 10;
 
 const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
-        QStringLiteral("VoltageCalculatorProfile"),
         {{"input", QString()},
-         {"output", ErrorText::noResult()},
+         {"output", QString(ErrorText::kNoResult)},
          {"outputUnit", Mv, upTo(None)},
          {"mode", VoltageMode::Uncorrelated, upTo(VoltageMode::Peak)},
          {"phase",
           0.0,
           {VoltageCalculatorProfile::kMinimumPhase, VoltageCalculatorProfile::kMaximumPhase}}},
         {{"MvValid", Mv}, {"VValid", V}, {"NoneValid", None}},
-        {{Mv, QStringLiteral("mV")}, {V, QStringLiteral("V")}, {None, QString(), true}},
-        10,
+        {{Mv, &Units::kMillivolt}, {V, &Units::kVolt}, {None, &Units::kNone, true}},
+        kStepDigits,
     };
     return table;
 }
@@ -42,8 +45,11 @@ std::unique_ptr<StepRule> VoltageCalculatorProfile::newStepRule() const
 
 ExpressionProfile::Shown VoltageCalculatorProfile::shown(const Operand &result) const
 {
-    if (result.unit == None)
-        return {generalText(result.value), None, unitsBeside(None)};
-    const int unit = outputUnit() == V ? V : Mv;
-    return {generalText(voltageIn(unit, millivoltFrom(result))), unit, unitsBeside(unit)};
+    if (result.unit == &Units::kNone)
+        return {generalText(result.value, significantDigits()), None, unitsBeside(None)};
+    const bool inVolts = outputUnit() == V;
+    const Unit &unit = inVolts ? Units::kVolt : Units::kMillivolt;
+    const int index = inVolts ? V : Mv;
+    return {generalText(unit.fromBase(result.inBaseUnit()), significantDigits()), index,
+            unitsBeside(index)};
 }

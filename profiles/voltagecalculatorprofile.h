@@ -6,6 +6,15 @@
 
 #include "expressionprofile.h"
 
+namespace Dezimo {
+
+/// The units of the voltage calculator, as the indexes of its unit selector.
+namespace VoltageUnit {
+
+enum Index { Mv, V, None };
+
+} // namespace VoltageUnit
+
 /**
  * The voltage calculator: sums and differences of voltages (V, mV) and of plain numbers. Voltages
  * are combined in mV, as uncorrelated, correlated or peak voltages.
@@ -40,5 +49,7 @@ protected:
 private:
     Announced<double> m_phase{this, &VoltageCalculatorProfile::phaseChanged};
 };
+
+} // namespace Dezimo
 
 #endif

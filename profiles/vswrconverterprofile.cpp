@@ -7,12 +7,14 @@
 #include "prefixedvalue.h"
 #include "reflection.h"
 #include "storedkeys.h"
+#include "units.h"
 #include "valuetext.h"
 
-#include <QSettings>
-
 #include <cmath>
+#include <iterator>
 #include <limits>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -24,8 +26,10 @@ constexpr double kMatchTolerance = 1e-12;
 constexpr double kMaximumReflection = 100.0;
 constexpr double kNoMaximum = std::numeric_limits<double>::infinity();
 
-/// Four power units, four voltage units.
-constexpr int kLastUnit = 3;
+constexpr Unit kPowerRows[] = {Units::kDbm, Units::kDbw, Units::kWatt, Units::kMilliwatt};
+constexpr Unit kVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kVolt, Units::kMillivolt};
+constexpr int kLastPowerUnit = int(std::size(kPowerRows)) - 1;
+constexpr int kLastVoltageUnit = int(std::size(kVoltageRows)) - 1;
 
 const StoredKeys &textKeys()
 {
@@ -42,35 +46,35 @@ const StoredKeys &selectionKeys()
 {
     static const StoredKeys rows{
         {"currentMode", 0, upTo(1)},
-        {"pForwardUnit", 0, upTo(kLastUnit)},
-        {"pReflectedUnit", 0, upTo(kLastUnit)},
-        {"pAbsorbedUnit", 0, upTo(kLastUnit)},
-        {"vForwardUnit", 0, upTo(kLastUnit)},
-        {"vReflectedUnit", 0, upTo(kLastUnit)},
-        {"vAbsorbedUnit", 0, upTo(kLastUnit)},
+        {"pForwardUnit", 0, upTo(kLastPowerUnit)},
+        {"pReflectedUnit", 0, upTo(kLastPowerUnit)},
+        {"pAbsorbedUnit", 0, upTo(kLastPowerUnit)},
+        {"vForwardUnit", 0, upTo(kLastVoltageUnit)},
+        {"vReflectedUnit", 0, upTo(kLastVoltageUnit)},
+        {"vAbsorbedUnit", 0, upTo(kLastVoltageUnit)},
     };
     return rows;
 }
 
-QString vswrText(double reflection)
+QString vswrText(double reflection, int digits)
 {
-    return generalText(Reflection::vswr(reflection));
+    return generalText(Reflection::vswr(reflection), digits);
 }
 
-QString squareText(double reflection)
+QString squareText(double reflection, int digits)
 {
-    return generalText(Reflection::square(reflection));
+    return generalText(Reflection::square(reflection), digits);
 }
 
 /// Without reflection there is no return loss to show.
-QString returnLossText(double reflection)
+QString returnLossText(double reflection, int /*digits*/)
 {
     return reflection == 0.0 ? QString() : fixedText(Reflection::returnLoss(reflection));
 }
 
 /// At the limit of what is accepted there is no mismatch loss to show; from 1 up to it there is,
 /// infinite or not a number.
-QString mismatchLossText(double reflection)
+QString mismatchLossText(double reflection, int /*digits*/)
 {
     if (reflection == kMaximumReflection)
         return {};
@@ -95,7 +99,8 @@ struct VswrConverterProfile::Rule
     double minimum;
     double maximum;
     double (*reflectionFrom)(double);
-    QString (*textFrom)(double);
+    /// The digits are those of linear values.
+    QString (*textFrom)(double reflection, int digits);
 };
 
 using Self = VswrConverterProfile;
@@ -110,22 +115,19 @@ const Self::Rule Self::kAr = {readPrefixedValue, 0.0, kNoMaximum, Reflection::fr
 const Self::Rule Self::kAm = {readPrefixedValue, 0.0, kNoMaximum, Reflection::fromMismatchLoss,
                               mismatchLossText};
 
-VswrConverterProfile::VswrConverterProfile(QObject *parent) : Profile(parent) {}
+const UnitSelector Self::kPowerUnits(kPowerRows, Units::kMilliwatt);
+const UnitSelector Self::kVoltageUnits(kVoltageRows, Units::kMillivolt);
 
 void VswrConverterProfile::saveSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("VswrConverterProfile"));
-    saveKeys(*this, settings, textKeys());
-    saveKeys(*this, settings, selectionKeys());
-    settings.endGroup();
+    saveGroup(*this, settings, group(), textKeys());
+    saveGroup(*this, settings, group(), selectionKeys());
 }
 
 void VswrConverterProfile::loadSettings(QSettings &settings)
 {
-    settings.beginGroup(QStringLiteral("VswrConverterProfile"));
-    loadKeys(*this, settings, selectionKeys());
-    loadKeys(*this, settings, textKeys());
-    settings.endGroup();
+    loadGroup(*this, settings, group(), selectionKeys());
+    loadGroup(*this, settings, group(), textKeys());
 }
 
 /// That the return loss is shown for a match only, where it is infinite, and left empty for every
@@ -137,10 +139,10 @@ void VswrConverterProfile::calculateFromVswr()
         return;
     const double reflection = kVswr.reflectionFrom(*vswr);
     const bool matched = !(std::abs(*vswr - 1.0) > kMatchTolerance);
-    setR(generalText(reflection));
+    setR(generalText(reflection, significantDigits()));
     setAr(matched ? fixedText(Reflection::returnLoss(reflection)) : QString());
-    setR2(squareText(reflection));
-    setAm(mismatchLossText(reflection));
+    setR2(squareText(reflection, significantDigits()));
+    setAm(mismatchLossText(reflection, significantDigits()));
 }
 
 void VswrConverterProfile::calculateFromR()
@@ -179,7 +181,7 @@ std::optional<double> VswrConverterProfile::readEdited(Quantity &edited)
 
 void VswrConverterProfile::reject(Quantity &edited)
 {
-    edited.text.set(ErrorText::invalidInput());
+    edited.text.set(ErrorText::kInvalidInput);
     for (Quantity *quantity : {&m_vswr, &m_r, &m_r2, &m_ar, &m_am}) {
         if (quantity != &edited)
             quantity->text.set(QString());
@@ -194,6 +196,6 @@ void VswrConverterProfile::finishQuantity(Quantity &edited)
     const double reflection = edited.rule.reflectionFrom(*value);
     for (Quantity *quantity : {&m_r, &m_vswr, &m_r2, &m_ar, &m_am}) {
         if (quantity != &edited)
-            quantity->text.set(quantity->rule.textFrom(reflection));
+            quantity->text.set(quantity->rule.textFrom(reflection, significantDigits()));
     }
 }

@@ -5,13 +5,15 @@
 #define PROFILES_VSWRCONVERTERPROFILE_H
 
 #include "announced.h"
-#include "profile.h"
+#include "moduleprofile.h"
 
 #include <QString>
 
 #include <optional>
 
-class UnitTable;
+namespace Dezimo {
+
+class UnitSelector;
 
 /**
  * The VSWR converter: a mismatched port as VSWR, reflection coefficient, its square in percent,
@@ -25,7 +27,7 @@ class UnitTable;
  *
  * A unit setter rewrites its row's text so that it stands for the same quantity.
  */
-class VswrConverterProfile final : public Profile
+class VswrConverterProfile final : public ModuleProfile
 {
     Q_OBJECT
     Q_PROPERTY(QString vswr READ vswr WRITE setVswr NOTIFY vswrChanged)
@@ -52,7 +54,7 @@ class VswrConverterProfile final : public Profile
         int vAbsorbedUnit READ vAbsorbedUnit WRITE setVAbsorbedUnit NOTIFY vAbsorbedUnitChanged)
 
 public:
-    explicit VswrConverterProfile(QObject *parent = nullptr);
+    using ModuleProfile::ModuleProfile;
 
     QString vswr() const { return m_vswr.text.get(); }
     /// Magnitude of the reflection coefficient.
@@ -151,12 +153,15 @@ private:
     {
         Announced<QString> text;
         Announced<int> unit;
-        const UnitTable &units;
+        const UnitSelector &units;
+        /// Whose digits a result has.
+        const ModuleProfile &model;
 
         bool isFilled() const { return !text.get().isEmpty(); }
         double value() const;
         std::optional<double> readEdited();
-        void show(double baseValue);
+        void show(double baseValue, int unitIndex);
+        void show(double baseValue) { show(baseValue, unit.get()); }
         void setUnit(int newUnit);
     };
 
@@ -184,8 +189,8 @@ private:
     static const Rule kR2;
     static const Rule kAr;
     static const Rule kAm;
-    static const UnitTable kPowerUnits;
-    static const UnitTable kVoltageUnits;
+    static const UnitSelector kPowerUnits;
+    static const UnitSelector kVoltageUnits;
 
     using Self = VswrConverterProfile;
     Quantity m_vswr{{this, &Self::vswrChanged}, kVswr};
@@ -194,16 +199,27 @@ private:
     Quantity m_ar{{this, &Self::arChanged}, kAr};
     Quantity m_am{{this, &Self::amChanged}, kAm};
     Rows m_powers{
-        {{this, &Self::pForwardChanged}, {this, &Self::pForwardUnitChanged}, kPowerUnits},
-        {{this, &Self::pReflectedChanged}, {this, &Self::pReflectedUnitChanged}, kPowerUnits},
-        {{this, &Self::pAbsorbedChanged}, {this, &Self::pAbsorbedUnitChanged}, kPowerUnits},
+        {{this, &Self::pForwardChanged}, {this, &Self::pForwardUnitChanged}, kPowerUnits, *this},
+        {{this, &Self::pReflectedChanged},
+         {this, &Self::pReflectedUnitChanged},
+         kPowerUnits,
+         *this},
+        {{this, &Self::pAbsorbedChanged}, {this, &Self::pAbsorbedUnitChanged}, kPowerUnits, *this},
     };
     Rows m_voltages{
-        {{this, &Self::vForwardChanged}, {this, &Self::vForwardUnitChanged}, kVoltageUnits},
-        {{this, &Self::vReflectedChanged}, {this, &Self::vReflectedUnitChanged}, kVoltageUnits},
-        {{this, &Self::vAbsorbedChanged}, {this, &Self::vAbsorbedUnitChanged}, kVoltageUnits},
+        {{this, &Self::vForwardChanged}, {this, &Self::vForwardUnitChanged}, kVoltageUnits, *this},
+        {{this, &Self::vReflectedChanged},
+         {this, &Self::vReflectedUnitChanged},
+         kVoltageUnits,
+         *this},
+        {{this, &Self::vAbsorbedChanged},
+         {this, &Self::vAbsorbedUnitChanged},
+         kVoltageUnits,
+         *this},
     };
     Announced<int> m_currentMode{this, &Self::currentModeChanged};
 };
+
+} // namespace Dezimo
 
 #endif

@@ -7,15 +7,13 @@
 #include "errortexts.h"
 #include "prefixedvalue.h"
 #include "reflection.h"
-#include "unittable.h"
+#include "units.h"
 #include "valuetext.h"
 #include "vswrconverterprofile.h"
 
-namespace {
+using namespace Dezimo;
 
-constexpr UnitConversion kPowerRows[] = {Units::kDbm, Units::kDbw, Units::kWatt, Units::kBase};
-constexpr UnitConversion kVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kVolt,
-                                           Units::kBase};
+namespace {
 
 /// A field that is read but was not the one finished: no message, 0 if it is a word.
 double uncheckedValue(QString text)
@@ -24,9 +22,6 @@ double uncheckedValue(QString text)
 }
 
 } // namespace
-
-const UnitTable VswrConverterProfile::kPowerUnits(kPowerRows, Units::kBase);
-const UnitTable VswrConverterProfile::kVoltageUnits(kVoltageRows, Units::kBase);
 
 /// In mW or mV.
 double VswrConverterProfile::Row::value() const
@@ -42,13 +37,14 @@ std::optional<double> VswrConverterProfile::Row::readEdited()
     const std::optional<double> typed = readPrefixedValue(text.get());
     if (typed)
         return units.at(unit.get()).toBase(*typed);
-    text.set(ErrorText::invalidInput());
+    text.set(ErrorText::kInvalidInput);
     return std::nullopt;
 }
 
-void VswrConverterProfile::Row::show(double baseValue)
+void VswrConverterProfile::Row::show(double baseValue, int unitIndex)
 {
-    text.set(generalText(units.at(unit.get()).fromBase(baseValue)));
+    const double value = units.at(unitIndex).fromBase(baseValue);
+    text.set(generalText(value, model.significantDigits()));
 }
 
 /// The text is rewritten before the unit is stored, and no other row is calculated.
@@ -57,7 +53,7 @@ void VswrConverterProfile::Row::setUnit(int newUnit)
     if (newUnit == unit.get())
         return;
     if (isFilled())
-        text.set(generalText(units.at(newUnit).fromBase(value())));
+        show(value(), newUnit);
     unit.set(newUnit);
 }
 

@@ -8,7 +8,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-tests=(tests/profiles/tst_*.cpp)
+tests=(tests/values/tst_*.cpp tests/store/tst_*.cpp tests/profiles/tst_*.cpp)
 tests=("${tests[@]##*/}")
 tests=("${tests[@]%.cpp}")
 

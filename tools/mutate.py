@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""Do the tests notice? Change one place of profiles/ at a time and run the tests of the models.
+"""Do the tests notice? Change one place of the models, or of what they are made from, at a time.
 
 Places are drawn by chance from a fixed seed. A mutant is one operator, constant or comparison
 changed or one statement removed; one that does not compile does not count and another one is drawn
@@ -27,6 +27,9 @@ from typing import Iterator, NamedTuple
 ROOT = Path(__file__).resolve().parent.parent
 COPY = ROOT / "build" / "mutants"
 BUILD = COPY / "build" / "mutation"
+FOLDERS = ("values", "store", "profiles")
+LIBRARIES = [f"dezimo_{folder}" for folder in FOLDERS]
+TESTED_IN_WINDOWS = ("checkedsettings",)  # by tests that take too long for each mutant
 NEEDED_SHARE = 0.95
 MEMORY_LIMIT = 4 << 30  # bytes; a mutant may allocate without end
 BASELINE_SECONDS = 300  # for the tests as they are
@@ -123,7 +126,8 @@ class Tests:
 
     def __init__(self) -> None:
         self.seconds: dict[str, float] = {}
-        self.names = sorted(path.stem for path in (ROOT / "tests/profiles").glob("tst_*.cpp"))
+        self.names = sorted(path.stem for path in ROOT.glob("tests/*/tst_*.cpp")
+                            if path.parent.name in FOLDERS)
 
     def passes(self, name: str, seconds: float) -> bool:
         def limit() -> None:
@@ -162,7 +166,7 @@ def try_out(mutant: Mutant, text: str, tests: Tests) -> str | None:
     copy = COPY / mutant.file
     copy.write_text(text[:mutant.begin] + mutant.replacement + text[mutant.end:])
     try:
-        return tests.catcher(mutant.file) if build(["dezimo_profiles"]) else ""
+        return tests.catcher(mutant.file) if build(LIBRARIES) else ""
     finally:
         copy.write_text(text)
 
@@ -172,7 +176,7 @@ def main() -> int:
     parser.add_argument("--count", type=int, default=200, help="how many mutants (default 200)")
     parser.add_argument("--seed", type=int, default=1, help="which ones (default 1)")
     parser.add_argument("names", nargs="*", metavar="FILE",
-                        help="only in these files of profiles/ (default all)")
+                        help="only in these files (default all)")
     arguments = parser.parse_args()
 
     os.environ["CCACHE_DISABLE"] = "1"  # no mutant is built twice
@@ -185,8 +189,9 @@ def main() -> int:
     if failing := tests.failing_before():
         sys.exit(f"The tests fail as they are: {' '.join(failing)}")
 
-    files = sorted(path.relative_to(ROOT) for path in (ROOT / "profiles").glob("*.[ch]*")
-                   if path.name in arguments.names or not arguments.names)
+    files = sorted(path.relative_to(ROOT) for path in ROOT.glob("*/*.[ch]*")
+                   if path.parent.name in FOLDERS and path.stem not in TESTED_IN_WINDOWS
+                   and (path.name in arguments.names or not arguments.names))
     texts = {file: (COPY / file).read_text() for file in files}
     candidates = [mutant for file in files for mutant in mutants_of(file, texts[file])]
     random.Random(arguments.seed).shuffle(candidates)

@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QEvent>
 
+using namespace Dezimo;
+
 DbConverterWidget::DbConverterWidget(QWidget *parent)
     : QWidget(parent),
       m_ui(std::make_unique<Ui::DbConverterWidget>()),

@@ -8,7 +8,9 @@
 
 #include <memory>
 
+namespace Dezimo {
 class DbConverterProfile;
+}
 
 namespace Ui {
 class DbConverterWidget;
@@ -67,7 +69,7 @@ private:
     void showModel();
 
     const std::unique_ptr<Ui::DbConverterWidget> m_ui;
-    DbConverterProfile *const m_profile;
+    Dezimo::DbConverterProfile *const m_profile;
 };
 
 #endif

@@ -8,6 +8,8 @@
 
 #include <QEvent>
 
+using namespace Dezimo;
+
 DbmCalculatorWidget::DbmCalculatorWidget(QWidget *parent)
     : KeypadCalculatorWidget(MainProfile::instance().dbmCalculator(), parent),
       m_ui(std::make_unique<Ui::DbmCalculatorWidget>())

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
+using namespace Dezimo;
+
 namespace {
 
 /// Pixels beside the text of the unit selector: its frame, its padding and its arrow.
@@ -218,8 +220,8 @@ void KeypadCalculatorWidget::showProfile()
 bool KeypadCalculatorWidget::hasResult() const
 {
     const QString output = m_profile.output();
-    return !output.isEmpty() && output != ErrorText::invalidInput() &&
-           output != ErrorText::unitMissing();
+    return !output.isEmpty() && output != ErrorText::kInvalidInput &&
+           output != ErrorText::kUnitMissing;
 }
 
 bool KeypadCalculatorWidget::hasUnit() const

@@ -10,10 +10,13 @@
 
 #include <optional>
 
-class ExpressionProfile;
 class KelAutoResizeLineEdit;
 class QComboBox;
 class QLineEdit;
+
+namespace Dezimo {
+class ExpressionProfile;
+}
 
 /**
  * What the pages of the expression calculators share: an input line, a keypad that types into it, a
@@ -29,7 +32,7 @@ class KeypadCalculatorWidget : public QWidget
 
 protected:
     /// @p profile must outlive the page.
-    KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent);
+    KeypadCalculatorWidget(Dezimo::ExpressionProfile &profile, QWidget *parent);
 
     /// Connects the widgets of a form that has just been built, and shows the model once.
     template <typename Form>
@@ -87,7 +90,7 @@ private:
     void keepListSize();
     void endTakeOver();
 
-    ExpressionProfile &m_profile;
+    Dezimo::ExpressionProfile &m_profile;
     QLineEdit *m_input = nullptr;
     QWidget *m_outputRow = nullptr;
     KelAutoResizeLineEdit *m_output = nullptr;

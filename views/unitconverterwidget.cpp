@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <QPushButton>
 
+using namespace Dezimo;
+
 UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     : QWidget(parent),
       m_ui(std::make_unique<Ui::UnitConverterWidget>()),

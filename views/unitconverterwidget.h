@@ -8,7 +8,9 @@
 
 #include <memory>
 
+namespace Dezimo {
 class UnitConverterProfile;
+}
 
 namespace Ui {
 class UnitConverterWidget;
@@ -68,7 +70,7 @@ private:
     void showModel();
 
     const std::unique_ptr<Ui::UnitConverterWidget> m_ui;
-    UnitConverterProfile *const m_profile;
+    Dezimo::UnitConverterProfile *const m_profile;
 };
 
 #endif

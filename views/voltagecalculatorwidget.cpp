@@ -8,6 +8,8 @@
 
 #include <QEvent>
 
+using namespace Dezimo;
+
 VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
     : KeypadCalculatorWidget(MainProfile::instance().voltageCalculator(), parent),
       m_ui(std::make_unique<Ui::VoltageCalculatorWidget>()),

@@ -8,7 +8,9 @@
 
 #include <memory>
 
+namespace Dezimo {
 class VoltageCalculatorProfile;
+}
 
 namespace Ui {
 class VoltageCalculatorWidget;
@@ -37,7 +39,7 @@ private:
     int shownPhase() const;
 
     const std::unique_ptr<Ui::VoltageCalculatorWidget> m_ui;
-    VoltageCalculatorProfile &m_voltages;
+    Dezimo::VoltageCalculatorProfile &m_voltages;
 };
 
 #endif

@@ -11,6 +11,8 @@
 
 #include <QEvent>
 
+using namespace Dezimo;
+
 VswrConverterWidget::VswrConverterWidget(QWidget *parent)
     : QWidget(parent),
       m_ui(std::make_unique<Ui::VswrConverterWidget>()),

@@ -8,7 +8,9 @@
 
 #include <memory>
 
+namespace Dezimo {
 class VswrConverterProfile;
+}
 
 namespace Ui {
 class VswrConverterWidget;
@@ -79,7 +81,7 @@ private:
     void showModel();
 
     const std::unique_ptr<Ui::VswrConverterWidget> m_ui;
-    VswrConverterProfile *const m_profile;
+    Dezimo::VswrConverterProfile *const m_profile;
 };
 
 #endif

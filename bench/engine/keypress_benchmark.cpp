@@ -1,4 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
+
+using namespace Dezimo;
 // SPDX-License-Identifier: MIT
 
 /**

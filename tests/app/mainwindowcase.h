@@ -31,7 +31,7 @@ protected:
     /// Puts a value into the window's group of the settings, for the next window to find.
     static void store(const char *key, const QVariant &value);
 
-    MainProfile &m_profile = MainProfile::instance();
+    Dezimo::MainProfile &m_profile = Dezimo::MainProfile::instance();
     std::unique_ptr<MainWindow> m_window;
 
 private Q_SLOTS:

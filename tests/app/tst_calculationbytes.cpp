@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// A calculation file has the same bytes on every system.
 class CalculationBytesTest : public QObject
 {

@@ -22,6 +22,8 @@
 
 #include <functional>
 
+using namespace Dezimo;
+
 class CalculationFilesTest : public QObject
 {
     Q_OBJECT

@@ -13,6 +13,8 @@
 #include <QSettings>
 #include <QTest>
 
+using namespace Dezimo;
+
 namespace {
 
 /// A calculation file with one module's value and a window that the program must not take over.
@@ -151,7 +153,7 @@ void CommandLineTest::ignoresAllElse()
     QCOMPARE(p1Text(), QStringLiteral("1W"));
 }
 
-/// What cannot be read for other reasons is in tst_soundstore, since only Unix has most of it.
+/// What cannot be read for other reasons is in tst_damagedfiles, since only Unix has most of it.
 void CommandLineTest::aFileThatCannotBeReadChangesNothing_data()
 {
     QTest::addColumn<QString>("name");

@@ -18,6 +18,8 @@
 
 #include <vector>
 
+using namespace Dezimo;
+
 namespace {
 
 /// Rows of the module list.

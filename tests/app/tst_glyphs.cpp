@@ -24,6 +24,8 @@
 #include <QTextEdit>
 #include <QTimer>
 
+using namespace Dezimo;
+
 namespace {
 
 /// Characters with the place where one of them was seen.

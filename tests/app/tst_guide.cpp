@@ -26,6 +26,8 @@
 
 #include <algorithm>
 
+using namespace Dezimo;
+
 namespace {
 
 constexpr int kFewestExamplesOfAModule = 8;
@@ -338,7 +340,7 @@ void GuideTest::showsWhatItSays()
 void GuideTest::everyErrorWordIsExplained()
 {
     const QString text = contentsOf(sourceFile("docs/guide.md"));
-    const QStringList words = ErrorText::all() << ErrorText::noResult();
+    const QStringList words = ErrorText::all() << ErrorText::kNoResult;
     for (const QString &word : words)
         QVERIFY2(text.contains(QStringLiteral("\n| `%1` |").arg(word)), qPrintable(word));
 }

@@ -24,6 +24,8 @@
 #include <iterator>
 #include <memory>
 
+using namespace Dezimo;
+
 /// A language that is changed while the program runs, and where its texts come from.
 class LanguageChangeTest : public QObject
 {

@@ -15,6 +15,8 @@
 #include <QStackedWidget>
 #include <QTest>
 
+using namespace Dezimo;
+
 /**
  * Every page at several sizes of the window, by geometry: no text is wider than the widget that
  * shows it, no two visible neighbors overlap, and no field is stretched into the absurd. CTest runs
@@ -182,7 +184,7 @@ void LayoutTest::errorWordsFitTheSmallestFields()
         if (!edit->isVisible())
             continue;
         ++fields;
-        edit->setText(ErrorText::invalidInput());
+        edit->setText(ErrorText::kInvalidInput);
         if (edit->fontMetrics().horizontalAdvance(edit->text()) > LayoutCheck::roomForText(*edit))
             clipped += LayoutCheck::nameOf(*edit);
     }

@@ -29,6 +29,8 @@
 
 #include <functional>
 
+using namespace Dezimo;
+
 /// Looking is no editing: whatever a person does without typing, every value stays what it was. An
 /// edit, however, is finished whatever the person does next.
 class LookingTest : public MainWindowCase

@@ -13,6 +13,8 @@
 
 #include <limits>
 
+using namespace Dezimo;
+
 class MainWindowGeometryTest : public MainWindowCase
 {
     Q_OBJECT

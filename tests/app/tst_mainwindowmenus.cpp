@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Dezimo;
+
 class MainWindowMenusTest : public MainWindowCase
 {
     Q_OBJECT

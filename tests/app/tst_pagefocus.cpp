@@ -14,6 +14,8 @@
 
 #include <memory>
 
+using namespace Dezimo;
+
 /// A person can type into a page as soon as it is there.
 class PageFocusTest : public QObject
 {

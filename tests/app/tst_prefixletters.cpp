@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// The numeric field knows nothing of the models, so that each has its own table of SI prefixes.
 class PrefixLettersTest : public QObject
 {

@@ -14,6 +14,8 @@
 #include <QSpinBox>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// What one main window leaves in the settings is what the next one shows.
 class RestartTest : public QObject
 {

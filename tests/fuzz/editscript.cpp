@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace Dezimo;
+
 namespace {
 
 /// Selectors have fewer entries; what lies beyond them is tried from both ends.

@@ -12,6 +12,8 @@
 #include "require.h"
 #include "voltagecalculatorprofile.h"
 
+using namespace Dezimo;
+
 namespace {
 
 /// The results of @p profile with another input, which it keeps.

@@ -11,6 +11,8 @@
 #include "unitconverterprofile.h"
 #include "vswrconverterprofile.h"
 
+using namespace Dezimo;
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     requireSilence();

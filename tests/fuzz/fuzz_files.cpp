@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// The input as a calculation file: what is sound in it is opened, saved, and what was saved is
+// The input as a calculation file: what is harmless in it is opened, saved, and what was saved is
 // opened again.
 
 #include "changewatch.h"
 #include "everyprofile.h"
-#include "initext.h"
 #include "mainprofile.h"
 #include "require.h"
+#include "settingstext.h"
 
 #include <QFile>
 #include <QSettings>
@@ -18,6 +18,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -33,7 +35,7 @@ QString written(const std::uint8_t *data, std::size_t size)
 {
     QFile file(newFileName());
     require(file.open(QIODevice::WriteOnly), "a file can be written", file.fileName());
-    file.write(IniText::sound(QByteArray(reinterpret_cast<const char *>(data), int(size))));
+    file.write(SettingsText::harmless(QByteArray(reinterpret_cast<const char *>(data), int(size))));
     return file.fileName();
 }
 

@@ -4,9 +4,10 @@
 #include "calculatorcase.h"
 
 #include "expressionprofile.h"
-#include "mainprofile.h"
 
 #include <QTest>
+
+using namespace Dezimo;
 
 QMap<int, bool> allVoltageUnits()
 {
@@ -56,7 +57,7 @@ void checkCalculatorCase(ExpressionProfile &calculator, int decimalPlaces)
     QFETCH(int, shownUnit);
     QFETCH(QString, offered);
 
-    MainProfile::instance().setDecimalPlaces(decimalPlaces);
+    calculator.setSignificantDigits(decimalPlaces);
     calculator.setMode(mode);
     calculator.setOutputUnit(chosenUnit);
     calculator.setInput(input);

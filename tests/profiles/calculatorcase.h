@@ -9,7 +9,9 @@
 
 #include <initializer_list>
 
+namespace Dezimo {
 class ExpressionProfile;
+}
 
 /// What a person types into an expression calculator, and what is shown then.
 struct CalculatorCase
@@ -31,16 +33,16 @@ struct CalculatorCase
 QMap<int, bool> allVoltageUnits();
 
 /// The units that @p calculator offers, as in CalculatorCase.
-QString offeredUnits(const ExpressionProfile &calculator);
+QString offeredUnits(const Dezimo::ExpressionProfile &calculator);
 
 /// What a person does: types @p input and asks for the result.
-void calculate(ExpressionProfile &calculator, const char *input);
+void calculate(Dezimo::ExpressionProfile &calculator, const char *input);
 
 /// Makes the columns of checkCalculatorCase() and "phase", and one row of each case.
 void addCalculatorCases(std::initializer_list<CalculatorCase> cases);
 
 /// Calculates the present row with a fresh @p calculator, whose units are all offered at first, and
 /// compares output, unit and offered units.
-void checkCalculatorCase(ExpressionProfile &calculator, int decimalPlaces);
+void checkCalculatorCase(Dezimo::ExpressionProfile &calculator, int decimalPlaces);
 
 #endif

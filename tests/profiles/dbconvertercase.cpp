@@ -4,9 +4,10 @@
 #include "dbconvertercase.h"
 
 #include "dbconverterprofile.h"
-#include "mainprofile.h"
 
 #include <QTest>
+
+using namespace Dezimo;
 
 PropertyValues valuesOf(const DbHalf &half, const DbFields &fields)
 {
@@ -48,7 +49,7 @@ void checkDbCase(const char *DbFields::*calculation, int DbHalf::*run)
     const DbHalf &half = isPower ? kPowerHalf : kVoltageHalf;
     const DbHalf &other = isPower ? kVoltageHalf : kPowerHalf;
     DbConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     setProperties(profile, valuesOf(other, {"11", "12", "13", "14"}));
     setProperties(profile, given);
     expected.push_back({half.latestRun, half.*run});

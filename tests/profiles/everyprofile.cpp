@@ -10,12 +10,13 @@
 #include <QPoint>
 #include <QSize>
 
+using namespace Dezimo;
+
 namespace {
 
 QString nameOf(const Profile &profile, const QMetaProperty &property)
 {
-    return QString::fromLatin1(profile.metaObject()->className()) + QLatin1Char('.') +
-           QString::fromLatin1(property.name());
+    return profile.group() + QLatin1Char('.') + QString::fromLatin1(property.name());
 }
 
 QMap<int, bool> withFirstFlipped(QMap<int, bool> units)
@@ -32,8 +33,9 @@ std::vector<Profile *> everyProfile(MainProfile &root)
     static const bool registered = QMetaType::registerEqualsComparator<QMap<int, bool>>();
     Q_UNUSED(registered)
 
-    std::vector<Profile *> profiles = root.modules();
-    profiles.insert(profiles.begin(), &root);
+    std::vector<Profile *> profiles{&root};
+    for (ModuleProfile *module : root.modules())
+        profiles.push_back(module);
     return profiles;
 }
 

@@ -9,27 +9,29 @@
 
 #include <vector>
 
+namespace Dezimo {
 class MainProfile;
 class Profile;
+} // namespace Dezimo
 
 /// For tests that hold for each property of each profile: they walk the meta-objects, so that a new
 /// property is tested as soon as it is declared.
 
 /// @p root and the module profiles in the order in which they are stored. Values of properties
 /// compare as equal from the first call on.
-std::vector<Profile *> everyProfile(MainProfile &root);
+std::vector<Dezimo::Profile *> everyProfile(Dezimo::MainProfile &root);
 
 /// A value of the same type that differs from @p value. Of a default value it is one that each
 /// property may have.
 QVariant otherValue(const QVariant &value);
 
 /// Gives each property of each profile another value, in the order of declaration.
-void changeEverything(MainProfile &root);
+void changeEverything(Dezimo::MainProfile &root);
 
 /// Each property as "class.property", in the order of the profiles and of declaration.
-QStringList everyPropertyName(MainProfile &root);
+QStringList everyPropertyName(Dezimo::MainProfile &root);
 
 /// The properties, named as above, that differ between @p left and @p right.
-QStringList differences(MainProfile &left, MainProfile &right);
+QStringList differences(Dezimo::MainProfile &left, Dezimo::MainProfile &right);
 
 #endif

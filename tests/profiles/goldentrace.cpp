@@ -11,6 +11,8 @@
 #include <QPoint>
 #include <QSize>
 
+using namespace Dezimo;
+
 namespace {
 
 using Words = std::vector<const char *>;
@@ -40,8 +42,7 @@ QString exactText(const QVariant &value)
 QString lineOf(const Profile &profile, const QMetaProperty &property)
 {
     return QStringLiteral("%1.%2 = %3")
-        .arg(QLatin1String(profile.metaObject()->className()), QLatin1String(property.name()),
-             exactText(property.read(&profile)));
+        .arg(profile.group(), QLatin1String(property.name()), exactText(property.read(&profile)));
 }
 
 bool isCalculation(const QMetaMethod &method)
@@ -70,7 +71,9 @@ void Announcements::note()
 
 GoldenTrace::GoldenTrace() : m_root(MainProfile::instance())
 {
-    std::vector<Profile *> profiles = m_root.modules();
+    std::vector<Profile *> profiles;
+    for (ModuleProfile *module : m_root.modules())
+        profiles.push_back(module);
     profiles.push_back(&m_root);
     for (Profile *profile : profiles) {
         m_announcements.push_back(std::make_unique<Announcements>(*profile, m_lines));

@@ -16,8 +16,10 @@
 #include <random>
 #include <vector>
 
+namespace Dezimo {
 class MainProfile;
 class Profile;
+} // namespace Dezimo
 
 /// Writes down each announcement of an object as "Class.property = value", in the order in which
 /// they come.
@@ -26,13 +28,13 @@ class Announcements final : public QObject
     Q_OBJECT
 
 public:
-    Announcements(const Profile &profile, QStringList &lines);
+    Announcements(const Dezimo::Profile &profile, QStringList &lines);
 
 private Q_SLOTS:
     void note();
 
 private:
-    const Profile &m_profile;
+    const Dezimo::Profile &m_profile;
     QStringList &m_lines;
 };
 
@@ -58,7 +60,7 @@ public:
 private:
     struct Model
     {
-        Profile *profile;
+        Dezimo::Profile *profile;
         std::vector<QMetaProperty> properties;
         std::vector<QMetaMethod> calculations;
     };
@@ -84,7 +86,7 @@ private:
 
     std::mt19937 m_random{20220531};
     QStringList m_lines;
-    MainProfile &m_root;
+    Dezimo::MainProfile &m_root;
     std::vector<Model> m_models;
     std::vector<std::unique_ptr<Announcements>> m_announcements;
     std::array<SettingsFile, 4> m_stores;

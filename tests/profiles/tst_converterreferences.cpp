@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "shownnumber.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
@@ -10,6 +9,8 @@
 #include <QTest>
 
 #include <cmath>
+
+using namespace Dezimo;
 
 /// What the fields show at ten digits against reference values. The literals were computed with
 /// Python's mpmath 1.3 at 50 digits from the definitions (P = 10^(L/10), V = sqrt(P R),
@@ -20,7 +21,6 @@ class ConverterReferencesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void reflection_data();
     void reflection();
     void levels_data();
@@ -81,6 +81,7 @@ void compare(const UnitConverterProfile &profile, const Levels &reference, doubl
 void compareAtImpedance(const char *ohm, const Levels &reference)
 {
     UnitConverterProfile profile;
+    profile.setSignificantDigits(kDigits);
     profile.setLogVoltageUnit(1);
     profile.setImpedance(QString::fromLatin1(ohm));
     profile.setLogPower(typed(reference.dbm));
@@ -101,11 +102,6 @@ void compareAtImpedance(const char *ohm, const Levels &reference)
 }
 
 } // namespace
-
-void ConverterReferencesTest::initTestCase()
-{
-    MainProfile::instance().setDecimalPlaces(kDigits);
-}
 
 void ConverterReferencesTest::reflection_data()
 {
@@ -175,6 +171,7 @@ void ConverterReferencesTest::reflection()
     QFETCH(double, mismatchLoss);
 
     VswrConverterProfile profile;
+    profile.setSignificantDigits(kDigits);
     profile.setProperty(edited.constData(), text);
     const QByteArray slot = "calculateFrom" + edited.left(1).toUpper() + edited.mid(1);
     QVERIFY(QMetaObject::invokeMethod(&profile, slot.constData()));

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "shownnumber.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
@@ -12,6 +11,8 @@
 
 #include <cmath>
 
+using namespace Dezimo;
+
 /// There and back again, a thousand times each with random values: the difference is no larger than
 /// what the texts on the way lose, ten digits of a linear value and two decimals of a level.
 class ConverterRoundTripsTest : public QObject
@@ -19,7 +20,6 @@ class ConverterRoundTripsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void powerToVoltage();
     void powerLevelToVoltageLevel();
@@ -61,11 +61,6 @@ bool isNear(const QString &after, const QString &before, double tolerance)
 
 } // namespace
 
-void ConverterRoundTripsTest::initTestCase()
-{
-    MainProfile::instance().setDecimalPlaces(kDigits);
-}
-
 void ConverterRoundTripsTest::init()
 {
     m_random.seed(kSeed);
@@ -90,6 +85,7 @@ void ConverterRoundTripsTest::powerToVoltage()
 {
     for (int run = 0; run < kRuns; ++run) {
         UnitConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         profile.setImpedance(text(uniform(1, 1000)));
         profile.setVoltageMode(below(3));
         profile.setLinPowerUnit(below(2));
@@ -108,6 +104,7 @@ void ConverterRoundTripsTest::powerLevelToVoltageLevel()
 {
     for (int run = 0; run < kRuns; ++run) {
         UnitConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         profile.setImpedance(text(uniform(1, 1000)));
         profile.setVoltageMode(below(3));
         profile.setLogPowerUnit(below(2));
@@ -124,6 +121,7 @@ void ConverterRoundTripsTest::vswrToReflectionCoefficient()
 {
     for (int run = 0; run < kRuns; ++run) {
         VswrConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const QString before = text(1 + std::pow(10, uniform(-3, 3)));
         const double s = shownNumber(before);
         profile.setVswr(before);
@@ -140,6 +138,7 @@ void ConverterRoundTripsTest::reflectionCoefficientToReturnLoss()
 {
     for (int run = 0; run < kRuns; ++run) {
         VswrConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const QString vswr = text(1 + std::pow(10, uniform(-3, 3)));
         profile.setVswr(vswr);
         profile.calculateFromVswr();
@@ -160,6 +159,7 @@ void ConverterRoundTripsTest::vswrToReturnLoss()
 {
     for (int run = 0; run < kRuns; ++run) {
         VswrConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const QString before = text(1 + std::pow(10, uniform(-3, 2)));
         profile.setVswr(before);
         profile.calculateFromVswr();
@@ -181,6 +181,7 @@ void ConverterRoundTripsTest::rescaledLinearUnits()
 {
     for (int run = 0; run < kRuns; ++run) {
         UnitConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const int unit = below(2);
         const QString before = text(std::pow(10, uniform(-12, 6)));
         profile.setLinPowerUnit(unit);
@@ -205,6 +206,7 @@ void ConverterRoundTripsTest::rescaledLevelUnits()
 {
     for (int run = 0; run < kRuns; ++run) {
         UnitConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const int powerUnit = below(2);
         const int voltageUnit = below(3);
         const QString before = QString::number(uniform(-150, 150), 'f', 2);
@@ -232,6 +234,7 @@ void ConverterRoundTripsTest::unitThereAndBack(const QByteArray &field)
     const QByteArray unitName = field + "Unit";
     for (int run = 0; run < kRuns; ++run) {
         VswrConverterProfile profile;
+        profile.setSignificantDigits(kDigits);
         const int unit = below(4);
         const int other = (unit + 1 + below(3)) % 4;
         const bool isLevel = unit < 2;

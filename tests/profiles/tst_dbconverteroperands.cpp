@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "dbconvertercase.h"
-#include "mainprofile.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -14,7 +13,6 @@ class DbConverterOperandsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void fromFirst_data();
     void fromFirst();
     void derivesTheSecond_data();
@@ -92,11 +90,6 @@ void addCommonOperands()
 }
 
 } // namespace
-
-void DbConverterOperandsTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void DbConverterOperandsTest::fromFirst_data()
 {

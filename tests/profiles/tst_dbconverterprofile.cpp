@@ -9,6 +9,8 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 /// State, run codes, order of writing and storage of the dB converter.
 class DbConverterProfileTest : public QObject
 {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "dbconvertercase.h"
-#include "mainprofile.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -14,17 +13,11 @@ class DbConverterRatiosTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void fromRatio_data();
     void fromRatio();
     void fromDb_data();
     void fromDb();
 };
-
-void DbConverterRatiosTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void DbConverterRatiosTest::fromRatio_data()
 {

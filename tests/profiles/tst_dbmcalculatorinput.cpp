@@ -3,10 +3,11 @@
 
 #include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
-#include "powersteps.h"
 #include "testmain.h"
 
 #include <QTest>
+
+using namespace Dezimo;
 
 class DbmCalculatorInputTest : public QObject
 {

@@ -4,7 +4,6 @@
 #include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
-#include "powersteps.h"
 #include "propertyvalues.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
@@ -14,13 +13,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Dezimo;
+
 class ExpressionProfileTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-
     void startsWithoutAResult();
     void declaresItsPropertiesInOrder();
     void namesItsUnits();
@@ -45,11 +44,6 @@ QStringList propertyNames(const QObject &object)
 }
 
 } // namespace
-
-void ExpressionProfileTest::init()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void ExpressionProfileTest::startsWithoutAResult()
 {
@@ -214,7 +208,7 @@ void ExpressionProfileTest::usesTheDecimalPlacesOfTheMoment()
     VoltageCalculatorProfile calculator;
     calculate(calculator, "1mV+1mV");
     QCOMPARE(calculator.output(), QStringLiteral("1.41"));
-    MainProfile::instance().setDecimalPlaces(5);
+    calculator.setSignificantDigits(5);
     QCOMPARE(calculator.output(), QStringLiteral("1.41"));
     calculator.calculate();
     QCOMPARE(calculator.output(), QStringLiteral("1.4142"));

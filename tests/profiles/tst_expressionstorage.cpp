@@ -4,7 +4,6 @@
 #include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
 #include "mainprofile.h"
-#include "powersteps.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
@@ -15,6 +14,8 @@
 #include <QTest>
 
 #include <memory>
+
+using namespace Dezimo;
 
 /// How the expression calculators are kept in a settings store.
 class ExpressionStorageTest : public QObject

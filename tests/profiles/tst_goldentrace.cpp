@@ -13,6 +13,8 @@
 
 #include <vector>
 
+using namespace Dezimo;
+
 /// What all models announce and store through ten thousand steps is what it was when the file of
 /// checksums was made. Where that is meant to change, "dezimo-goldentrace --checksums" prints the
 /// new ones, and without an argument it prints the lines themselves, of which two versions can be

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+using namespace Dezimo;
+
 /// The root profile as an object; how it is kept is another test's.
 class MainProfileTest : public QObject
 {
@@ -21,6 +23,8 @@ private Q_SLOTS:
     void instanceIsOneObject();
     void ownsTheModulesInOrder();
     void destroysTheModulesInReverseOrder();
+    void handsItsDecimalPlacesToTheModules();
+    void namesTheGroupsThatItStores();
 
 private:
     QStringList m_destroyed;
@@ -54,9 +58,9 @@ void MainProfileTest::instanceIsOneObject()
 void MainProfileTest::ownsTheModulesInOrder()
 {
     MainProfile profile;
-    const std::vector<Profile *> expected{&profile.dbmCalculator(), &profile.voltageCalculator(),
-                                          &profile.dbConverter(), &profile.unitConverter(),
-                                          &profile.vswrConverter()};
+    const std::vector<ModuleProfile *> expected{
+        &profile.dbmCalculator(), &profile.voltageCalculator(), &profile.dbConverter(),
+        &profile.unitConverter(), &profile.vswrConverter()};
     QCOMPARE(profile.modules(), expected);
     for (const Profile *module : profile.modules())
         QVERIFY(!module->parent());
@@ -66,12 +70,35 @@ void MainProfileTest::destroysTheModulesInReverseOrder()
 {
     auto profile = std::make_unique<MainProfile>();
     for (const Profile *module : profile->modules()) {
-        const QString name = QString::fromLatin1(module->metaObject()->className());
+        const QString name = module->group();
         connect(module, &QObject::destroyed, this, [this, name] { m_destroyed += name; });
     }
     profile.reset();
     QCOMPARE(m_destroyed, words("VswrConverterProfile UnitConverterProfile DbConverterProfile "
                                 "VoltageCalculatorProfile DbmCalculatorProfile"));
+}
+
+/// Whoever hears of the change may calculate at once.
+void MainProfileTest::handsItsDecimalPlacesToTheModules()
+{
+    MainProfile profile;
+    UnitConverterProfile &converter = profile.unitConverter();
+    connect(&profile, &MainProfile::decimalPlacesChanged, &converter,
+            &UnitConverterProfile::calculateFromLogPower);
+    converter.setLogPower(QStringLiteral("5"));
+    converter.calculateFromLogPower();
+    QCOMPARE(converter.linPower(), QStringLiteral("3.16"));
+    profile.setDecimalPlaces(5);
+    QCOMPARE(converter.linPower(), QStringLiteral("3.1623"));
+    for (const ModuleProfile *module : profile.modules())
+        QCOMPARE(module->significantDigits(), 5);
+}
+
+void MainProfileTest::namesTheGroupsThatItStores()
+{
+    QCOMPARE(QString::fromLatin1(MainProfile().storedGroups().join(' ')),
+             QStringLiteral("MainProfile DbmCalculatorProfile VoltageCalculatorProfile "
+                            "DbConverterProfile UnitConverterProfile VswrConverterProfile"));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, MainProfileTest)

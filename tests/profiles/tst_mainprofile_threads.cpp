@@ -12,6 +12,8 @@
 #include <thread>
 #include <vector>
 
+using namespace Dezimo;
+
 /// The first use of the one MainProfile by several threads at once. Nothing else in this program
 /// may touch it before.
 class MainProfileThreadsTest : public QObject

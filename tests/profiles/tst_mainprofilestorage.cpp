@@ -6,6 +6,7 @@
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
+#include "voltagecalculatorprofile.h"
 #include "words.h"
 
 #include <QSettings>
@@ -13,6 +14,8 @@
 
 #include <limits>
 #include <utility>
+
+using namespace Dezimo;
 
 /// How the state of the whole program is kept, in the application's settings and in files.
 class MainProfileStorageTest : public QObject
@@ -325,7 +328,7 @@ void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault()
     changeEverything(loaded);
     loaded.loadSettings(file.settings());
     for (const Profile *profile : everyProfile(loaded)) {
-        if (key.startsWith(QLatin1String(profile->metaObject()->className())))
+        if (key.startsWith(profile->group()))
             QCOMPARE(profile->property(property.constData()).toInt(), expected);
     }
 }

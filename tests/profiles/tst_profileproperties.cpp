@@ -9,6 +9,8 @@
 #include <QMetaMethod>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// What holds for each property of each profile.
 class ProfilePropertiesTest : public QObject
 {
@@ -45,7 +47,7 @@ void addProperties()
     for (int i = 0; i < profiles.count(); ++i) {
         const Profile &profile = profiles.at(i);
         for (const QMetaProperty &property : declaredProperties(profile))
-            QTest::addRow("%s.%s", profile.metaObject()->className(), property.name())
+            QTest::addRow("%s.%s", qPrintable(profile.group()), property.name())
                 << i << QByteArray(property.name());
     }
 }
@@ -107,7 +109,7 @@ void ProfilePropertiesTest::everySignalAnnouncesAProperty_data()
 
     Profiles profiles;
     for (int i = 0; i < profiles.count(); ++i)
-        QTest::newRow(profiles.at(i).metaObject()->className()) << i;
+        QTest::newRow(qPrintable(profiles.at(i).group())) << i;
 }
 
 void ProfilePropertiesTest::everySignalAnnouncesAProperty()

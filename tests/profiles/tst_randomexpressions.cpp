@@ -3,12 +3,9 @@
 
 #include "dbmcalculatorprofile.h"
 #include "errortexts.h"
-#include "mainprofile.h"
 #include "naivecalculator.h"
-#include "powersteps.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
-#include "voltagesteps.h"
 
 #include <QTest>
 
@@ -16,13 +13,14 @@
 #include <cmath>
 #include <random>
 
+using namespace Dezimo;
+
 /// What holds for every text: each test compares the same 20,000 of them in every run.
 class RandomExpressionsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void powersAgreeWithTheNaiveCalculator();
     void voltagesAgreeWithTheNaiveCalculator();
     void garbageEndsInANumberOrANamedText_data();
@@ -173,9 +171,9 @@ Expected shownByVoltages(const Approximate &result, int chosen)
 bool agrees(const QString &output, const Approximate &expected)
 {
     if (expected.failure == Failure::InvalidInput)
-        return output == ErrorText::invalidInput();
+        return output == ErrorText::kInvalidInput;
     if (expected.failure == Failure::UnitMissing)
-        return output == ErrorText::unitMissing();
+        return output == ErrorText::kUnitMissing;
     bool ok = false;
     const double value = output.toDouble(&ok);
     if (!ok || std::isnan(expected.value))
@@ -215,6 +213,7 @@ private:
 /// Calculates @p text and compares what is shown.
 void compare(ExpressionProfile &calculator, const QString &text, const Expected &expected)
 {
+    calculator.setSignificantDigits(kShownDigits);
     calculator.setInput(text);
     calculator.calculate();
     QVERIFY2(
@@ -267,16 +266,11 @@ bool isNumberOrNamedText(const QString &output)
 {
     bool ok = false;
     output.toDouble(&ok);
-    return ok || output == ErrorText::invalidInput() || output == ErrorText::unitMissing() ||
-           output == ErrorText::bracketMissing();
+    return ok || output == ErrorText::kInvalidInput || output == ErrorText::kUnitMissing ||
+           output == ErrorText::kBracketMissing;
 }
 
 } // namespace
-
-void RandomExpressionsTest::init()
-{
-    MainProfile::instance().setDecimalPlaces(kShownDigits);
-}
 
 void RandomExpressionsTest::powersAgreeWithTheNaiveCalculator()
 {

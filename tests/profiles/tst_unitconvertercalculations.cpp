@@ -9,6 +9,8 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 /// The four calculations of the unit converter. A row gives what stands in the fields, the decimal
 /// places and the calculation, and lists everything that differs afterwards.
 class UnitConverterCalculationsTest : public QObject
@@ -16,7 +18,6 @@ class UnitConverterCalculationsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void fromLinPower_data();
     void fromLinPower();
     void fromLinVoltage_data();
@@ -60,7 +61,7 @@ void check(void (UnitConverterProfile::*calculate)())
     QFETCH(PropertyValues, changes);
 
     UnitConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     setProperties(profile, given);
     const QStringList expected = propertyLines(profile, changes);
     (profile.*calculate)();
@@ -77,11 +78,6 @@ PropertyValues filledExcept(const char *edited, const char *text)
 }
 
 } // namespace
-
-void UnitConverterCalculationsTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void UnitConverterCalculationsTest::fromLinPower_data()
 {
@@ -376,7 +372,7 @@ void UnitConverterCalculationsTest::readsThePrecisionAtEveryCalculation()
     UnitConverterProfile profile;
     profile.setLinPower(QStringLiteral("1"));
     profile.calculateFromLinPower();
-    MainProfile::instance().setDecimalPlaces(10);
+    profile.setSignificantDigits(10);
     QCOMPARE(profile.linVoltage(), QStringLiteral("224"));
     profile.calculateFromLinPower();
     QCOMPARE(profile.linVoltage(), QStringLiteral("223.6067977"));

@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 /// Results of the unit converter that no field can show, and impedances that lead to them.
 class UnitConverterNonFiniteTest : public QObject
 {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
@@ -10,13 +9,14 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 /// State, units and storage of the unit converter.
 class UnitConverterProfileTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void startsEmptyAt50Ohm();
     void declaresItsSignalsInOrder();
     void rescales_data();
@@ -54,11 +54,6 @@ QStringList defaultLines()
 }
 
 } // namespace
-
-void UnitConverterProfileTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void UnitConverterProfileTest::startsEmptyAt50Ohm()
 {
@@ -159,7 +154,7 @@ void UnitConverterProfileTest::rescales()
     QFETCH(PropertyValues, changes);
 
     UnitConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     setProperties(profile, given);
     setProperties(profile, unit);
     const QStringList expected = propertyLines(profile, changes);

@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 class VoltageCalculatorInputTest : public QObject
 {
     Q_OBJECT

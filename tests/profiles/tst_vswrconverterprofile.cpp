@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "testmain.h"
@@ -10,13 +9,14 @@
 
 #include <QTest>
 
+using namespace Dezimo;
+
 /// State, units and storage of the VSWR converter.
 class VswrConverterProfileTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void startsEmpty();
     void declaresItsSignalsInOrder();
     void unitSetterRewrites_data();
@@ -64,11 +64,6 @@ QStringList namesOf(const PropertyValues &values)
 }
 
 } // namespace
-
-void VswrConverterProfileTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void VswrConverterProfileTest::startsEmpty()
 {
@@ -161,7 +156,7 @@ void VswrConverterProfileTest::unitSetterRewrites()
     QFETCH(QString, text);
 
     VswrConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     for (const char *name :
          {"r2", "pForward", "pReflected", "pAbsorbed", "vForward", "vReflected", "vAbsorbed"})
         profile.setProperty(name, QStringLiteral("7"));

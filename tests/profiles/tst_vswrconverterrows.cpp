@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "propertyvalues.h"
 #include "testmain.h"
 #include "vswrconverterprofile.h"
 
 #include <QTest>
+
+using namespace Dezimo;
 
 /// The forward, reflected and absorbed rows. In mW and mV the powers and the voltages have the same
 /// numbers, so one table of cases serves both; the other units have tables of their own.
@@ -15,7 +16,6 @@ class VswrConverterRowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void solves_data();
     void solves();
     void writesInOrder_data();
@@ -102,11 +102,6 @@ void calculate(VswrConverterProfile &profile, const QByteArray &slot)
 
 } // namespace
 
-void VswrConverterRowsTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
-
 void VswrConverterRowsTest::solves_data()
 {
     QTest::addColumn<int>("places");
@@ -115,7 +110,7 @@ void VswrConverterRowsTest::solves_data()
     QTest::addColumn<PropertyValues>("changes");
 
     const auto row = [](const char *tag, const char *edited, const char *r2, const Rows &given,
-                        const Rows &after, int places = MainProfile::kDefaultDecimalPlaces) {
+                        const Rows &after, int places = ModuleProfile::kDefaultSignificantDigits) {
         for (const Half *half : {&powers(), &voltages()}) {
             const QString name = half->initial + QStringLiteral(": ") + QString::fromUtf8(tag);
             QTest::newRow(name.toUtf8().constData())
@@ -199,7 +194,7 @@ void VswrConverterRowsTest::solves()
     QFETCH(PropertyValues, changes);
 
     VswrConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     setProperties(profile, given);
     const QStringList expected = propertyLines(profile, changes);
     calculate(profile, slot);
@@ -317,7 +312,7 @@ void VswrConverterRowsTest::converts()
     QFETCH(PropertyValues, changes);
 
     VswrConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(10);
+    profile.setSignificantDigits(10);
     setProperties(profile, given);
     const QStringList expected = propertyLines(profile, changes);
     calculate(profile, slot);

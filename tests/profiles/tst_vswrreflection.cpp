@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-#include "mainprofile.h"
 #include "propertyvalues.h"
 #include "testmain.h"
 #include "vswrconverterprofile.h"
 
 #include <QTest>
+
+using namespace Dezimo;
 
 /// The five calculations of the reflection group. Every row starts with a 9 in each other field of
 /// the group and lists everything that differs afterwards, so an emptied field is seen as well.
@@ -15,7 +16,6 @@ class VswrReflectionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void fromVswr_data();
     void fromVswr();
     void readsALongVswrAtOnce();
@@ -77,7 +77,7 @@ void check(const char *edited, void (VswrConverterProfile::*calculate)())
     QFETCH(PropertyValues, changes);
 
     VswrConverterProfile profile;
-    MainProfile::instance().setDecimalPlaces(places);
+    profile.setSignificantDigits(places);
     fill(profile, edited, text);
     const QStringList expected = propertyLines(profile, changes);
     (profile.*calculate)();
@@ -85,11 +85,6 @@ void check(const char *edited, void (VswrConverterProfile::*calculate)())
 }
 
 } // namespace
-
-void VswrReflectionTest::cleanup()
-{
-    MainProfile::instance().setDecimalPlaces(MainProfile::kDefaultDecimalPlaces);
-}
 
 void VswrReflectionTest::fromVswr_data()
 {

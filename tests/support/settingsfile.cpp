@@ -3,9 +3,11 @@
 
 #include "settingsfile.h"
 
-#include "storetext.h"
+#include "settingstext.h"
 
 #include <QFile>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -25,7 +27,7 @@ QByteArray SettingsFile::text()
 {
     m_settings.sync();
     QFile file(m_settings.fileName());
-    return file.open(QIODevice::ReadOnly) ? arrangedStoreText(file.readAll()) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? SettingsText::arranged(file.readAll()) : QByteArray();
 }
 
 QStringList SettingsFile::lines()

@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFontDatabase>
 
+using namespace Dezimo;
+
 void loadDefaults()
 {
     SettingsFile empty;

@@ -14,6 +14,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+using namespace Dezimo;
+
 class DbConverterWidgetTest : public QObject
 {
     Q_OBJECT

@@ -12,6 +12,8 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Dezimo;
+
 class DbmCalculatorWidgetTest : public QObject
 {
     Q_OBJECT

@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// What the pages share, shown on the dBm calculator's.
 class KeypadCalculatorWidgetTest : public QObject
 {

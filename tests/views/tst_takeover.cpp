@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Dezimo;
+
 /// The calculate key of the two calculators, shown on the dBm calculator's page.
 class TakeOverTest : public QObject
 {

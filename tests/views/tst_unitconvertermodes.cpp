@@ -16,6 +16,8 @@
 
 #include <memory>
 
+using namespace Dezimo;
+
 /// The switch between RMS, peak to peak and average on the unit converter's page.
 class UnitConverterModesTest : public QObject
 {

@@ -11,6 +11,8 @@
 #include <QSpinBox>
 #include <QTest>
 
+using namespace Dezimo;
+
 class VoltageCalculatorWidgetTest : public QObject
 {
     Q_OBJECT

@@ -16,6 +16,8 @@
 
 #include <memory>
 
+using namespace Dezimo;
+
 class VswrConverterWidgetTest : public QObject
 {
     Q_OBJECT

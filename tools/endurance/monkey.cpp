@@ -17,6 +17,8 @@
 #include <array>
 #include <malloc.h>
 
+using namespace Dezimo;
+
 namespace {
 
 constexpr qint64 kSampleMilliseconds = 5000;

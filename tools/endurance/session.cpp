@@ -14,6 +14,8 @@
 
 #include <cstdio>
 
+using namespace Dezimo;
+
 /// Sessions without a person, for scripts that time them or kill them.
 
 namespace {

@@ -12,6 +12,8 @@
 #include <random>
 #include <vector>
 
+using namespace Dezimo;
+
 namespace {
 
 using Random = std::mt19937;

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "calculationfiles.h"
+#include "damagedstorecase.h"
+#include "kelapplication.h"
+#include "mainprofile.h"
+#include "testmain.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTest>
+
+using namespace Dezimo;
+
+using namespace DamagedStore;
+
+/// Such files as calculation files.
+class DamagedFilesTest : public DamagedStoreCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aBadValueLeavesItsNeighbors_data();
+    void aBadValueLeavesItsNeighbors();
+    void bytesWithoutKeysGiveTheDefaults_data();
+    void bytesWithoutKeysGiveTheDefaults();
+    void whatIsNoFileIsLeftAlone_data();
+    void whatIsNoFileIsLeftAlone();
+    void aPipeIsNotOpened();
+    void theCommandLineLeavesAloneWhatCannotBeRead_data();
+    void theCommandLineLeavesAloneWhatCannotBeRead();
+    void savingOverADamagedFileKeepsItBeside();
+    void aDamagedFileThatCannotBeKeptIsLeftAlone();
+    void saveKeepsForeignKeys();
+    void hugeFilesAreLeftAlone();
+};
+
+void DamagedFilesTest::aBadValueLeavesItsNeighbors_data()
+{
+    QTest::addColumn<QByteArray>("value");
+
+    QTest::newRow("lists within lists, two hundred thousand deep") << deeplyNestedLists();
+    QTest::newRow("a list of a huge count") << hugeCount(QMetaType::QVariantList);
+    QTest::newRow("a list of texts of a huge count") << hugeCount(QMetaType::QStringList);
+    QTest::newRow("a map of a huge count") << hugeCount(QMetaType::QVariantMap);
+    QTest::newRow("bytes of a huge count") << hugeCount(QMetaType::QByteArray);
+    QTest::newRow("a text of a huge count") << hugeCount(QMetaType::QString);
+    QTest::newRow("bits of a huge count") << hugeCount(QMetaType::QBitArray);
+    QTest::newRow("an image") << hugeCount(QMetaType::QImage);
+    QTest::newRow("an unknown type") << hugeCount(0x7fff);
+    QTest::newRow("a time") << QByteArray("@DateTime(\\0\\0\\0\\x10\\xff\\xff\\xff\\xff)");
+    QTest::newRow("bytes") << QByteArray("@ByteArray(5W)");
+    QTest::newRow("a list") << QByteArray("5W, 6W");
+    QTest::newRow("a list of a million commas") << QByteArray(1000000, ',');
+    QTest::newRow("a text of 1 MiB") << QByteArray(kMebibyte, '5');
+    QTest::newRow("a text of 100 MiB") << QByteArray(100 * kMebibyte, '5');
+}
+
+void DamagedFilesTest::aBadValueLeavesItsNeighbors()
+{
+    QFETCH(QByteArray, value);
+
+    const QString name = path("a.dezimo");
+    write(name, amongNeighbors(value));
+    CalculationFiles::open(MainProfile::instance(), name);
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("p2LineEdit"), QStringLiteral("7W"));
+    QCOMPARE(fieldText("pDbLineEdit"), QStringLiteral("3.00"));
+    QCOMPARE(MainProfile::instance().dbConverter().currentMode(), 1);
+}
+
+void DamagedFilesTest::bytesWithoutKeysGiveTheDefaults_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("100 MiB of zeros") << QByteArray(100 * kMebibyte, '\0');
+    QTest::newRow("quotes that are never closed") << QByteArray("\"") + amongNeighbors("5W");
+    QTest::newRow("brackets that are never closed") << QByteArray(kMebibyte, '[');
+    QTest::newRow("backslashes") << QByteArray(kMebibyte, '\\');
+    QTest::newRow("equals signs") << QByteArray(kMebibyte, '=');
+}
+
+void DamagedFilesTest::bytesWithoutKeysGiveTheDefaults()
+{
+    QFETCH(QByteArray, text);
+
+    const QString name = path("a.dezimo");
+    write(name, text);
+    CalculationFiles::open(MainProfile::instance(), name);
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    QCOMPARE(fieldText("p2LineEdit"), QString());
+}
+
+void DamagedFilesTest::whatIsNoFileIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero");
+    QTest::newRow("a device that is always full") << QStringLiteral("/dev/full");
+    QTest::newRow("a folder") << QStringLiteral("/");
+}
+
+void DamagedFilesTest::whatIsNoFileIsLeftAlone()
+{
+    QFETCH(QString, name);
+
+    CalculationFiles::save(MainProfile::instance(), name);
+    QVERIFY(!QFileInfo(name).isFile());
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("1W"));
+    CalculationFiles::open(MainProfile::instance(), name);
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+}
+
+/// Opening one would wait for somebody to write into it.
+void DamagedFilesTest::aPipeIsNotOpened()
+{
+    const QString name = path("pipe.dezimo");
+    QVERIFY(makePipe(name));
+    CalculationFiles::save(MainProfile::instance(), name);
+    CalculationFiles::open(MainProfile::instance(), name);
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+}
+
+void DamagedFilesTest::theCommandLineLeavesAloneWhatCannotBeRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+
+    const QString notRegular = QStringLiteral("It is not a regular file");
+    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero") << notRegular;
+    QTest::newRow("a pipe") << QStringLiteral("pipe.dezimo") << notRegular;
+    QTest::newRow("5 GiB") << QStringLiteral("huge.dezimo")
+                           << QStringLiteral("It is larger than 256 MiB");
+    QTest::newRow("a folder") << QStringLiteral("/") << QStringLiteral("It is a folder");
+    QTest::newRow("a link to nothing") << QStringLiteral("link.dezimo") << QString();
+}
+
+void DamagedFilesTest::theCommandLineLeavesAloneWhatCannotBeRead()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, reason);
+
+    QVERIFY(makePipe(path("pipe.dezimo")));
+    QVERIFY(makeHuge(path("huge.dezimo")));
+    QVERIFY(QFile::link(QStringLiteral("nothing"), path("link.dezimo")));
+    const QString file = QDir(QFileInfo(path("pipe.dezimo")).path()).filePath(name);
+    const QString said = CalculationFiles::openFromCommandLine(MainProfile::instance(),
+                                                               {QStringLiteral("dezimo"), file});
+    QVERIFY2(said.startsWith(QStringLiteral("dezimo: cannot open %1: %2").arg(file, reason)),
+             qPrintable(said));
+    QCOMPARE(fieldText("p1LineEdit"), QStringLiteral("1W"));
+}
+
+void DamagedFilesTest::savingOverADamagedFileKeepsItBeside()
+{
+    const QString name = path("a.dezimo");
+    const QByteArray damaged = amongNeighbors(deeplyNestedLists());
+    write(name, damaged);
+    CalculationFiles::save(MainProfile::instance(), name);
+    QCOMPARE(read(path("a.dezimo.damaged")), damaged);
+    const QSettings file(name, QSettings::IniFormat);
+    QCOMPARE(file.value(QStringLiteral("DbConverterProfile/p1")).toString(), QStringLiteral("1W"));
+}
+
+void DamagedFilesTest::aDamagedFileThatCannotBeKeptIsLeftAlone()
+{
+    const QString name = path("a.dezimo");
+    const QByteArray damaged = amongNeighbors(deeplyNestedLists());
+    write(name, damaged);
+    QVERIFY(QDir().mkpath(path("a.dezimo.damaged/folder")));
+    CalculationFiles::save(MainProfile::instance(), name);
+    QCOMPARE(read(name), damaged);
+}
+
+void DamagedFilesTest::saveKeepsForeignKeys()
+{
+    const QString name = path("a.dezimo");
+    write(name, "[Other]\nlist=1, 2\nbytes=@ByteArray(a)\n");
+    CalculationFiles::save(MainProfile::instance(), name);
+    QVERIFY(!QFileInfo::exists(path("a.dezimo.damaged")));
+    QVERIFY(read(name).contains("[Other]\nbytes=@ByteArray(a)\nlist=1, 2\n"));
+    QVERIFY(read(name).contains("\np1=1W\n"));
+}
+
+/// A sparse file takes no room on the disk, yet would take the memory.
+void DamagedFilesTest::hugeFilesAreLeftAlone()
+{
+    const QString name = path("a.dezimo");
+    const qint64 size = qint64(5) * 1024 * kMebibyte;
+    write(name, amongNeighbors("5W"));
+    QVERIFY(QFile::resize(name, size));
+    CalculationFiles::open(MainProfile::instance(), name);
+    QCOMPARE(fieldText("p1LineEdit"), QString());
+    CalculationFiles::save(MainProfile::instance(), name);
+    QCOMPARE(QFileInfo(name).size(), size);
+}
+
+int main(int argc, char **argv)
+{
+    return runTestMain<KelApplication, DamagedFilesTest>(argc, argv, true);
+}
+
+#include "tst_damagedfiles.moc"

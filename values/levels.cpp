@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "levels.h"
+
+#include <cmath>
+
+namespace Dezimo::Levels {
+
+namespace {
+
+/// Computed in more places than the result keeps, because not every C library's own function is
+/// good to the last one: mingw-w64's is wrong by several units there even for whole exponents, and
+/// a limit such as 1e-12 W = -90 dBm would lie on the other side.
+double powerOfTen(double exponent)
+{
+    return static_cast<double>(std::pow(10.0L, static_cast<long double>(exponent)));
+}
+
+} // namespace
+
+double powerRatioFromDb(double db)
+{
+    return powerOfTen(db / 10.0);
+}
+
+double dbFromPowerRatio(double ratio)
+{
+    return 10.0 * std::log10(ratio);
+}
+
+double voltageRatioFromDb(double db)
+{
+    return powerOfTen(db / 20.0);
+}
+
+double dbFromVoltageRatio(double ratio)
+{
+    return 20.0 * std::log10(ratio);
+}
+
+double milliwattFromDbm(double dbm)
+{
+    return powerRatioFromDb(dbm);
+}
+
+double dbmFromMilliwatt(double milliwatt)
+{
+    return dbFromPowerRatio(milliwatt);
+}
+
+double milliwattFromDbw(double dbw)
+{
+    return milliwattFromDbm(dbmFromDbw(dbw));
+}
+
+double dbwFromMilliwatt(double milliwatt)
+{
+    return dbwFromDbm(dbmFromMilliwatt(milliwatt));
+}
+
+double milliwattFromWatt(double watt)
+{
+    return watt * kMilliPerUnit;
+}
+
+double wattFromMilliwatt(double milliwatt)
+{
+    return milliwatt / kMilliPerUnit;
+}
+
+double milliwattFromMicrowatt(double microwatt)
+{
+    return microwatt / kMicroPerMilli;
+}
+
+double microwattFromMilliwatt(double milliwatt)
+{
+    return milliwatt * kMicroPerMilli;
+}
+
+double dbmFromDbw(double dbw)
+{
+    return dbw + kDbwInDbm;
+}
+
+double dbwFromDbm(double dbm)
+{
+    return dbm - kDbwInDbm;
+}
+
+double millivoltFromDbv(double dbv)
+{
+    return voltageRatioFromDb(dbv) * kDbvReferenceMillivolt;
+}
+
+double dbvFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbvReferenceMillivolt);
+}
+
+double millivoltFromDbmicrovolt(double dbmicrovolt)
+{
+    return voltageRatioFromDb(dbmicrovolt) * kDbmicrovoltReferenceMillivolt;
+}
+
+double dbmicrovoltFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbmicrovoltReferenceMillivolt);
+}
+
+double millivoltFromDbu(double dbu)
+{
+    return voltageRatioFromDb(dbu) * kDbuReferenceMillivolt;
+}
+
+double dbuFromMillivolt(double millivolt)
+{
+    return dbFromVoltageRatio(millivolt / kDbuReferenceMillivolt);
+}
+
+double millivoltFromVolt(double volt)
+{
+    return volt * kMilliPerUnit;
+}
+
+double voltFromMillivolt(double millivolt)
+{
+    return millivolt / kMilliPerUnit;
+}
+
+double millivoltFromMilliwatt(double milliwatt, double ohm)
+{
+    return millivoltFromVolt(std::sqrt(wattFromMilliwatt(milliwatt) * ohm));
+}
+
+double milliwattFromMillivolt(double millivolt, double ohm)
+{
+    const double volt = voltFromMillivolt(millivolt);
+    return milliwattFromWatt(volt * volt / ohm);
+}
+
+} // namespace Dezimo::Levels

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VALUES_PREFIXEDVALUE_H
+#define VALUES_PREFIXEDVALUE_H
+
+#include <QString>
+
+#include <optional>
+
+namespace Dezimo {
+
+/**
+ * Reads a number with at most one SI prefix letter (f p n u m k M G T P; micro is the letter u).
+ * The letter may stand anywhere and is removed wherever it stands, so that 4k7 is 47000 and not
+ * 4700; two different letters never parse. The decimal point is "." in every locale.
+ *
+ * @param text the number without its unit; it is consumed: on return it holds what was converted.
+ * @param ok   if given, tells whether the text was a number.
+ * @return the value in the text's own unit, 0 if it was no number.
+ */
+double parsePrefixedValue(QString &text, bool *ok = nullptr);
+
+/// The same for a text that stays as it is: its value, or nothing if it is no number.
+std::optional<double> readPrefixedValue(QString text);
+
+} // namespace Dezimo
+
+#endif

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#ifndef VALUES_UNITS_H
+#define VALUES_UNITS_H
+
+#include "levels.h"
+
+#include <QLatin1String>
+
+#include <cstddef>
+
+namespace Dezimo {
+
+/// How a number in one unit becomes one in the base unit of its quantity (mW for powers, mV RMS for
+/// voltages), and back.
+struct Unit
+{
+    QLatin1String symbol;
+    double (*toBase)(double);
+    double (*fromBase)(double);
+};
+
+/// Every unit of the program, one row each. Selectors, expressions and operands name these rows.
+namespace Units {
+
+constexpr double unchanged(double value)
+{
+    return value;
+}
+
+inline constexpr Unit kMilliwatt{QLatin1String("mW"), unchanged, unchanged};
+inline constexpr Unit kMicrowatt{QLatin1String("\xB5W"), Levels::milliwattFromMicrowatt,
+                                 Levels::microwattFromMilliwatt};
+inline constexpr Unit kWatt{QLatin1String("W"), Levels::milliwattFromWatt,
+                            Levels::wattFromMilliwatt};
+inline constexpr Unit kDbm{QLatin1String("dBm"), Levels::milliwattFromDbm,
+                           Levels::dbmFromMilliwatt};
+inline constexpr Unit kDbw{QLatin1String("dBW"), Levels::milliwattFromDbw,
+                           Levels::dbwFromMilliwatt};
+
+inline constexpr Unit kMillivolt{QLatin1String("mV"), unchanged, unchanged};
+inline constexpr Unit kVolt{QLatin1String("V"), Levels::millivoltFromVolt,
+                            Levels::voltFromMillivolt};
+inline constexpr Unit kDbv{QLatin1String("dBV"), Levels::millivoltFromDbv,
+                           Levels::dbvFromMillivolt};
+inline constexpr Unit kDbmicrovolt{QLatin1String("dB\xB5V"), Levels::millivoltFromDbmicrovolt,
+                                   Levels::dbmicrovoltFromMillivolt};
+inline constexpr Unit kDbu{QLatin1String("dBu"), Levels::millivoltFromDbu,
+                           Levels::dbuFromMillivolt};
+
+/// A ratio and a plain number have no base unit but themselves.
+inline constexpr Unit kDb{QLatin1String("dB"), unchanged, unchanged};
+inline constexpr Unit kNone{QLatin1String(""), unchanged, unchanged};
+
+} // namespace Units
+
+/**
+ * The units of one selector, in its order. An index that names no unit is not an error: it stands
+ * for the unit that the selector gives for all others.
+ */
+class UnitSelector
+{
+public:
+    template <std::size_t Count>
+    constexpr UnitSelector(const Unit (&units)[Count], Unit other)
+        : m_units(units),
+          m_last(static_cast<int>(Count) - 1),
+          m_other(other)
+    {}
+
+    constexpr const Unit &at(int index) const
+    {
+        return index >= 0 && index <= m_last ? m_units[index] : m_other;
+    }
+    /// The index of the last unit.
+    constexpr int last() const { return m_last; }
+
+private:
+    const Unit *m_units;
+    int m_last;
+    Unit m_other;
+};
+
+} // namespace Dezimo
+
+#endif

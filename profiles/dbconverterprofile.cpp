@@ -68,7 +68,7 @@ ComparedOperand readCompared(QString text)
     const std::optional<double> value = readPrefixedValue(text);
     if (!value)
         return {unit, false, 0.0};
-    return {unit, true, isInWatts(unit) ? *value : Levels::wattFromMilliwatt(unit.toBase(*value))};
+    return {unit, true, isInWatts(unit) ? *value : Units::kWatt.fromBase(unit.toBase(*value))};
 }
 
 bool isUnitMismatch(const ComparedOperand &first, const ComparedOperand &second)
@@ -112,52 +112,32 @@ void DbConverterProfile::loadSettings(QSettings &settings)
     loadGroup(*this, settings, group(), converterKeys());
 }
 
-void DbConverterProfile::calculateFromP1()
-{
-    m_powers.run(&Half::finishFirst, kPowers.operandRun, kPowers.operandRun);
-}
-
-void DbConverterProfile::calculateFromP2()
-{
-    m_powers.run(&Half::finishSecond, kPowers.secondGuard, kPowers.operandRun);
-}
-
-void DbConverterProfile::calculateFromPRatio()
-{
-    m_powers.run(&Half::finishRatio, kPowers.ratioRun, kPowers.ratioRun);
-}
-
-void DbConverterProfile::calculateFromPDb()
-{
-    m_powers.run(&Half::finishDb, kPowers.dbRun, kPowers.dbRun);
-}
-
-void DbConverterProfile::calculateFromV1()
-{
-    m_voltages.run(&Half::finishFirst, kVoltages.operandRun, kVoltages.operandRun);
-}
-
-void DbConverterProfile::calculateFromV2()
-{
-    m_voltages.run(&Half::finishSecond, kVoltages.secondGuard, kVoltages.operandRun);
-}
-
-void DbConverterProfile::calculateFromVRatio()
-{
-    m_voltages.run(&Half::finishRatio, kVoltages.ratioRun, kVoltages.ratioRun);
-}
-
-void DbConverterProfile::calculateFromVDb()
-{
-    m_voltages.run(&Half::finishDb, kVoltages.dbRun, kVoltages.dbRun);
-}
-
 void DbConverterProfile::Half::run(void (Half::*finish)(), int guard, int code)
 {
     if (latestRun.get() == guard)
         return;
     (this->*finish)();
     latestRun.set(code);
+}
+
+void DbConverterProfile::Half::calculateFromFirst()
+{
+    run(&Half::finishFirst, rule.operandRun, rule.operandRun);
+}
+
+void DbConverterProfile::Half::calculateFromSecond()
+{
+    run(&Half::finishSecond, rule.secondGuard, rule.operandRun);
+}
+
+void DbConverterProfile::Half::calculateFromRatio()
+{
+    run(&Half::finishRatio, rule.ratioRun, rule.ratioRun);
+}
+
+void DbConverterProfile::Half::calculateFromDb()
+{
+    run(&Half::finishDb, rule.dbRun, rule.dbRun);
 }
 
 void DbConverterProfile::Half::finishFirst()
@@ -225,7 +205,7 @@ void DbConverterProfile::Half::finishDb()
 
 QString DbConverterProfile::Half::operandText(double watt, const Unit &unit) const
 {
-    const double value = isInWatts(unit) ? watt : unit.fromBase(Levels::milliwattFromWatt(watt));
+    const double value = isInWatts(unit) ? watt : unit.fromBase(Units::kWatt.toBase(watt));
     return generalText(value, model.significantDigits()) + unit.symbol;
 }
 

@@ -71,14 +71,14 @@ public:
     void loadSettings(QSettings &settings) override;
 
 public Q_SLOTS:
-    void calculateFromP1();
-    void calculateFromP2();
-    void calculateFromPRatio();
-    void calculateFromPDb();
-    void calculateFromV1();
-    void calculateFromV2();
-    void calculateFromVRatio();
-    void calculateFromVDb();
+    void calculateFromP1() { m_powers.calculateFromFirst(); }
+    void calculateFromP2() { m_powers.calculateFromSecond(); }
+    void calculateFromPRatio() { m_powers.calculateFromRatio(); }
+    void calculateFromPDb() { m_powers.calculateFromDb(); }
+    void calculateFromV1() { m_voltages.calculateFromFirst(); }
+    void calculateFromV2() { m_voltages.calculateFromSecond(); }
+    void calculateFromVRatio() { m_voltages.calculateFromRatio(); }
+    void calculateFromVDb() { m_voltages.calculateFromDb(); }
 
 Q_SIGNALS:
     void p1Changed();
@@ -108,13 +108,17 @@ private:
         /// Whose digits the results have.
         const ModuleProfile &model;
 
+        void calculateFromFirst();
+        void calculateFromSecond();
+        void calculateFromRatio();
+        void calculateFromDb();
+
+    private:
         void run(void (Half::*finish)(), int guard, int code);
         void finishFirst();
         void finishSecond();
         void finishRatio();
         void finishDb();
-
-    private:
         QString operandText(double watt, const Unit &unit) const;
         void showRatio(double linear);
         void showDbOf(double linear);

@@ -150,14 +150,13 @@ void UnitConverterProfile::calculateFromLogVoltage()
 
 void UnitConverterProfile::rescaleLinPower()
 {
-    m_linPower.rescale(linPowerUnit() == kLargerUnit ? Levels::wattFromMilliwatt
-                                                     : Levels::milliwattFromWatt);
+    m_linPower.rescale(linPowerUnit() == kLargerUnit ? Units::kWatt.fromBase : Units::kWatt.toBase);
 }
 
 void UnitConverterProfile::rescaleLinVoltage()
 {
-    m_linVoltage.rescale(linVoltageUnit() == kLargerUnit ? Levels::voltFromMillivolt
-                                                         : Levels::millivoltFromVolt);
+    m_linVoltage.rescale(linVoltageUnit() == kLargerUnit ? Units::kVolt.fromBase
+                                                         : Units::kVolt.toBase);
 }
 
 void UnitConverterProfile::rescaleLogPower()

@@ -145,26 +145,6 @@ void VswrConverterProfile::calculateFromVswr()
     setAm(mismatchLossText(reflection, significantDigits()));
 }
 
-void VswrConverterProfile::calculateFromR()
-{
-    finishQuantity(m_r);
-}
-
-void VswrConverterProfile::calculateFromR2()
-{
-    finishQuantity(m_r2);
-}
-
-void VswrConverterProfile::calculateFromAr()
-{
-    finishQuantity(m_ar);
-}
-
-void VswrConverterProfile::calculateFromAm()
-{
-    finishQuantity(m_am);
-}
-
 /// The value of the quantity that was finished. There is none in an empty field, which is left
 /// alone, nor in one that holds no valid number, which is rejected.
 std::optional<double> VswrConverterProfile::readEdited(Quantity &edited)

@@ -107,16 +107,16 @@ public:
 
 public Q_SLOTS:
     void calculateFromVswr();
-    void calculateFromR();
-    void calculateFromR2();
-    void calculateFromAr();
-    void calculateFromAm();
-    void calculateFromPForward();
-    void calculateFromPReflected();
-    void calculateFromPAbsorbed();
-    void calculateFromVForward();
-    void calculateFromVReflected();
-    void calculateFromVAbsorbed();
+    void calculateFromR() { finishQuantity(m_r); }
+    void calculateFromR2() { finishQuantity(m_r2); }
+    void calculateFromAr() { finishQuantity(m_ar); }
+    void calculateFromAm() { finishQuantity(m_am); }
+    void calculateFromPForward() { finishForward(m_powers); }
+    void calculateFromPReflected() { finishReflected(m_powers); }
+    void calculateFromPAbsorbed() { finishAbsorbed(m_powers); }
+    void calculateFromVForward() { finishForward(m_voltages); }
+    void calculateFromVReflected() { finishReflected(m_voltages); }
+    void calculateFromVAbsorbed() { finishAbsorbed(m_voltages); }
 
 Q_SIGNALS:
     void vswrChanged();

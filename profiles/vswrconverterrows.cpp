@@ -57,36 +57,6 @@ void VswrConverterProfile::Row::setUnit(int newUnit)
     unit.set(newUnit);
 }
 
-void VswrConverterProfile::calculateFromPForward()
-{
-    finishForward(m_powers);
-}
-
-void VswrConverterProfile::calculateFromPReflected()
-{
-    finishReflected(m_powers);
-}
-
-void VswrConverterProfile::calculateFromPAbsorbed()
-{
-    finishAbsorbed(m_powers);
-}
-
-void VswrConverterProfile::calculateFromVForward()
-{
-    finishForward(m_voltages);
-}
-
-void VswrConverterProfile::calculateFromVReflected()
-{
-    finishReflected(m_voltages);
-}
-
-void VswrConverterProfile::calculateFromVAbsorbed()
-{
-    finishAbsorbed(m_voltages);
-}
-
 void VswrConverterProfile::finishForward(Rows &rows)
 {
     const std::optional<double> forward = rows.forward.readEdited();

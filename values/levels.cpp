@@ -59,26 +59,6 @@ double dbwFromMilliwatt(double milliwatt)
     return dbwFromDbm(dbmFromMilliwatt(milliwatt));
 }
 
-double milliwattFromWatt(double watt)
-{
-    return watt * kMilliPerUnit;
-}
-
-double wattFromMilliwatt(double milliwatt)
-{
-    return milliwatt / kMilliPerUnit;
-}
-
-double milliwattFromMicrowatt(double microwatt)
-{
-    return microwatt / kMicroPerMilli;
-}
-
-double microwattFromMilliwatt(double milliwatt)
-{
-    return milliwatt * kMicroPerMilli;
-}
-
 double dbmFromDbw(double dbw)
 {
     return dbw + kDbwInDbm;
@@ -119,25 +99,15 @@ double dbuFromMillivolt(double millivolt)
     return dbFromVoltageRatio(millivolt / kDbuReferenceMillivolt);
 }
 
-double millivoltFromVolt(double volt)
-{
-    return volt * kMilliPerUnit;
-}
-
-double voltFromMillivolt(double millivolt)
-{
-    return millivolt / kMilliPerUnit;
-}
-
 double millivoltFromMilliwatt(double milliwatt, double ohm)
 {
-    return millivoltFromVolt(std::sqrt(wattFromMilliwatt(milliwatt) * ohm));
+    return std::sqrt(milliwatt / kMilliPerUnit * ohm) * kMilliPerUnit;
 }
 
 double milliwattFromMillivolt(double millivolt, double ohm)
 {
-    const double volt = voltFromMillivolt(millivolt);
-    return milliwattFromWatt(volt * volt / ohm);
+    const double volt = millivolt / kMilliPerUnit;
+    return volt * volt / ohm * kMilliPerUnit;
 }
 
 } // namespace Dezimo::Levels

@@ -16,7 +16,6 @@ namespace Dezimo::Levels {
 /// 0 dBW is 1 W, that is 30 dBm.
 constexpr double kDbwInDbm = 30.0;
 constexpr double kMilliPerUnit = 1000.0;
-constexpr double kMicroPerMilli = 1000.0;
 
 /// The voltages that stand at 0 dB. dBu is meant to be referred to 0.775 V as it is printed on
 /// equipment, not to the 0.7746 V that follow from 1 mW in 600 ohm.
@@ -33,10 +32,6 @@ double milliwattFromDbm(double dbm);
 double dbmFromMilliwatt(double milliwatt);
 double milliwattFromDbw(double dbw);
 double dbwFromMilliwatt(double milliwatt);
-double milliwattFromWatt(double watt);
-double wattFromMilliwatt(double milliwatt);
-double milliwattFromMicrowatt(double microwatt);
-double microwattFromMilliwatt(double milliwatt);
 double dbmFromDbw(double dbw);
 double dbwFromDbm(double dbm);
 
@@ -46,8 +41,6 @@ double millivoltFromDbmicrovolt(double dbmicrovolt);
 double dbmicrovoltFromMillivolt(double millivolt);
 double millivoltFromDbu(double dbu);
 double dbuFromMillivolt(double millivolt);
-double millivoltFromVolt(double volt);
-double voltFromMillivolt(double millivolt);
 
 /// P = V^2 / R. A resistance below zero gives a voltage that is not a number.
 double millivoltFromMilliwatt(double milliwatt, double ohm);

@@ -24,24 +24,28 @@ struct Unit
 /// Every unit of the program, one row each. Selectors, expressions and operands name these rows.
 namespace Units {
 
-constexpr double unchanged(double value)
+/// A linear unit is so many base units, or so many of it are one.
+template <int factor>
+double times(double value)
 {
-    return value;
+    return value * factor;
+}
+template <int divisor>
+double over(double value)
+{
+    return value / divisor;
 }
 
-inline constexpr Unit kMilliwatt{QLatin1String("mW"), unchanged, unchanged};
-inline constexpr Unit kMicrowatt{QLatin1String("\xB5W"), Levels::milliwattFromMicrowatt,
-                                 Levels::microwattFromMilliwatt};
-inline constexpr Unit kWatt{QLatin1String("W"), Levels::milliwattFromWatt,
-                            Levels::wattFromMilliwatt};
+inline constexpr Unit kMilliwatt{QLatin1String("mW"), times<1>, over<1>};
+inline constexpr Unit kMicrowatt{QLatin1String("\xB5W"), over<1000>, times<1000>};
+inline constexpr Unit kWatt{QLatin1String("W"), times<1000>, over<1000>};
 inline constexpr Unit kDbm{QLatin1String("dBm"), Levels::milliwattFromDbm,
                            Levels::dbmFromMilliwatt};
 inline constexpr Unit kDbw{QLatin1String("dBW"), Levels::milliwattFromDbw,
                            Levels::dbwFromMilliwatt};
 
-inline constexpr Unit kMillivolt{QLatin1String("mV"), unchanged, unchanged};
-inline constexpr Unit kVolt{QLatin1String("V"), Levels::millivoltFromVolt,
-                            Levels::voltFromMillivolt};
+inline constexpr Unit kMillivolt{QLatin1String("mV"), times<1>, over<1>};
+inline constexpr Unit kVolt{QLatin1String("V"), times<1000>, over<1000>};
 inline constexpr Unit kDbv{QLatin1String("dBV"), Levels::millivoltFromDbv,
                            Levels::dbvFromMillivolt};
 inline constexpr Unit kDbmicrovolt{QLatin1String("dB\xB5V"), Levels::millivoltFromDbmicrovolt,
@@ -50,8 +54,8 @@ inline constexpr Unit kDbu{QLatin1String("dBu"), Levels::millivoltFromDbu,
                            Levels::dbuFromMillivolt};
 
 /// A ratio and a plain number have no base unit but themselves.
-inline constexpr Unit kDb{QLatin1String("dB"), unchanged, unchanged};
-inline constexpr Unit kNone{QLatin1String(""), unchanged, unchanged};
+inline constexpr Unit kDb{QLatin1String("dB"), times<1>, over<1>};
+inline constexpr Unit kNone{QLatin1String(""), times<1>, over<1>};
 
 } // namespace Units
 

@@ -25,8 +25,8 @@ private Q_SLOTS:
 namespace {
 
 /// Units of which one begins as another does.
-constexpr Unit kI{QLatin1String("i"), Units::unchanged, Units::unchanged};
-constexpr Unit kIn{QLatin1String("in"), Units::unchanged, Units::unchanged};
+constexpr Unit kI{QLatin1String("i"), Units::times<1>, Units::over<1>};
+constexpr Unit kIn{QLatin1String("in"), Units::times<1>, Units::over<1>};
 
 /// A calculator of lengths, in the order of the search.
 const ExpressionUnits &lengths()

@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr Unit kYard{QLatin1String("y"), Units::unchanged, Units::unchanged};
+constexpr Unit kYard{QLatin1String("y"), Units::times<1>, Units::over<1>};
 
 const ExpressionUnits &lengths()
 {

@@ -6,12 +6,6 @@
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
 #include <windows.h>
 
 /// Every window is told that the session ends, those that Qt hides too, and the first one counts.

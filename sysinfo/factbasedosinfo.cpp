@@ -80,31 +80,6 @@ QVector<OSInfo::Entry> driverEntries(const QString &key,
 
 } // namespace
 
-QString FactBasedOSInfo::productName() const
-{
-    return text(Fact::ProductName);
-}
-
-QString FactBasedOSInfo::country() const
-{
-    return text(Fact::Country);
-}
-
-QString FactBasedOSInfo::language() const
-{
-    return text(Fact::Language);
-}
-
-QString FactBasedOSInfo::localeId() const
-{
-    return text(Fact::LocaleId);
-}
-
-QString FactBasedOSInfo::sensorControlVersion() const
-{
-    return text(Fact::SensorControl);
-}
-
 QVector<OSInfo::Section> FactBasedOSInfo::systemInformation() const
 {
     QVector<Section> sections;

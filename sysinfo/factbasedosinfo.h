@@ -45,11 +45,11 @@ public:
         QString version;
     };
 
-    QString productName() const final;
-    QString country() const final;
-    QString language() const final;
-    QString localeId() const final;
-    QString sensorControlVersion() const final;
+    QString productName() const final { return text(Fact::ProductName); }
+    QString country() const final { return text(Fact::Country); }
+    QString language() const final { return text(Fact::Language); }
+    QString localeId() const final { return text(Fact::LocaleId); }
+    QString sensorControlVersion() const final { return text(Fact::SensorControl); }
     QVector<Section> systemInformation() const final;
     QVector<Section> driverInformation() const final;
 

@@ -7,12 +7,6 @@
 #include <array>
 #include <cstring>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
 #include <windows.h>
 
 namespace {
@@ -41,35 +35,12 @@ HKEY rootKey(WindowsHost::Hive hive)
     return hive == WindowsHost::Hive::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
 }
 
-const char *fieldName(WindowsHost::VersionField field)
-{
-    using Field = WindowsHost::VersionField;
-    switch (field) {
-    case Field::Comments:
-        return "Comments";
-    case Field::CompanyName:
-        return "CompanyName";
-    case Field::FileDescription:
-        return "FileDescription";
-    case Field::InternalName:
-        return "InternalName";
-    case Field::LegalCopyright:
-        return "LegalCopyright";
-    case Field::LegalTrademarks:
-        return "LegalTrademarks";
-    case Field::OriginalFileName:
-        return "OriginalFileName";
-    case Field::ProductName:
-        return "ProductName";
-    case Field::PrivateBuild:
-        return "PrivateBuild";
-    case Field::SpecialBuild:
-        return "SpecialBuild";
-    case Field::FileVersion:
-        return "FileVersion";
-    }
-    return "";
-}
+/// In the order of WindowsHost::VersionField.
+constexpr const char *kFieldNames[] = {
+    "Comments",       "CompanyName",     "FileDescription",  "InternalName",
+    "LegalCopyright", "LegalTrademarks", "OriginalFileName", "ProductName",
+    "PrivateBuild",   "SpecialBuild",    "FileVersion",
+};
 
 /// Empty if the file is missing or has no version resource.
 VersionResource versionResource(const QString &path)
@@ -157,7 +128,7 @@ QString Win32Host::versionField(const QString &path, VersionField field) const
     if (block.isEmpty())
         return QString();
     const ResourceValue value =
-        resourceValue(resource, block + QLatin1String(fieldName(field)), sizeof(wchar_t));
+        resourceValue(resource, block + QLatin1String(kFieldNames[int(field)]), sizeof(wchar_t));
     std::vector<wchar_t> text(value.size / sizeof(wchar_t));
     if (!text.empty())
         std::memcpy(text.data(), value.data, text.size() * sizeof(wchar_t));

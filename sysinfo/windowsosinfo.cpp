@@ -92,34 +92,13 @@ QString WindowsOSInfo::fact(Fact fact) const
         if (row.fact == fact)
             return m_host->versionField(below(m_host->systemFolder(), row.fileName), row.field);
     }
-    switch (fact) {
-    case Fact::InstallDate:
+    if (fact == Fact::InstallDate)
         return installDate();
-    case Fact::AdminRights:
+    if (fact == Fact::AdminRights)
         return adminRights();
-    case Fact::InternetExplorer:
+    if (fact == Fact::InternetExplorer)
         return internetExplorerVersion();
-    case Fact::IeeeDriver:
-        return ieeeDriverVersion();
-    case Fact::ProductName:
-    case Fact::Country:
-    case Fact::Language:
-    case Fact::LocaleId:
-    case Fact::VbRuntime:
-    case Fact::CviRuntime:
-    case Fact::MsiRuntime:
-    case Fact::NiAnalysis:
-    case Fact::NiUserInterface:
-    case Fact::Ni3dGraph:
-    case Fact::VisaName:
-    case Fact::VisaVersion:
-    case Fact::VisaCompany:
-    case Fact::RemoteControl:
-    case Fact::SensorControl:
-        // These are in the tables above.
-        break;
-    }
-    return QString();
+    return fact == Fact::IeeeDriver ? ieeeDriverVersion() : QString();
 }
 
 std::optional<QVector<FactBasedOSInfo::Driver>> WindowsOSInfo::drivers(DriverKind kind) const

@@ -20,6 +20,7 @@ qt_headers=$(QT_SELECT=qt5 qmake -query QT_INSTALL_HEADERS)
 options=cmake/DezimoOptions.cmake
 warnings=$(grep -o -e '-W[a-z][a-z0-9=-]*' "$options")
 definitions=$(sed -n 's/^ *\(QT_[A-Z_]*\(=[0-9a-fx]*\)\{0,1\}\))*$/-D\1/p' "$options")
+definitions="$definitions$(sed -n 's/^ *\$<\$<PLATFORM_ID:Windows>:\([A-Z0-9_]*\)>$/ -D\1/p' "$options")"
 moc=$(QT_SELECT=qt5 qmake -query QT_HOST_BINS)/moc
 made=$(mktemp -d)
 trap 'rm -rf "$made"' EXIT

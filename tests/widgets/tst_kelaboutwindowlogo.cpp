@@ -52,7 +52,7 @@ QImage drawing(const QString &path, const QSize &size)
 // The resource macros must not stand inside a class or a namespace.
 static void removeIcons()
 {
-    Q_CLEANUP_RESOURCE(icons);
+    Q_CLEANUP_RESOURCE(themes);
 }
 
 void KelAboutWindowLogoTest::initTestCase()

@@ -23,33 +23,27 @@ constexpr double kPeakToPeakPerRms = 2.82842714;
 /// Average of a rectified sine of 1 V RMS.
 constexpr double kAveragePerRms = kPeakToPeakPerRms / kPi;
 
-/// The voltage modes are units of a sine: of its peak-to-peak and of its average value.
-constexpr Unit kPeakToPeak{QLatin1String("Vpp"), [](double vpp) { return vpp / kPeakToPeakPerRms; },
-                           [](double rms) {
-                               return rms * kPeakToPeakPerRms;
-                           }};
-constexpr Unit kAverage{QLatin1String("Vavg"), [](double vavg) { return vavg / kAveragePerRms; },
-                        [](double rms) {
-                            return rms * kAveragePerRms;
-                        }};
+/// What a voltage field shows of a sine of 1 V RMS, in the order of the voltage modes.
+constexpr double kShownPerRms[] = {1.0, kPeakToPeakPerRms, kAveragePerRms};
+constexpr int kLastVoltageMode = int(std::size(kShownPerRms)) - 1;
+
+double zero(double)
+{
+    return 0.0;
+}
+
 /// A voltage level in an unknown unit is 0, whatever the voltage.
-constexpr Unit kNoUnit{QLatin1String(""), [](double) { return 0.0; },
-                       [](double) {
-                           return 0.0;
-                       }};
+constexpr Unit kNoUnit{QLatin1String(""), zero, zero};
 
 constexpr Unit kLogPowerRows[] = {Units::kDbm, Units::kDbw};
 constexpr Unit kLinPowerRows[] = {Units::kMilliwatt, Units::kWatt};
 constexpr Unit kLogVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kDbu};
 constexpr Unit kLinVoltageRows[] = {Units::kMillivolt, Units::kVolt};
-constexpr Unit kVoltageModeRows[] = {Units::kMillivolt, kPeakToPeak, kAverage};
 
 constexpr UnitSelector kLogPowerUnits(kLogPowerRows, Units::kDbm);
 constexpr UnitSelector kLinPowerUnits(kLinPowerRows, Units::kMilliwatt);
 constexpr UnitSelector kLogVoltageUnits(kLogVoltageRows, kNoUnit);
 constexpr UnitSelector kLinVoltageUnits(kLinVoltageRows, Units::kMillivolt);
-/// What a voltage field shows, from and to mV RMS.
-constexpr UnitSelector kVoltageModes(kVoltageModeRows, Units::kMillivolt);
 
 /// The larger one of two units: dBW, W or V.
 constexpr int kLargerUnit = 1;
@@ -66,7 +60,7 @@ const StoredKeys &converterKeys()
         {"linPower", QString()},
         {"logVoltage", QString()},
         {"linVoltage", QString()},
-        {"voltageMode", 0, upTo(kVoltageModes.last())},
+        {"voltageMode", 0, upTo(kLastVoltageMode)},
     };
     return rows;
 }
@@ -121,7 +115,7 @@ void UnitConverterProfile::calculateFromLinVoltage()
     const std::optional<double> millivolt = readEdited(m_linVoltage);
     if (!millivolt)
         return;
-    const double rms = kVoltageModes.at(voltageMode()).toBase(*millivolt);
+    const double rms = *millivolt / shownPerRms();
     showPowersOf(rms);
     // The level is that of the RMS value in every mode, unlike the level that a power gives.
     m_logVoltage.showBaseValue(rms);
@@ -144,7 +138,7 @@ void UnitConverterProfile::calculateFromLogVoltage()
     if (!millivolt)
         return;
     m_linVoltage.showBaseValue(*millivolt);
-    showPowersOf(kVoltageModes.at(voltageMode()).toBase(*millivolt));
+    showPowersOf(*millivolt / shownPerRms());
     clearNonFiniteResults(m_logVoltage);
 }
 
@@ -239,7 +233,7 @@ void UnitConverterProfile::reject(Field &edited)
 void UnitConverterProfile::showVoltagesOf(double milliwatt)
 {
     const double rms = Levels::millivoltFromMilliwatt(milliwatt, readImpedance());
-    const double millivolt = kVoltageModes.at(voltageMode()).fromBase(rms);
+    const double millivolt = rms * shownPerRms();
     m_linVoltage.showBaseValue(millivolt);
     m_logVoltage.showBaseValue(millivolt);
 }
@@ -259,6 +253,13 @@ void UnitConverterProfile::clearNonFiniteResults(const Field &edited)
     m_linVoltage.clearNonFinite();
     if (&edited != &m_linPower)
         m_linPower.clearNonFinite();
+}
+
+/// A mode that is none of the selector's shows RMS values.
+double UnitConverterProfile::shownPerRms() const
+{
+    const int mode = voltageMode();
+    return mode >= 0 && mode <= kLastVoltageMode ? kShownPerRms[mode] : 1.0;
 }
 
 /// In ohms. An impedance that does not parse is marked, and the calculation goes on with what the

@@ -128,6 +128,7 @@ private:
     void showVoltagesOf(double milliwatt);
     void showPowersOf(double millivoltRms);
     void clearNonFiniteResults(const Field &edited);
+    double shownPerRms() const;
     double readImpedance();
 
     static const Rule kLogPower;

@@ -26,8 +26,8 @@ const StoredKeys &converterKeys()
     return rows;
 }
 
-/// Up to this a denominator or a ratio counts as zero. In watts it is the power of -90 dBm: only
-/// finishing the second operand tests for exact zero.
+/// A denominator or a ratio up to this is taken for zero. In watts it is the power of -90 dBm.
+/// Only finishing the second operand tests for exact zero.
 constexpr double kZeroTolerance = 1e-12;
 
 /// One operand as it was read. A derived partner is written in the same unit.
@@ -55,8 +55,8 @@ const Unit &takeUnit(QString &text)
     return *unit;
 }
 
-/// Operands are compared in watts, and so is a plain number. Neither makes the detour over
-/// milliwatts, which would cost the last digit.
+/// Operands are compared in watts, and so are plain numbers. A detour over milliwatts would cost
+/// the last digit.
 bool isInWatts(const Unit &unit)
 {
     return &unit == &Units::kWatt || &unit == &Units::kNone;
@@ -84,9 +84,9 @@ bool isZero(double value)
 
 } // namespace
 
-/// What tells powers from voltages. A run code is written by its calculation and makes it skip; the
-/// second operand's guard is written by none, so finishing the second operand always calculates and
-/// then reads as if the first one had been finished.
+/// What tells powers from voltages. A calculation writes its run code and skips when it finds it.
+/// None writes the guard of the second operand, so finishing that one always calculates; it then
+/// leaves the code of the first.
 struct DbConverterProfile::Rule
 {
     double (*dbFromRatio)(double);
@@ -227,7 +227,7 @@ void DbConverterProfile::Half::clearResults(const QString &ratioText)
     db.set(QString());
 }
 
-/// The present operand's unit is the derived one's as well.
+/// A derived operand gets the unit of the one that is there.
 void DbConverterProfile::Half::deriveFirst(double linear)
 {
     const ComparedOperand denominator = readCompared(second.get());

@@ -18,11 +18,11 @@ struct Unit;
  * once for voltages (V1, V2). Finishing any of the four fields of a half computes the others.
  *
  * An operand is a plain number or one in W, dBm or dBW; both are compared in watts, and the same
- * unit words are read on the voltage side. Error texts stand in the field that they replace and are
+ * unit words are read on the voltage side. Error texts replace the text of a field and are
  * read back like any other text.
  *
- * The latest-run codes keep a field that is left again without typing from being calculated twice:
- * a calculation that finds its own code does nothing, and typing sets the code to 0.
+ * The latest-run codes keep a field from being calculated twice when it is left again without
+ * typing: a calculation that finds its own code does nothing, and typing sets the code to 0.
  */
 class DbConverterProfile final : public ModuleProfile
 {

@@ -13,7 +13,7 @@ namespace Dezimo {
 /**
  * Base of every model. A profile holds the values of one concern as the texts a person sees,
  * announces each real change by a signal without arguments, and keeps its values in a group of its
- * own in a settings store. It reports nothing: bad input becomes an error text in a property.
+ * own in a settings store. Bad input becomes an error text in a property.
  */
 class Profile : public QObject
 {

@@ -17,8 +17,8 @@ using namespace Dezimo;
 
 namespace {
 
-/// Peak-to-peak value of a sine of 1 V RMS. That it is cut after eight decimals, and not a computed
-/// 2 * sqrt(2), is meant; ten digits show the difference.
+/// Peak-to-peak value of a sine of 1 V RMS. It is cut after eight decimals on purpose and not
+/// computed as 2 * sqrt(2); ten digits show the difference.
 constexpr double kPeakToPeakPerRms = 2.82842714;
 /// Average of a rectified sine of 1 V RMS.
 constexpr double kAveragePerRms = kPeakToPeakPerRms / kPi;
@@ -194,8 +194,8 @@ void UnitConverterProfile::Field::clearNonFinite()
         show(QString());
 }
 
-/// A value that is infinite or no number in the new unit leaves the field empty, as the result of a
-/// calculation would: a word is no quantity that could be kept.
+/// A value that is infinite or not a number in the new unit leaves the field empty, as the result
+/// of a calculation would: no quantity could be read from the word for it.
 void UnitConverterProfile::Field::rescale(const std::function<double(double)> &toNewUnit)
 {
     const std::optional<double> value = readPrefixedValue(text.get());
@@ -205,8 +205,8 @@ void UnitConverterProfile::Field::rescale(const std::function<double(double)> &t
     clearNonFinite();
 }
 
-/// The value of the field that was finished, in mW or mV. There is none in an empty field, which is
-/// left alone, nor in one that holds no usable number, which is rejected.
+/// The value of the field that was finished, in mW or mV. An empty field has none and is left
+/// alone; one without a usable number is rejected.
 std::optional<double> UnitConverterProfile::readEdited(Field &edited)
 {
     if (edited.text.get().isEmpty())
@@ -228,8 +228,8 @@ void UnitConverterProfile::reject(Field &edited)
     }
 }
 
-/// Both voltages of a power are those of the voltage mode; the level is taken of the same value
-/// that the linear field shows, which is meant.
+/// Both voltages of a power are those of the voltage mode: on purpose the level is that of the
+/// value in the linear field, and not of the RMS value.
 void UnitConverterProfile::showVoltagesOf(double milliwatt)
 {
     const double rms = Levels::millivoltFromMilliwatt(milliwatt, readImpedance());
@@ -262,8 +262,8 @@ double UnitConverterProfile::shownPerRms() const
     return mode >= 0 && mode <= kLastVoltageMode ? kShownPerRms[mode] : 1.0;
 }
 
-/// In ohms. An impedance that does not parse is marked, and the calculation goes on with what the
-/// parser made of it: 0 for a word, infinity for a number beyond all numbers.
+/// In ohms. Marks an impedance that does not parse. The calculation then goes on with what the
+/// parser made of it: 0 for a word, infinity for a number that is too large.
 double UnitConverterProfile::readImpedance()
 {
     QString text = impedance();

@@ -18,11 +18,11 @@ using namespace Dezimo;
 
 namespace {
 
-/// A VSWR this near to 1 counts as matched.
+/// A port with a VSWR this near to 1 is matched.
 constexpr double kMatchTolerance = 1e-12;
-/// The largest reflection coefficient that is accepted. That it is 100, as for the percentage, and
-/// not 1 is meant: values above 1 are computed as they come, to a negative VSWR and a mismatch loss
-/// that is not a number.
+/// The largest reflection coefficient that is accepted. It is 100 on purpose, as for the
+/// percentage, and not 1: values above 1 are computed as they come, to a negative VSWR and a
+/// mismatch loss that is not a number.
 constexpr double kMaximumReflection = 100.0;
 constexpr double kNoMaximum = std::numeric_limits<double>::infinity();
 
@@ -130,8 +130,8 @@ void VswrConverterProfile::loadSettings(QSettings &settings)
     loadGroup(*this, settings, group(), textKeys());
 }
 
-/// That the return loss is shown for a match only, where it is infinite, and left empty for every
-/// other VSWR is meant.
+/// Shows a return loss only for a match, where it is infinite. It stays empty on purpose for every
+/// other VSWR.
 void VswrConverterProfile::calculateFromVswr()
 {
     const std::optional<double> vswr = readEdited(m_vswr);
@@ -145,8 +145,8 @@ void VswrConverterProfile::calculateFromVswr()
     setAm(mismatchLossText(reflection, significantDigits()));
 }
 
-/// The value of the quantity that was finished. There is none in an empty field, which is left
-/// alone, nor in one that holds no valid number, which is rejected.
+/// The value of the quantity that was finished. An empty field has none and is left alone; one
+/// without a valid number is rejected.
 std::optional<double> VswrConverterProfile::readEdited(Quantity &edited)
 {
     const QString text = edited.text.get();

@@ -21,9 +21,9 @@ class UnitSelector;
  *
  * Finishing a field of the reflection group computes the rest of the group. Finishing a power (or
  * voltage) computes the other two from the square of the reflection coefficient, or the third one
- * from the two that are known; it never writes into the reflection group. A finished field that is
- * no valid number reads "invalid input"; an empty one does nothing. Results that are infinite or no
- * number stand as the words that Qt writes for them.
+ * from the two that are known; it never writes into the reflection group. A finished field without
+ * a valid number gets "invalid input"; an empty one does nothing. Results that are infinite or not
+ * numbers are shown in the words that Qt has for them.
  *
  * A unit setter rewrites its row's text so that it stands for the same quantity.
  */
@@ -165,9 +165,8 @@ private:
         void setUnit(int newUnit);
     };
 
-    /// The powers or the voltages. Both follow the same rules with the same factor: that the
-    /// voltages too are linked by the square of the reflection coefficient, and that the absorbed
-    /// one is the plain difference, is meant.
+    /// The powers or the voltages. Both follow the same rules on purpose: the square of the
+    /// reflection coefficient links the voltages too, and the absorbed one is the plain difference.
     struct Rows
     {
         Row forward;

@@ -15,7 +15,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// A field that is read but was not the one finished: no message, 0 if it is a word.
+/// The value of a field that the person has not just finished: a word is 0, without a message.
 double uncheckedValue(QString text)
 {
     return parsePrefixedValue(text);
@@ -47,7 +47,7 @@ void VswrConverterProfile::Row::show(double baseValue, int unitIndex)
     text.set(generalText(value, model.significantDigits()));
 }
 
-/// The text is rewritten before the unit is stored, and no other row is calculated.
+/// Rewrites the text before it stores the unit, and calculates no other row.
 void VswrConverterProfile::Row::setUnit(int newUnit)
 {
     if (newUnit == unit.get())
@@ -89,8 +89,7 @@ void VswrConverterProfile::finishReflected(Rows &rows)
     }
 }
 
-/// That a known reflection empties two rows, instead of solving them from the absorbed one, is
-/// meant.
+/// A known reflection empties two rows on purpose, instead of solving them from the absorbed one.
 void VswrConverterProfile::finishAbsorbed(Rows &rows)
 {
     const std::optional<double> absorbed = rows.absorbed.readEdited();

@@ -20,8 +20,8 @@ namespace {
 constexpr qint64 kMebibyte = qint64(1024) * 1024;
 constexpr qint64 kLargestFile = 256 * kMebibyte;
 
-/// Where QSettings keeps a user's store, if that is a file at all: asked itself, it would read the
-/// file first, and wait if it is a pipe.
+/// Where QSettings keeps a user's store, if that is a file at all. QSettings cannot be asked: it
+/// would read the file first, and wait if it is a pipe.
 QString nativeFile(const QString &store)
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -46,7 +46,7 @@ bool canBeLookedAt(const QString &fileName)
     return !file.exists() || file.isDir() || (file.isFile() && file.size() <= kLargestFile);
 }
 
-/// Nothing where there is nothing to read; to QSettings that is an empty store too.
+/// Empty if there is nothing to read, which is an empty store to QSettings too.
 QByteArray contents(const QString &fileName)
 {
     QFile file(fileName);

@@ -97,8 +97,8 @@ Line lineAt(const QByteArray &text, int begin)
     return line;
 }
 
-/// Whether the escape at @p at stands for a character other than the "@" of a kind. One that stands
-/// for nothing could hide an "@" behind it.
+/// Whether the escape at @p at stands for a character other than the "@" that begins a kind. An
+/// escape for nothing is harmful too: it could hide an "@" behind it.
 bool isHarmlessEscape(const QByteArray &text, int at, int end)
 {
     const char c = at + 1 < end ? text.at(at + 1) : '\0';
@@ -106,14 +106,14 @@ bool isHarmlessEscape(const QByteArray &text, int at, int end)
     int digits = at + (c == 'x' ? 2 : 1);
     if (digits >= end || digitValue(text.at(digits)) >= base)
         return QByteArrayLiteral("abfnrtv\"?'\\").contains(c);
-    ushort character = 0; // what overflows is lost, as it is to QSettings
+    ushort character = 0; // overflows as it does in QSettings
     for (; digits < end && digitValue(text.at(digits)) < base; ++digits)
         character = ushort(character * base + digitValue(text.at(digits)));
     return character != '@';
 }
 
-/// Whether the element of a value that begins at @p at is of a harmless kind. Blanks before it,
-/// quotes and byte order marks are no part of what it says.
+/// Whether the element of a value that begins at @p at is of a harmless kind. Blanks, quotes and
+/// byte order marks before it do not matter.
 bool beginsHarmlessly(const QByteArray &text, int at, int end)
 {
     bool inQuotes = false;
@@ -166,7 +166,7 @@ bool isHarmless(const QByteArray &text, const Line &line)
     return true;
 }
 
-/// What stands between the brackets of a line that begins a group; nothing where one is missing.
+/// The name between the brackets of a line that begins a group; empty if a bracket is missing.
 QByteArray groupName(const QByteArray &text, const Line &line)
 {
     const QByteArray name = text.mid(line.begin + 1, line.end - line.begin - 1);

@@ -83,7 +83,7 @@ private:
         m_groups.back().operators += ExpressionText::isOperator(character) ? 1 : 0;
     }
 
-    /// Returns false where the group is no valid input. Nothing is replaced any more then: the
+    /// Returns false if the group is not valid. Nothing is replaced any more then: evaluating the
     /// whole text as it was typed ends at its first bracket, or at a step that fails before.
     bool closeGroup(int openingBracket)
     {
@@ -102,8 +102,8 @@ private:
         return true;
     }
 
-    /// A lone value, which may have a sign: (-3dBm). The sign of an exponent counts as an operator,
-    /// so (1e-3mW) is none.
+    /// A lone value, which may have a sign: (-3dBm). (1e-3mW) is evaluated, because the sign of the
+    /// exponent is taken for an operator here.
     bool isOwnValue(const Group &group) const
     {
         return group.operators == 0 ||

@@ -10,8 +10,8 @@
 
 namespace Dezimo {
 
-/// What an expression with brackets comes to. The lone value of a group around the whole text is
-/// given as its text, which has not been read yet.
+/// What an expression with brackets comes to. If a group around the whole text holds a lone value,
+/// there is only its text, which has not been read yet.
 struct BracketedResult
 {
     Evaluation evaluation;
@@ -19,7 +19,7 @@ struct BracketedResult
     bool isDefect = false;
 };
 
-/// Evaluates a text without brackets. A text that still holds one ends in an error text there.
+/// Evaluates a text without brackets. A bracket that is still in the text gives an error text.
 using Evaluator = std::function<Evaluation(const QString &)>;
 
 /**

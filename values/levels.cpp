@@ -9,9 +9,9 @@ namespace Dezimo::Levels {
 
 namespace {
 
-/// Computed in more places than the result keeps, because not every C library's own function is
-/// good to the last one: mingw-w64's is wrong by several units there even for whole exponents, and
-/// a limit such as 1e-12 W = -90 dBm would lie on the other side.
+/// Computed with more digits than the result keeps, because the pow() of some C libraries is wrong
+/// in the last ones: mingw-w64's by several units even for whole exponents. A limit such as
+/// 1e-12 W = -90 dBm would lie on the other side then.
 double powerOfTen(double exponent)
 {
     return static_cast<double>(std::pow(10.0L, static_cast<long double>(exponent)));

@@ -17,8 +17,8 @@ namespace Dezimo::Levels {
 constexpr double kDbwInDbm = 30.0;
 constexpr double kMilliPerUnit = 1000.0;
 
-/// The voltages that stand at 0 dB. dBu is meant to be referred to 0.775 V as it is printed on
-/// equipment, not to the 0.7746 V that follow from 1 mW in 600 ohm.
+/// The voltages at 0 dB. dBu refers on purpose to 0.775 V, which is printed on equipment, and not
+/// to the 0.7746 V that follow from 1 mW in 600 ohm.
 constexpr double kDbvReferenceMillivolt = 1000.0;
 constexpr double kDbmicrovoltReferenceMillivolt = 0.001;
 constexpr double kDbuReferenceMillivolt = 775.0;

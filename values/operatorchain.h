@@ -34,7 +34,7 @@ struct Evaluation
 {
     /// The number followed by its unit, or the error text of the step that failed.
     QString text;
-    /// The same as a number. There is none beside an error, nor where the text has not been read.
+    /// The same as a number, unless the text is an error or has not been read yet.
     std::optional<Operand> number = {};
 };
 

@@ -14,8 +14,8 @@ double levelFrom(const Operand &operand);
 
 /**
  * Sums and differences of levels, powers and ratios. With a ratio a step is made in dB and gives a
- * level, or a ratio if both operands are; a ratio minus a level is meant to be a level too. Without
- * one it is made in mW.
+ * level, or a ratio if both operands are; on purpose a ratio minus a level is a level too.
+ * Without a ratio a step is made in mW.
  *
  * In the incoherent mode a linear "+" gives the running mean of all inputs so far, which is what an
  * N-way combiner delivers. The mean has no continuation after a linear "-", nor after a ratio was

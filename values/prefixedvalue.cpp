@@ -29,7 +29,7 @@ double parsePrefixedValue(QString &text, bool *ok)
         if (!text.contains(letter))
             continue;
         if (prefixed) {
-            // Two different prefixes are not a number; nothing that could parse may remain.
+            // Two different prefixes make no number, so nothing that could parse may remain.
             text = QStringLiteral("trash");
             break;
         }

@@ -21,7 +21,7 @@ namespace Dezimo {
  */
 double parsePrefixedValue(QString &text, bool *ok = nullptr);
 
-/// The same for a text that stays as it is: its value, or nothing if it is no number.
+/// The same for a text that is not consumed: its value, or nothing if it is not a number.
 std::optional<double> readPrefixedValue(QString text);
 
 } // namespace Dezimo

@@ -13,11 +13,17 @@ set(CMAKE_AUTORCC_OPTIONS ${DEZIMO_RCC_OPTIONS})
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# A change of compiler is felt at once when nothing is compiled twice.
+# A change of compiler is felt at once when nothing is compiled twice. ccache takes a source with
+# precompiled headers only if it may overlook how they use macros and the time.
 find_program(DEZIMO_CCACHE ccache)
 mark_as_advanced(DEZIMO_CCACHE)
 if(DEZIMO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${DEZIMO_CCACHE}")
+  if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
+    list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER
+      "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros)
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  endif()
 endif()
 
 option(DEZIMO_WERROR "Treat compiler warnings as errors" OFF)
@@ -53,6 +59,68 @@ if(DEZIMO_SANITIZERS)
   target_link_options(dezimo_options INTERFACE -fsanitize=${DEZIMO_SANITIZERS})
 endif()
 
+# dezimo_sees(<variable> <target> <library>): whether the target may include what the library publishes.
+function(dezimo_sees variable target library)
+  set(${variable} OFF PARENT_SCOPE)
+  get_target_property(next ${target} LINK_LIBRARIES)
+  set(seen "")
+  while(NOT next STREQUAL "")
+    list(POP_FRONT next link)
+    if(link STREQUAL library)
+      set(${variable} ON PARENT_SCOPE)
+      return()
+    elseif(TARGET ${link} AND NOT link IN_LIST seen)
+      list(APPEND seen ${link})
+      get_target_property(published ${link} INTERFACE_LINK_LIBRARIES)
+      list(APPEND next ${published})
+    endif()
+  endwhile()
+endfunction()
+
+# dezimo_precompiled(<name> LINKS <libraries> HEADERS <headers>): makes the precompiled headers
+# dezimo_headers_<name>.
+function(dezimo_precompiled name)
+  cmake_parse_arguments(arg "" "" "LINKS;HEADERS;OPTIONS" ${ARGN})
+  if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
+    return()
+  endif()
+  set(target dezimo_headers_${name})
+  file(CONFIGURE OUTPUT ${target}.cpp CONTENT "")
+  add_library(${target} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp")
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  target_link_libraries(${target} PRIVATE Dezimo::Options ${arg_LINKS})
+  target_compile_options(${target} PRIVATE ${arg_OPTIONS})
+  target_precompile_headers(${target} PRIVATE ${arg_HEADERS})
+endfunction()
+
+# What nearly every source reads of Qt and of C++. A layer may include no more with precompiled
+# headers than without, so what links Qt's Core alone has a shorter list. Sources still include what
+# they use: the presets that make the product have no precompiled headers, and neither have the
+# linters.
+set(DEZIMO_CORE_HEADERS
+  <algorithm> <cmath> <functional> <memory> <optional> <vector>
+  <QCoreApplication> <QDir> <QFile> <QMap> <QRegularExpression> <QSettings> <QStringList> <QVariant>)
+set(DEZIMO_WIDGET_HEADERS ${DEZIMO_CORE_HEADERS}
+  <QAccessible> <QApplication> <QComboBox> <QLabel> <QLineEdit> <QListWidget> <QMainWindow> <QMenu>
+  <QPainter> <QPushButton> <QScrollArea> <QSpinBox> <QStackedWidget> <QTabWidget> <QTimer>)
+dezimo_precompiled(core LINKS Qt5::Core HEADERS ${DEZIMO_CORE_HEADERS})
+dezimo_precompiled(widgets LINKS Qt5::Widgets HEADERS ${DEZIMO_WIDGET_HEADERS})
+
+# dezimo_precompile(<target> <core> <widgets>): lets the target use one of the two precompiled headers,
+# depending on what it links. Those few that link Qt's Gui but no Widgets have none.
+function(dezimo_precompile target core widgets)
+  if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
+    return()
+  endif()
+  dezimo_sees(sees_gui ${target} Qt5::Gui)
+  dezimo_sees(sees_widgets ${target} Qt5::Widgets)
+  if(sees_widgets)
+    target_precompile_headers(${target} REUSE_FROM dezimo_headers_${widgets})
+  elseif(NOT sees_gui)
+    target_precompile_headers(${target} REUSE_FROM dezimo_headers_${core})
+  endif()
+endfunction()
+
 # dezimo_library(<folder> LINKS <public libraries> SOURCES <files>): the one library of a folder,
 # as the library dezimo_<folder> with the alias Dezimo::<Folder>; it is static unless
 # BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer
@@ -69,4 +137,5 @@ function(dezimo_library folder)
   target_link_libraries(${target}
     PUBLIC ${arg_LINKS}
     PRIVATE $<BUILD_INTERFACE:Dezimo::Options> ${arg_PRIVATE_LINKS})
+  dezimo_precompile(${target} core widgets)
 endfunction()

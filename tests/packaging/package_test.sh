@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # package_test.sh CHECK: one check of the Debian package, which the check "build" makes. CTest runs
-# each from the source folder, with DEZIMO_VERSION and DEZIMO_ID as the project has them.
+# each from the source folder, with DEZIMO_VERSION and DEZIMO_ID as the project has them; .ci/run
+# runs "reproducible".
 set -euo pipefail
 
 shopt -s nullglob

@@ -2,11 +2,18 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# ./test.sh [--quick] [--windows]: installs what is missing, builds with warnings as errors and
-# sanitizers, and runs every test; --quick leaves out those with the label slow. With --windows the
-# tests are built for Windows, without sanitizers, and run by Wine. Ends with CTest's summary and status.
+# Installs what is missing, builds the tests and runs them; the usage below says which. Ends with
+# CTest's summary and status. tools/test_times.py tells what took how long.
 set -euo pipefail
 cd "$(dirname "$0")"
+
+usage="usage: ./test.sh [--quick] [--windows]
+
+Builds with warnings as errors and sanitizers, and runs every test.
+
+  --quick    leaves out the tests that take long
+  --windows  builds the tests for Windows, without sanitizers, and runs them by Wine
+  --help     says this"
 
 choice=()
 windows=
@@ -14,7 +21,8 @@ for argument in "$@"; do
     case $argument in
         --quick) choice=(--label-exclude '^slow$') ;;
         --windows) windows=yes ;;
-        *) echo "usage: ./test.sh [--quick] [--windows]" >&2; exit 2 ;;
+        --help) echo "$usage"; exit ;;
+        *) echo "$usage" >&2; exit 2 ;;
     esac
 done
 

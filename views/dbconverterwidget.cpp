@@ -3,74 +3,49 @@
 
 #include "dbconverterwidget.h"
 
-#include "errortexts.h"
 #include "mainprofile.h"
-#include "mirroredtext.h"
 #include "ui_dbconverterwidget.h"
 
 #include <QApplication>
-#include <QEvent>
 
 using namespace Dezimo;
 
 DbConverterWidget::DbConverterWidget(QWidget *parent)
-    : QWidget(parent),
+    : ModulePage(parent),
       m_ui(std::make_unique<Ui::DbConverterWidget>()),
       m_profile(&MainProfile::instance().dbConverter())
 {
-    m_ui->setupUi(this);
+    build(*m_ui);
     m_ui->pDbLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->vDbLineEdit->setSuffixText(QStringLiteral("dB"));
-    const QList<KelLineEdit *> edits = findChildren<KelLineEdit *>();
-    for (KelLineEdit *edit : edits)
-        edit->setErrorTexts(ErrorText::all());
+    markErrors(findChildren<KelLineEdit *>());
     // Their runs are told as those of P1 and V1, so none of theirs ever counts as the latest.
     m_ui->p2LineEdit->setFinishedByEveryLeaving(true);
     m_ui->v2LineEdit->setFinishedByEveryLeaving(true);
-    connectModel();
     showModel();
 }
 
-/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
-/// happen while form and slots are still there.
 DbConverterWidget::~DbConverterWidget()
 {
-    hide();
-}
-
-void DbConverterWidget::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        m_ui->retranslateUi(this);
-    QWidget::changeEvent(event);
-}
-
-void DbConverterWidget::connectModel()
-{
-    using Model = DbConverterProfile;
-    using View = DbConverterWidget;
-    connect(m_profile, &Model::currentModeChanged, this, &View::onCurrentModeChanged);
-    connect(m_profile, &Model::p1Changed, this, &View::onP1Changed);
-    connect(m_profile, &Model::p2Changed, this, &View::onP2Changed);
-    connect(m_profile, &Model::pRatioChanged, this, &View::onPRatioChanged);
-    connect(m_profile, &Model::pDbChanged, this, &View::onPDbChanged);
-    connect(m_profile, &Model::v1Changed, this, &View::onV1Changed);
-    connect(m_profile, &Model::v2Changed, this, &View::onV2Changed);
-    connect(m_profile, &Model::vRatioChanged, this, &View::onVRatioChanged);
-    connect(m_profile, &Model::vDbChanged, this, &View::onVDbChanged);
+    finishOpenEdit();
 }
 
 void DbConverterWidget::showModel()
 {
-    onCurrentModeChanged();
-    onP1Changed();
-    onP2Changed();
-    onPRatioChanged();
-    onPDbChanged();
-    onV1Changed();
-    onV2Changed();
-    onVRatioChanged();
-    onVDbChanged();
+    using Model = DbConverterProfile;
+    using View = DbConverterWidget;
+    const std::vector<Value<Model, View>> values = {
+        {&Model::currentModeChanged, &View::onCurrentModeChanged},
+        {&Model::p1Changed, &View::onP1Changed},
+        {&Model::p2Changed, &View::onP2Changed},
+        {&Model::pRatioChanged, &View::onPRatioChanged},
+        {&Model::pDbChanged, &View::onPDbChanged},
+        {&Model::v1Changed, &View::onV1Changed},
+        {&Model::v2Changed, &View::onV2Changed},
+        {&Model::vRatioChanged, &View::onVRatioChanged},
+        {&Model::vDbChanged, &View::onVDbChanged},
+    };
+    mirror(m_profile, this, values);
 }
 
 void DbConverterWidget::on_mainTab_currentChanged(int index)
@@ -176,40 +151,40 @@ void DbConverterWidget::onCurrentModeChanged()
 
 void DbConverterWidget::onP1Changed()
 {
-    mirrorText(m_ui->p1LineEdit, m_profile->p1());
+    showText(m_ui->p1LineEdit, m_profile->p1());
 }
 
 void DbConverterWidget::onP2Changed()
 {
-    mirrorText(m_ui->p2LineEdit, m_profile->p2());
+    showText(m_ui->p2LineEdit, m_profile->p2());
 }
 
 void DbConverterWidget::onPRatioChanged()
 {
-    mirrorText(m_ui->pRatioLineEdit, m_profile->pRatio());
+    showText(m_ui->pRatioLineEdit, m_profile->pRatio());
 }
 
 void DbConverterWidget::onPDbChanged()
 {
-    mirrorText(m_ui->pDbLineEdit, m_profile->pDb());
+    showText(m_ui->pDbLineEdit, m_profile->pDb());
 }
 
 void DbConverterWidget::onV1Changed()
 {
-    mirrorText(m_ui->v1LineEdit, m_profile->v1());
+    showText(m_ui->v1LineEdit, m_profile->v1());
 }
 
 void DbConverterWidget::onV2Changed()
 {
-    mirrorText(m_ui->v2LineEdit, m_profile->v2());
+    showText(m_ui->v2LineEdit, m_profile->v2());
 }
 
 void DbConverterWidget::onVRatioChanged()
 {
-    mirrorText(m_ui->vRatioLineEdit, m_profile->vRatio());
+    showText(m_ui->vRatioLineEdit, m_profile->vRatio());
 }
 
 void DbConverterWidget::onVDbChanged()
 {
-    mirrorText(m_ui->vDbLineEdit, m_profile->vDb());
+    showText(m_ui->vDbLineEdit, m_profile->vDb());
 }

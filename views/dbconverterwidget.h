@@ -4,7 +4,7 @@
 #ifndef VIEWS_DBCONVERTERWIDGET_H
 #define VIEWS_DBCONVERTERWIDGET_H
 
-#include <QWidget>
+#include "modulepage.h"
 
 #include <memory>
 
@@ -18,20 +18,16 @@ class DbConverterWidget;
 
 /**
  * The page of the dB converter: a tab for powers and one for voltages, each reading as a fraction
- * that equals a ratio and corresponds to a value in dB. Typing hands the text to the model, leaving
- * a field or pressing Return starts the model's calculation from it, and what the model changes is
- * written back. The page computes nothing.
+ * that equals a ratio and corresponds to a value in dB. Typing stores a text in the model; leaving a
+ * field or pressing Return calculates from it.
  */
-class DbConverterWidget final : public QWidget
+class DbConverterWidget final : public ModulePage
 {
     Q_OBJECT
 
 public:
     explicit DbConverterWidget(QWidget *parent = nullptr);
     ~DbConverterWidget() override;
-
-protected:
-    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void on_mainTab_currentChanged(int index);
@@ -65,7 +61,6 @@ private Q_SLOTS:
     void onVDbChanged();
 
 private:
-    void connectModel();
     void showModel();
 
     const std::unique_ptr<Ui::DbConverterWidget> m_ui;

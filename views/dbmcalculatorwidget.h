@@ -24,9 +24,6 @@ public:
     explicit DbmCalculatorWidget(QWidget *parent = nullptr);
     ~DbmCalculatorWidget() override;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     const std::unique_ptr<Ui::DbmCalculatorWidget> m_ui;
 };

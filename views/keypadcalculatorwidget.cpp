@@ -6,7 +6,6 @@
 #include "errortexts.h"
 #include "expressionprofile.h"
 #include "kelautoresizelineedit.h"
-#include "mirroredtext.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -34,7 +33,7 @@ bool isFunctionKey(const QPushButton *key)
 } // namespace
 
 KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent)
-    : QWidget(parent),
+    : ModulePage(parent),
       m_profile(profile),
       m_slide(this)
 {
@@ -46,14 +45,14 @@ KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidg
 void KeypadCalculatorWidget::hideEvent(QHideEvent *event)
 {
     m_slide.finish();
-    QWidget::hideEvent(event);
+    ModulePage::hideEvent(event);
 }
 
 bool KeypadCalculatorWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_output && event->type() == QEvent::Resize)
         fitUnitSelector();
-    return QWidget::eventFilter(watched, event);
+    return ModulePage::eventFilter(watched, event);
 }
 
 void KeypadCalculatorWidget::recalculate()
@@ -127,7 +126,7 @@ void KeypadCalculatorWidget::onOutputFontSizeChanged(int fontsize)
 
 void KeypadCalculatorWidget::onInputChanged()
 {
-    mirrorText(m_input, m_profile.input());
+    showText(m_input, m_profile.input());
 }
 
 /// What slides up is the result that was taken over, not what the model makes of it as an input;
@@ -136,7 +135,7 @@ void KeypadCalculatorWidget::onOutputChanged()
 {
     if (m_takenOver)
         return;
-    mirrorText(m_output, m_profile.output());
+    showText(m_output, m_profile.output());
     showUnitSelector();
 }
 
@@ -169,7 +168,7 @@ void KeypadCalculatorWidget::setUpInput()
 
 void KeypadCalculatorWidget::setUpOutput()
 {
-    m_output->setErrorTexts(ErrorText::all());
+    markErrors({m_output});
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
     m_output->installEventFilter(this);
@@ -194,27 +193,21 @@ void KeypadCalculatorWidget::connectKeys()
     }
 }
 
-void KeypadCalculatorWidget::connectProfile()
-{
-    using Model = ExpressionProfile;
-    using View = KeypadCalculatorWidget;
-    connect(&m_profile, &Model::inputChanged, this, &View::onInputChanged);
-    connect(&m_profile, &Model::outputChanged, this, &View::onOutputChanged);
-    connect(&m_profile, &Model::outputUnitChanged, this, &View::onOutputUnitChanged);
-    connect(&m_profile, &Model::modeChanged, this, &View::onModeChanged);
-    connect(&m_profile, &Model::validUnitsChanged, this, &View::onValidUnitsChanged);
-}
-
 /// The size of the result is fitted as soon as the row that it stands in has one.
 void KeypadCalculatorWidget::showProfile()
 {
+    using Model = ExpressionProfile;
+    using View = KeypadCalculatorWidget;
     const QSignalBlocker noCalculation(m_input);
     const QSignalBlocker noFitting(m_output);
-    onInputChanged();
-    onOutputUnitChanged();
-    onModeChanged();
-    onOutputChanged();
-    onValidUnitsChanged();
+    const std::vector<Value<Model, View>> values = {
+        {&Model::inputChanged, &View::onInputChanged},
+        {&Model::outputUnitChanged, &View::onOutputUnitChanged},
+        {&Model::modeChanged, &View::onModeChanged},
+        {&Model::outputChanged, &View::onOutputChanged},
+        {&Model::validUnitsChanged, &View::onValidUnitsChanged},
+    };
+    mirror(&m_profile, this, values);
 }
 
 bool KeypadCalculatorWidget::hasResult() const

@@ -4,9 +4,8 @@
 #ifndef VIEWS_KEYPADCALCULATORWIDGET_H
 #define VIEWS_KEYPADCALCULATORWIDGET_H
 
+#include "modulepage.h"
 #include "takeoverslide.h"
-
-#include <QWidget>
 
 #include <optional>
 
@@ -20,13 +19,12 @@ class ExpressionProfile;
 
 /**
  * What the pages of the expression calculators share: an input line, a keypad that types into it, a
- * result that follows every keystroke, its unit, and a mode. The page hands texts and choices to
- * its model and mirrors what the model announces; it computes nothing.
+ * result that follows every keystroke, its unit, and a mode.
  *
  * A change that comes from the model starts no calculation through the selectors, so that a loaded
  * result stays as it was stored.
  */
-class KeypadCalculatorWidget : public QWidget
+class KeypadCalculatorWidget : public ModulePage
 {
     Q_OBJECT
 
@@ -34,10 +32,11 @@ protected:
     /// @p profile must outlive the page.
     KeypadCalculatorWidget(Dezimo::ExpressionProfile &profile, QWidget *parent);
 
-    /// Connects the widgets of a form that has just been built, and shows the model once.
+    /// Builds the form, connects its widgets and shows the model.
     template <typename Form>
-    void setUp(const Form &form)
+    void setUp(Form &form)
     {
+        build(form);
         m_input = form.inputLineEdit;
         m_outputRow = form.outputWidget;
         m_output = form.outputLineEdit;
@@ -45,7 +44,6 @@ protected:
         m_mode = form.calcModeComboBox;
         setUpInput();
         connectKeys();
-        connectProfile();
         showProfile();
         setUpOutput(); // with the result in place, to mark it if it is an error
     }
@@ -78,7 +76,6 @@ private:
     void setUpInput();
     void setUpOutput();
     void connectKeys();
-    void connectProfile();
     void showProfile();
 
     /// Whether the output can be worked with: "---" and "bracket missing" are meant to count.

@@ -3,27 +3,21 @@
 
 #include "unitconverterwidget.h"
 
-#include "errortexts.h"
 #include "mainprofile.h"
-#include "mirroredtext.h"
 #include "ui_unitconverterwidget.h"
-#include "unitdescription.h"
 
-#include <QEvent>
 #include <QPushButton>
 
 using namespace Dezimo;
 
 UnitConverterWidget::UnitConverterWidget(QWidget *parent)
-    : QWidget(parent),
+    : ModulePage(parent),
       m_ui(std::make_unique<Ui::UnitConverterWidget>()),
       m_profile(&MainProfile::instance().unitConverter())
 {
-    m_ui->setupUi(this);
+    build(*m_ui);
     m_ui->impedanceLineEdit->setSuffixText(QStringLiteral("Ω"));
-    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
-    for (KelLineEdit *field : fields)
-        field->setErrorTexts(ErrorText::all());
+    markErrors(findChildren<KelLineEdit *>());
     describeByUnit(m_ui->dbmLineEdit, m_ui->dbmUnitComboBox);
     describeByUnit(m_ui->wattLineEdit, m_ui->wattUnitComboBox);
     describeByUnit(m_ui->voltLineEdit, m_ui->voltUnitComboBox);
@@ -32,18 +26,9 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     showModel();
 }
 
-/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
-/// happen while form and slots are still there.
 UnitConverterWidget::~UnitConverterWidget()
 {
-    hide();
-}
-
-void UnitConverterWidget::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        m_ui->retranslateUi(this);
-    QWidget::changeEvent(event);
+    finishOpenEdit();
 }
 
 /// The buttons of the switch exist only now, so they take their place in the tab order here.
@@ -63,16 +48,11 @@ void UnitConverterWidget::addVoltageModes()
     }
 }
 
-/// Shows every value of the model, now and whenever it changes.
 void UnitConverterWidget::showModel()
 {
     using Model = UnitConverterProfile;
     using View = UnitConverterWidget;
-    const struct
-    {
-        void (Model::*changed)();
-        void (View::*show)();
-    } values[] = {
+    const std::vector<Value<Model, View>> values = {
         {&Model::logPowerChanged, &View::onLogPowerChanged},
         {&Model::linPowerChanged, &View::onLinPowerChanged},
         {&Model::logVoltageChanged, &View::onLogVoltageChanged},
@@ -84,10 +64,7 @@ void UnitConverterWidget::showModel()
         {&Model::impedanceChanged, &View::onImpedanceChanged},
         {&Model::voltageModeChanged, &View::onVoltageModeChanged},
     };
-    for (const auto &value : values) {
-        connect(m_profile, value.changed, this, value.show);
-        (this->*value.show)();
-    }
+    mirror(m_profile, this, values);
 }
 
 void UnitConverterWidget::on_dbmLineEdit_textEdited(const QString &arg1)
@@ -180,27 +157,27 @@ void UnitConverterWidget::onVModeToggle_currentIndexChanged(int index)
 
 void UnitConverterWidget::onLogPowerChanged()
 {
-    mirrorText(m_ui->dbmLineEdit, m_profile->logPower());
+    showText(m_ui->dbmLineEdit, m_profile->logPower());
 }
 
 void UnitConverterWidget::onLinPowerChanged()
 {
-    mirrorText(m_ui->wattLineEdit, m_profile->linPower());
+    showText(m_ui->wattLineEdit, m_profile->linPower());
 }
 
 void UnitConverterWidget::onLogVoltageChanged()
 {
-    mirrorText(m_ui->dbvLineEdit, m_profile->logVoltage());
+    showText(m_ui->dbvLineEdit, m_profile->logVoltage());
 }
 
 void UnitConverterWidget::onLinVoltageChanged()
 {
-    mirrorText(m_ui->voltLineEdit, m_profile->linVoltage());
+    showText(m_ui->voltLineEdit, m_profile->linVoltage());
 }
 
 void UnitConverterWidget::onImpedanceChanged()
 {
-    mirrorText(m_ui->impedanceLineEdit, m_profile->impedance());
+    showText(m_ui->impedanceLineEdit, m_profile->impedance());
 }
 
 void UnitConverterWidget::onLogPowerUnitChanged()

@@ -4,7 +4,7 @@
 #ifndef VIEWS_UNITCONVERTERWIDGET_H
 #define VIEWS_UNITCONVERTERWIDGET_H
 
-#include <QWidget>
+#include "modulepage.h"
 
 #include <memory>
 
@@ -18,22 +18,18 @@ class UnitConverterWidget;
 
 /**
  * The page of the unit converter: the four linked values with their units, the load impedance and
- * the voltage mode. Typing stores a text in the model; leaving a field calculates from it. The page
- * computes nothing itself and shows whatever the model holds.
+ * the voltage mode. Typing stores a text in the model; leaving a field calculates from it.
  *
  * A finished impedance empties the four values instead of converting them; that is meant. A unit
  * that the model changed by itself, as after loading, is only shown: its text stands in it already.
  */
-class UnitConverterWidget final : public QWidget
+class UnitConverterWidget final : public ModulePage
 {
     Q_OBJECT
 
 public:
     explicit UnitConverterWidget(QWidget *parent = nullptr);
     ~UnitConverterWidget() override;
-
-protected:
-    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void on_dbmLineEdit_textEdited(const QString &arg1);

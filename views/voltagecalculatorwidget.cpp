@@ -6,8 +6,6 @@
 #include "mainprofile.h"
 #include "ui_voltagecalculatorwidget.h"
 
-#include <QEvent>
-
 using namespace Dezimo;
 
 VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
@@ -15,23 +13,14 @@ VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
       m_ui(std::make_unique<Ui::VoltageCalculatorWidget>()),
       m_voltages(MainProfile::instance().voltageCalculator())
 {
-    m_ui->setupUi(this);
     setUp(*m_ui);
     m_ui->phaseSpinBox->setRange(VoltageCalculatorProfile::kMinimumPhase,
                                  VoltageCalculatorProfile::kMaximumPhase);
-    connect(&m_voltages, &VoltageCalculatorProfile::phaseChanged, this,
-            &VoltageCalculatorWidget::onPhaseChanged);
-    onPhaseChanged();
+    mirror(&m_voltages, this,
+           {{&VoltageCalculatorProfile::phaseChanged, &VoltageCalculatorWidget::onPhaseChanged}});
 }
 
 VoltageCalculatorWidget::~VoltageCalculatorWidget() = default;
-
-void VoltageCalculatorWidget::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        m_ui->retranslateUi(this);
-    KeypadCalculatorWidget::changeEvent(event);
-}
 
 /// A stored phase may have decimals, which being shown does not take from it.
 void VoltageCalculatorWidget::on_phaseSpinBox_valueChanged(int degrees)

@@ -28,9 +28,6 @@ public:
     explicit VoltageCalculatorWidget(QWidget *parent = nullptr);
     ~VoltageCalculatorWidget() override;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private Q_SLOTS:
     void on_phaseSpinBox_valueChanged(int degrees);
     void onPhaseChanged();

@@ -3,39 +3,25 @@
 
 #include "vswrconverterwidget.h"
 
-#include "errortexts.h"
 #include "mainprofile.h"
-#include "mirroredtext.h"
 #include "ui_vswrconverterwidget.h"
-#include "unitdescription.h"
-
-#include <QEvent>
 
 using namespace Dezimo;
 
 VswrConverterWidget::VswrConverterWidget(QWidget *parent)
-    : QWidget(parent),
+    : ModulePage(parent),
       m_ui(std::make_unique<Ui::VswrConverterWidget>()),
       m_profile(&MainProfile::instance().vswrConverter())
 {
-    m_ui->setupUi(this);
+    build(*m_ui);
     setUpFields();
     connectCalculations();
     showModel();
 }
 
-/// Hiding takes the focus from a field that is being edited, which finishes the edit. It has to
-/// happen while form and slots are still there.
 VswrConverterWidget::~VswrConverterWidget()
 {
-    hide();
-}
-
-void VswrConverterWidget::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        m_ui->retranslateUi(this);
-    QWidget::changeEvent(event);
+    finishOpenEdit();
 }
 
 void VswrConverterWidget::setUpFields()
@@ -44,9 +30,7 @@ void VswrConverterWidget::setUpFields()
     m_ui->r2LineEdit->setSuffixText(QStringLiteral("%"));
     m_ui->arLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->amLineEdit->setSuffixText(QStringLiteral("dB"));
-    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
-    for (KelLineEdit *field : fields)
-        field->setErrorTexts(ErrorText::all());
+    markErrors(findChildren<KelLineEdit *>());
     describeByUnit(m_ui->forwardPowerLineEdit, m_ui->forwardPowerUnitComboBox);
     describeByUnit(m_ui->reflectedPowerLineEdit, m_ui->reflectedPowerUnitComboBox);
     describeByUnit(m_ui->absorbedPowerLineEdit, m_ui->absorbedPowerUnitComboBox);
@@ -80,16 +64,11 @@ void VswrConverterWidget::connectCalculations()
         connect(row.field, &KelLineEdit::editingFinished, m_profile, row.calculate);
 }
 
-/// Shows every value of the model, now and whenever it changes.
 void VswrConverterWidget::showModel()
 {
     using Model = VswrConverterProfile;
     using View = VswrConverterWidget;
-    const struct
-    {
-        void (Model::*changed)();
-        void (View::*show)();
-    } values[] = {
+    const std::vector<Value<Model, View>> values = {
         {&Model::vswrChanged, &View::onVswrChanged},
         {&Model::rChanged, &View::onRChanged},
         {&Model::r2Changed, &View::onR2Changed},
@@ -109,10 +88,7 @@ void VswrConverterWidget::showModel()
         {&Model::vAbsorbedUnitChanged, &View::onVAbsorbedUnitChanged},
         {&Model::currentModeChanged, &View::onCurrentModeChanged},
     };
-    for (const auto &value : values) {
-        connect(m_profile, value.changed, this, value.show);
-        (this->*value.show)();
-    }
+    mirror(m_profile, this, values);
 }
 
 void VswrConverterWidget::on_vswrLineEdit_textEdited(const QString &arg1)
@@ -207,57 +183,57 @@ void VswrConverterWidget::on_mainTab_currentChanged(int index)
 
 void VswrConverterWidget::onVswrChanged()
 {
-    mirrorText(m_ui->vswrLineEdit, m_profile->vswr());
+    showText(m_ui->vswrLineEdit, m_profile->vswr());
 }
 
 void VswrConverterWidget::onRChanged()
 {
-    mirrorText(m_ui->rLineEdit, m_profile->r());
+    showText(m_ui->rLineEdit, m_profile->r());
 }
 
 void VswrConverterWidget::onR2Changed()
 {
-    mirrorText(m_ui->r2LineEdit, m_profile->r2());
+    showText(m_ui->r2LineEdit, m_profile->r2());
 }
 
 void VswrConverterWidget::onArChanged()
 {
-    mirrorText(m_ui->arLineEdit, m_profile->ar());
+    showText(m_ui->arLineEdit, m_profile->ar());
 }
 
 void VswrConverterWidget::onAmChanged()
 {
-    mirrorText(m_ui->amLineEdit, m_profile->am());
+    showText(m_ui->amLineEdit, m_profile->am());
 }
 
 void VswrConverterWidget::onPForwardChanged()
 {
-    mirrorText(m_ui->forwardPowerLineEdit, m_profile->pForward());
+    showText(m_ui->forwardPowerLineEdit, m_profile->pForward());
 }
 
 void VswrConverterWidget::onPReflectedChanged()
 {
-    mirrorText(m_ui->reflectedPowerLineEdit, m_profile->pReflected());
+    showText(m_ui->reflectedPowerLineEdit, m_profile->pReflected());
 }
 
 void VswrConverterWidget::onPAbsorbedChanged()
 {
-    mirrorText(m_ui->absorbedPowerLineEdit, m_profile->pAbsorbed());
+    showText(m_ui->absorbedPowerLineEdit, m_profile->pAbsorbed());
 }
 
 void VswrConverterWidget::onVForwardChanged()
 {
-    mirrorText(m_ui->forwardVoltageLineEdit, m_profile->vForward());
+    showText(m_ui->forwardVoltageLineEdit, m_profile->vForward());
 }
 
 void VswrConverterWidget::onVReflectedChanged()
 {
-    mirrorText(m_ui->reflectedVoltageLineEdit, m_profile->vReflected());
+    showText(m_ui->reflectedVoltageLineEdit, m_profile->vReflected());
 }
 
 void VswrConverterWidget::onVAbsorbedChanged()
 {
-    mirrorText(m_ui->absorbedVoltageLineEdit, m_profile->vAbsorbed());
+    showText(m_ui->absorbedVoltageLineEdit, m_profile->vAbsorbed());
 }
 
 void VswrConverterWidget::onPForwardUnitChanged()

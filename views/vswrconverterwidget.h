@@ -4,7 +4,7 @@
 #ifndef VIEWS_VSWRCONVERTERWIDGET_H
 #define VIEWS_VSWRCONVERTERWIDGET_H
 
-#include <QWidget>
+#include "modulepage.h"
 
 #include <memory>
 
@@ -19,21 +19,17 @@ class VswrConverterWidget;
 /**
  * The page of the VSWR converter: the five reflection quantities one above the other and, on two
  * tabs below them, the powers and the voltages with their units. Typing stores a text in the model;
- * leaving a field calculates from it. The page computes nothing itself and shows whatever the model
- * holds.
+ * leaving a field calculates from it.
  *
  * A change of the language empties the VSWR field, and no other.
  */
-class VswrConverterWidget final : public QWidget
+class VswrConverterWidget final : public ModulePage
 {
     Q_OBJECT
 
 public:
     explicit VswrConverterWidget(QWidget *parent = nullptr);
     ~VswrConverterWidget() override;
-
-protected:
-    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void on_vswrLineEdit_textEdited(const QString &arg1);

@@ -10,7 +10,7 @@
 #include "dbmcalculatorwidget.h"
 #include "identity.h"
 #include "kelaboutwindow.h"
-#include "kellatepage.h"
+#include "kellatepages.h"
 #include "mainprofile.h"
 #include "stylesheets.h"
 #include "takeoverslide.h"

@@ -3,8 +3,8 @@
 
 #include "kelaboutwindow.h"
 
+#include "kellatepages.h"
 #include "kelmessagebox.h"
-#include "kelscrollbar.h"
 #include "osinfo.h"
 #include "palette.h"
 #include "ui_kelaboutwindow.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "aboutwindowcase.h"
-#include "kelscrollbar.h"
+#include "kellatepages.h"
 #include "resources.h"
 #include "testmain.h"
 #include "ui_kelaboutwindow.h"

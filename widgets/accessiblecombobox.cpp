@@ -35,12 +35,6 @@ QAccessible::State AccessibleComboBox::state() const
     return state;
 }
 
-/// The list of items is the only child.
-int AccessibleComboBox::childCount() const
-{
-    return 1;
-}
-
 QAccessibleInterface *AccessibleComboBox::child(int index) const
 {
     return index == 0 ? QAccessible::queryAccessibleInterface(m_box->view()) : nullptr;
@@ -73,30 +67,11 @@ void AccessibleComboBox::doAction(const QString &name)
         QAccessibleWidget::doAction(name);
 }
 
-void AccessibleComboBox::selection(int index, int *start, int *end) const
+void AccessibleComboBox::selection(int, int *start, int *end) const
 {
-    Q_UNUSED(index)
     *start = 0;
     *end = 0;
 }
-
-int AccessibleComboBox::selectionCount() const
-{
-    return 0;
-}
-
-void AccessibleComboBox::addSelection(int, int) {}
-
-void AccessibleComboBox::removeSelection(int) {}
-
-void AccessibleComboBox::setSelection(int, int, int) {}
-
-int AccessibleComboBox::cursorPosition() const
-{
-    return 0;
-}
-
-void AccessibleComboBox::setCursorPosition(int) {}
 
 QString AccessibleComboBox::text(int start, int end) const
 {
@@ -118,11 +93,8 @@ int AccessibleComboBox::offsetAtPoint(const QPoint &point) const
     return rect().contains(point) ? 0 : -1;
 }
 
-void AccessibleComboBox::scrollToSubstring(int, int) {}
-
-QString AccessibleComboBox::attributes(int offset, int *start, int *end) const
+QString AccessibleComboBox::attributes(int, int *start, int *end) const
 {
-    Q_UNUSED(offset)
     *start = 0;
     *end = characterCount();
     return {};

@@ -79,11 +79,6 @@ int AccessibleLineEdit::selectionCount() const
     return m_edit->hasSelectedText() ? 1 : 0;
 }
 
-void AccessibleLineEdit::addSelection(int start, int end)
-{
-    setSelection(0, start, end);
-}
-
 void AccessibleLineEdit::removeSelection(int index)
 {
     if (index == 0)
@@ -144,22 +139,11 @@ void AccessibleLineEdit::scrollToSubstring(int start, int end)
 }
 
 /// The whole text looks alike.
-QString AccessibleLineEdit::attributes(int offset, int *start, int *end) const
+QString AccessibleLineEdit::attributes(int, int *start, int *end) const
 {
-    Q_UNUSED(offset)
     *start = 0;
     *end = characterCount();
     return {};
-}
-
-void AccessibleLineEdit::deleteText(int start, int end)
-{
-    replaceText(start, end, QString());
-}
-
-void AccessibleLineEdit::insertText(int offset, const QString &text)
-{
-    replaceText(offset, offset, text);
 }
 
 void AccessibleLineEdit::replaceText(int start, int end, const QString &text)

@@ -33,7 +33,7 @@ public:
 
     void selection(int index, int *start, int *end) const override;
     int selectionCount() const override;
-    void addSelection(int start, int end) override;
+    void addSelection(int start, int end) override { setSelection(0, start, end); }
     void removeSelection(int index) override;
     void setSelection(int index, int start, int end) override;
     int cursorPosition() const override;
@@ -45,8 +45,8 @@ public:
     void scrollToSubstring(int start, int end) override;
     QString attributes(int offset, int *start, int *end) const override;
 
-    void deleteText(int start, int end) override;
-    void insertText(int offset, const QString &text) override;
+    void deleteText(int start, int end) override { replaceText(start, end, QString()); }
+    void insertText(int offset, const QString &text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString &text) override;
 
 private:

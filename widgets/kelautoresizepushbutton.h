@@ -15,10 +15,14 @@ class KelAutoResizePushButton final : public KelPushButton
     Q_OBJECT
 
 public:
-    explicit KelAutoResizePushButton(QWidget *parent = nullptr);
+    using KelPushButton::KelPushButton;
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override
+    {
+        KelPushButton::resizeEvent(event);
+        setStyleSheet(QStringLiteral("font-size: %1px").arg(qMin(width(), height()) / 2));
+    }
 };
 
 #endif

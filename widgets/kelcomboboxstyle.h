@@ -17,7 +17,11 @@ class KelComboBoxStyle final : public QProxyStyle
 public:
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
-                  QStyleHintReturn *returnData = nullptr) const override;
+                  QStyleHintReturn *returnData = nullptr) const override
+    {
+        return hint == SH_ComboBox_Popup ? 0
+                                         : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
 };
 
 #endif

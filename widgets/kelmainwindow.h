@@ -15,7 +15,7 @@ class KelMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit KelMainWindow(QWidget *parent = nullptr);
+    explicit KelMainWindow(QWidget *parent = nullptr) : QMainWindow(parent) {}
 };
 
 #endif

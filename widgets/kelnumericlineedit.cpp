@@ -10,11 +10,6 @@
 
 namespace {
 
-/// The SI prefix letters that may stand before the unit, the same that the models read; micro is
-/// the letter u. The rest of the table is blank.
-constexpr char kPrefixTable[17] = {'f', 'p', 'n', 'u', 'm', 'k', 'M', 'G', 'T',
-                                   'P', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
-
 /// The regular expression engine allows no more repetitions.
 constexpr int kMaximalRepetitions = 1024;
 
@@ -23,13 +18,10 @@ QString digitsPattern(int maximum)
     return QStringLiteral("\\d{1,%1}").arg(qMin(maximum, kMaximalRepetitions));
 }
 
+/// One of the SI prefix letters that the models read; micro is the letter u.
 QString prefixPattern()
 {
-    QString letters;
-    for (const char letter : kPrefixTable)
-        if (letter != ' ')
-            letters += QLatin1Char(letter);
-    return QLatin1Char('[') + QRegExp::escape(letters) + QLatin1String("]?");
+    return QStringLiteral("[fpnumkMGTP]?");
 }
 
 /// Matches any beginning of the unit: (d(B(m)?)?)? for dBm.

@@ -15,7 +15,7 @@ class KelPushButton : public QPushButton
     Q_OBJECT
 
 public:
-    explicit KelPushButton(QWidget *parent = nullptr);
+    explicit KelPushButton(QWidget *parent = nullptr) : QPushButton(parent) {}
 };
 
 #endif

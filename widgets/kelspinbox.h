@@ -15,7 +15,10 @@ class KelSpinBox final : public QSpinBox
     Q_OBJECT
 
 public:
-    explicit KelSpinBox(QWidget *parent = nullptr);
+    explicit KelSpinBox(QWidget *parent = nullptr) : QSpinBox(parent)
+    {
+        setAttribute(Qt::WA_MacShowFocusRect, false);
+    }
 };
 
 #endif

@@ -28,7 +28,6 @@
 #include <QShortcut>
 
 #include <algorithm>
-#include <array>
 
 using namespace Dezimo;
 
@@ -69,12 +68,12 @@ void addView(KelLatePage *page, const char *name)
 
 } // namespace
 
-/// Where the parts of the window that depend on the list mode end up.
-struct MainWindow::Target
+/// A part of the window whose size depends on the list mode.
+struct MainWindow::Extent
 {
-    int listWidth;
-    int headerHeight;
-    int placeholderHeight;
+    QWidget *part;
+    const char *property;
+    int pixels;
 };
 
 /// The window has its style sheet before it has widgets, so that these are styled once.
@@ -157,14 +156,10 @@ void MainWindow::on_changeWindowModeButton_clicked()
 void MainWindow::onWindowModeChanged()
 {
     updateModeButton(Bright);
-    const Target target = windowModeTarget();
-    const auto slide = [](QWidget *widget, const char *property, int to) {
-        makeAnimation(widget, property, widget->property(property), to)
+    for (const auto &[part, property, pixels] : windowModeExtents()) {
+        makeAnimation(part, property, part->property(property), pixels)
             ->start(QAbstractAnimation::DeleteWhenStopped);
-    };
-    slide(m_ui->menuWidget, "minimumWidth", target.listWidth);
-    slide(m_ui->headerWidget, "maximumHeight", target.headerHeight);
-    slide(m_ui->menuPlaceholder, "maximumHeight", target.placeholderHeight);
+    }
 }
 
 void MainWindow::onCurrentModuleChanged()
@@ -267,19 +262,18 @@ void MainWindow::applyModuleIcons(ApplicationTheme theme)
     }
 }
 
-MainWindow::Target MainWindow::windowModeTarget() const
+std::array<MainWindow::Extent, 3> MainWindow::windowModeExtents() const
 {
     const int mode = m_profile.windowMode();
-    return {mode != 0 ? kExpandedListWidth : kCompactListWidth, mode != 0 ? 0 : kHeaderHeight,
-            mode > 0 ? kHeaderHeight : 0};
+    return {{{m_ui->menuWidget, "minimumWidth", mode != 0 ? kExpandedListWidth : kCompactListWidth},
+             {m_ui->headerWidget, "maximumHeight", mode != 0 ? 0 : kHeaderHeight},
+             {m_ui->menuPlaceholder, "maximumHeight", mode > 0 ? kHeaderHeight : 0}}};
 }
 
 void MainWindow::applyWindowMode()
 {
-    const Target target = windowModeTarget();
-    m_ui->menuWidget->setMinimumWidth(target.listWidth);
-    m_ui->headerWidget->setMaximumHeight(target.headerHeight);
-    m_ui->menuPlaceholder->setMaximumHeight(target.placeholderHeight);
+    for (const auto &[part, property, pixels] : windowModeExtents())
+        part->setProperty(property, pixels);
     updateModeButton(Bright);
 }
 

@@ -7,6 +7,7 @@
 #include "applicationtheme.h"
 #include "kelmainwindow.h"
 
+#include <array>
 #include <memory>
 
 namespace Dezimo {
@@ -55,13 +56,13 @@ private Q_SLOTS:
     void on_actionAbout_triggered();
 
 private:
-    struct Target;
+    struct Extent;
 
     void addViews();
     void writeState();
     void applyStyleSheet(ApplicationTheme theme);
     void applyModuleIcons(ApplicationTheme theme);
-    Target windowModeTarget() const;
+    std::array<Extent, 3> windowModeExtents() const;
     void applyWindowMode();
     void restoreGeometryFromProfile();
     void connectKeyboard();

@@ -18,8 +18,8 @@ class DbConverterWidget;
 
 /**
  * The page of the dB converter: a tab for powers and one for voltages, each reading as a fraction
- * that equals a ratio and corresponds to a value in dB. Typing stores a text in the model; leaving a
- * field or pressing Return calculates from it.
+ * that equals a ratio and corresponds to a value in dB. Typing stores a text in the model; leaving
+ * a field or pressing Return calculates from it.
  */
 class DbConverterWidget final : public ModulePage
 {

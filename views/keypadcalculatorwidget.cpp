@@ -161,11 +161,6 @@ void KeypadCalculatorWidget::onValidUnitsChanged()
         items->item(i)->setEnabled(validUnits.value(i));
 }
 
-void KeypadCalculatorWidget::setUpInput()
-{
-    setFocusProxy(m_input);
-}
-
 void KeypadCalculatorWidget::setUpOutput()
 {
     markErrors({m_output});

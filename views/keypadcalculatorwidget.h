@@ -42,7 +42,7 @@ protected:
         m_output = form.outputLineEdit;
         m_outputUnit = form.outputUnitComboBox;
         m_mode = form.calcModeComboBox;
-        setUpInput();
+        setFocusProxy(form.inputLineEdit);
         connectKeys();
         showProfile();
         setUpOutput(); // with the result in place, to mark it if it is an error
@@ -73,7 +73,6 @@ private Q_SLOTS:
     void onValidUnitsChanged();
 
 private:
-    void setUpInput();
     void setUpOutput();
     void connectKeys();
     void showProfile();

@@ -10,11 +10,6 @@
 
 namespace {
 
-QPropertyAnimation *makeMove(QWidget *widget, const QPoint &from, const QPoint &to)
-{
-    return makeAnimation(widget, "pos", from, to);
-}
-
 void layOutAnew(const QWidget *widget)
 {
     QLayout *layout = widget->parentWidget()->layout();
@@ -36,8 +31,9 @@ void TakeOverSlide::start(QWidget *resultRow, QWidget *input)
     const QPoint row = resultRow->pos();
     const QPoint place = input->pos();
     m_moves = new QParallelAnimationGroup(parent());
-    m_moves->addAnimation(makeMove(resultRow, row, row - QPoint(0, resultRow->height())));
-    m_moves->addAnimation(makeMove(input, place + QPoint(0, input->height()), place));
+    m_moves->addAnimation(
+        makeAnimation(resultRow, "pos", row, row - QPoint(0, resultRow->height())));
+    m_moves->addAnimation(makeAnimation(input, "pos", place + QPoint(0, input->height()), place));
     connect(m_moves, &QAbstractAnimation::finished, this, [this, resultRow, input] {
         layOutAnew(resultRow);
         layOutAnew(input);

@@ -19,7 +19,8 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     m_ui->pDbLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->vDbLineEdit->setSuffixText(QStringLiteral("dB"));
     markErrors(findChildren<KelLineEdit *>());
-    // Their runs are told as those of P1 and V1, so none of theirs ever counts as the latest.
+    // The model notes a run from P2 or V2 as one from P1 or V1. So leaving P2 or V2 calculates
+    // again, even without an edit.
     m_ui->p2LineEdit->setFinishedByEveryLeaving(true);
     m_ui->v2LineEdit->setFinishedByEveryLeaving(true);
     showModel();
@@ -141,8 +142,8 @@ void DbConverterWidget::on_vDbLineEdit_textEdited(const QString &arg1)
     m_profile->setVLatestRun(0);
 }
 
-/// A tab that the model turns hides the field with the focus, which would finish its edit and
-/// calculate on values that were just loaded.
+/// When the model turns the tab, the field with the focus is hidden. That would finish its edit and
+/// calculate with values that were just loaded.
 void DbConverterWidget::onCurrentModeChanged()
 {
     const QSignalBlocker noEdit(QApplication::focusWidget());

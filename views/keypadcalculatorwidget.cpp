@@ -40,8 +40,8 @@ KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidg
     connect(&m_slide, &TakeOverSlide::finished, this, &KeypadCalculatorWidget::endTakeOver);
 }
 
-/// A slide that nobody sees ends at once: a window that is closed meanwhile must not store what the
-/// model makes of a lone value.
+/// While a result slides, the model has taken it as its input already and has an output for it. A
+/// window that is closed must not store that output, so hiding ends the slide at once.
 void KeypadCalculatorWidget::hideEvent(QHideEvent *event)
 {
     m_slide.finish();
@@ -129,8 +129,8 @@ void KeypadCalculatorWidget::onInputChanged()
     showText(m_input, m_profile.input());
 }
 
-/// What slides up is the result that was taken over, not what the model makes of it as an input;
-/// another one is shown when it has arrived.
+/// The row shows the result that was taken over until it has slid up, not what the model makes of
+/// it as an input.
 void KeypadCalculatorWidget::onOutputChanged()
 {
     if (m_takenOver)
@@ -169,15 +169,15 @@ void KeypadCalculatorWidget::setUpOutput()
     m_output->installEventFilter(this);
 }
 
-/// The list of the units keeps its size, however large the chosen one is shown. It is told so only
-/// when that one gets a size, as a page that nobody opens needs neither.
+/// The list of units keeps its size, however large the chosen unit is shown. It gets its style
+/// sheet together with the first size, not before, which saves the work on pages that nobody opens.
 void KeypadCalculatorWidget::keepListSize()
 {
     if (m_outputUnit->view()->styleSheet().isEmpty())
         m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
 }
 
-/// Typing goes on in the input line, whatever had the focus when a key was clicked.
+/// After a click on a key, typing goes on in the input line, whatever had the focus before.
 void KeypadCalculatorWidget::connectKeys()
 {
     const QList<QPushButton *> keys = findChildren<QPushButton *>();
@@ -188,7 +188,7 @@ void KeypadCalculatorWidget::connectKeys()
     }
 }
 
-/// The size of the result is fitted as soon as the row that it stands in has one.
+/// The font of the result is not fitted yet, because its row has no size.
 void KeypadCalculatorWidget::showProfile()
 {
     using Model = ExpressionProfile;
@@ -224,7 +224,7 @@ QString KeypadCalculatorWidget::resultWithUnit() const
     return m_profile.output() + QLatin1Char(' ') + m_profile.unitText(m_profile.outputUnit());
 }
 
-/// A screen reader tells the unit together with the result.
+/// The unit describes the result, so that a screen reader tells both together.
 void KeypadCalculatorWidget::showUnitSelector()
 {
     const bool isShown = hasResult() && hasUnit();
@@ -233,8 +233,9 @@ void KeypadCalculatorWidget::showUnitSelector()
                                                : QString());
 }
 
-/// The arrow stays beside the unit, however low the row is. The width goes by the largest size of a
-/// result in this row, not by the size of the present one: that one depends on what room it has.
+/// The selector is wide enough for the largest size of a result in this row, so that its arrow
+/// stays beside the unit. The size of the present result would not do: it depends in turn on the
+/// room that the selector leaves.
 void KeypadCalculatorWidget::fitUnitSelector()
 {
     QFont largest = m_outputUnit->font();
@@ -246,7 +247,7 @@ void KeypadCalculatorWidget::fitUnitSelector()
     m_outputUnit->setFixedWidth(widest + kUnitFrame);
 }
 
-/// What the person has typed during the slide has its result already, which stays.
+/// If the person has typed during the slide, the result of that stays.
 void KeypadCalculatorWidget::endTakeOver()
 {
     const bool isInput = m_profile.input() == m_takenOver;

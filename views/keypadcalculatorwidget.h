@@ -21,8 +21,8 @@ class ExpressionProfile;
  * What the pages of the expression calculators share: an input line, a keypad that types into it, a
  * result that follows every keystroke, its unit, and a mode.
  *
- * A change that comes from the model starts no calculation through the selectors, so that a loaded
- * result stays as it was stored.
+ * When the model changes its unit or mode by itself, the selectors start no calculation. So a
+ * loaded result stays as it was stored.
  */
 class KeypadCalculatorWidget : public ModulePage
 {
@@ -45,13 +45,13 @@ protected:
         setFocusProxy(form.inputLineEdit);
         connectKeys();
         showProfile();
-        setUpOutput(); // with the result in place, to mark it if it is an error
+        setUpOutput(); // last, so that a result that is an error is marked at once
     }
 
     void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// For a choice of the person that an existing result depends on.
+    /// Calculates again if there is a result, for a choice that the result depends on.
     void recalculate();
 
 private Q_SLOTS:
@@ -77,7 +77,7 @@ private:
     void connectKeys();
     void showProfile();
 
-    /// Whether the output can be worked with: "---" and "bracket missing" are meant to count.
+    /// Whether the output can be taken over. "---" and "bracket missing" can, on purpose.
     bool hasResult() const;
     bool hasUnit() const;
     QString resultWithUnit() const;

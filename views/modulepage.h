@@ -14,8 +14,9 @@ class QComboBox;
 class QLineEdit;
 
 /**
- * The page of a module: a form and a model. Typing and choosing hand texts and indexes to the
- * model, and what the model announces is written back. The page computes nothing.
+ * The page of a module: a form and a model. The page hands the texts that a person types and the
+ * items that a person chooses to the model, and shows what the model announces. It computes
+ * nothing.
  */
 class ModulePage : public QWidget
 {
@@ -52,8 +53,8 @@ protected:
         }
     }
 
-    /// Writes a model's text into its field. A text that is there already is left alone: writing it
-    /// again would move the cursor to the end while the person types in the middle.
+    /// Writes a model's text into its field, unless it is there already: writing it again would
+    /// move the cursor to the end while the person types in the middle.
     static void showText(QLineEdit *field, const QString &text);
     /// Has each of the fields look like an error whenever its text is one of the models' error
     /// texts.

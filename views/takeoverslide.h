@@ -12,20 +12,20 @@ class QWidget;
 /**
  * The movement with which a result becomes the next input: the result row slides up by its own
  * height while the input slides up into its place. At the end both are where their layouts put
- * them, also if these have been laid out anew in the meantime.
+ * them, even if the window was resized in the meantime.
  */
 class TakeOverSlide final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The movements belong to @p page while they run.
+    /// @p page owns the movements while they run.
     explicit TakeOverSlide(QWidget *page);
     ~TakeOverSlide() override;
 
     bool isRunning() const { return !m_moves.isNull(); }
 
-    /// Both widgets must outlive the slide, and a slide that runs is not started again.
+    /// Both widgets must outlive the slide. Do not start a slide that runs.
     void start(QWidget *resultRow, QWidget *input);
     /// Ends a running slide at once.
     void finish();

@@ -20,8 +20,9 @@ class UnitConverterWidget;
  * The page of the unit converter: the four linked values with their units, the load impedance and
  * the voltage mode. Typing stores a text in the model; leaving a field calculates from it.
  *
- * A finished impedance empties the four values instead of converting them; that is meant. A unit
- * that the model changed by itself, as after loading, is only shown: its text stands in it already.
+ * Finishing the impedance empties the four values on purpose, instead of converting them. When the
+ * model changes a unit by itself, as after loading, the page only shows it, because the text is in
+ * that unit already.
  */
 class UnitConverterWidget final : public ModulePage
 {

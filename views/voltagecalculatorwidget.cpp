@@ -22,7 +22,8 @@ VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
 
 VoltageCalculatorWidget::~VoltageCalculatorWidget() = default;
 
-/// A stored phase may have decimals, which being shown does not take from it.
+/// The spin box shows a stored phase without its decimals. The model keeps them until the person
+/// changes the phase.
 void VoltageCalculatorWidget::on_phaseSpinBox_valueChanged(int degrees)
 {
     if (degrees == shownPhase())

@@ -39,7 +39,7 @@ QString chosenFile(QFileDialog &dialog)
     return dialog.selectedFiles().value(0);
 }
 
-/// A file's name may hold anything, line breaks and what a terminal takes for commands too.
+/// A file name may hold anything, even line breaks and commands to the terminal.
 QString onOneLine(const QString &text)
 {
     QVector<uint> characters = text.toUcs4();
@@ -52,7 +52,7 @@ QString onOneLine(const QString &text)
     return QString::fromUcs4(characters.constData(), characters.size());
 }
 
-/// What was saved is rewritten only where it is not arranged yet; what Linux writes is.
+/// Writes the file again if it is not arranged yet. On Linux it already is.
 void arrange(const QString &fileName)
 {
     QFile saved(fileName);
@@ -83,7 +83,7 @@ QString CalculationFiles::askForFileToOpen(QWidget *parent)
 
 QString CalculationFiles::askForFileToSave(QWidget *parent)
 {
-    // A date in a pattern of one's own would have the digits of the system's language.
+    // With a pattern in place of a format the date would have the digits of the system's language.
     const QString today = QDate::currentDate().toString(Qt::ISODate); // yyyy-MM-dd
     QFileDialog dialog(parent,
                        QCoreApplication::translate("CalculationFiles", "Save dB Calulation ..."),

@@ -15,8 +15,8 @@ class MainProfile;
 /**
  * Calculation files are INI files with the groups and keys of the application settings. A file is
  * written whole, window group included, but only its module groups are read back: opening one never
- * moves the window or turns a page. What cannot be read takes its default; only the command line
- * has somebody to report to.
+ * moves the window or turns a page. A value that cannot be read takes its default. Only the command
+ * line reports a file that cannot be read.
  */
 namespace CalculationFiles {
 
@@ -28,12 +28,11 @@ QString askForFileToSave(QWidget *parent);
 void open(Dezimo::MainProfile &profile, const QString &fileName);
 void save(Dezimo::MainProfile &profile, const QString &fileName);
 
-/// Opens the one file that the command line names, as a double click in a file manager passes it.
-/// @p arguments begin with the program's own name. Without a name or with several nothing is
-/// opened, nor is an option, of which the program has none. A file that cannot be read at all
-/// leaves every module as it is: nobody chose it in a dialog, and a mistyped name must not cost the
-/// values of the last run. Returns the line that tells which file that was and why, or an empty
-/// text.
+/// Opens the file that the command line names, as a file manager passes it after a double click.
+/// @p arguments begin with the program's own name. Opens nothing without a name, with several, or
+/// for an option, because the program has none. A file that cannot be read at all leaves every
+/// module as it is, so that a mistyped name does not cost the values of the last run. Returns a
+/// line that says which file that was and why it cannot be read, or an empty text.
 QString openFromCommandLine(Dezimo::MainProfile &profile, const QStringList &arguments);
 
 /// Gives every module its default values.

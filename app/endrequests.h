@@ -9,12 +9,12 @@
 #include <memory>
 
 /**
- * What the system asks a program to end by, without a person who clicks Quit: the signals SIGTERM,
- * SIGINT and SIGHUP on Unix, the end of the session on Windows. All of them come out as one signal
- * of Qt, in the thread of this object and within its event loop, where everything may be done.
+ * Requests of the system to end the program: the signals SIGTERM, SIGINT and SIGHUP on Unix, the
+ * end of the session on Windows. Each of them arrives as a signal of Qt in the thread of this
+ * object and within its event loop, where all code may run.
  *
- * There is one object at a time. A signal that was ignored when the object is made stays ignored:
- * so nohup keeps a program running when its terminal goes.
+ * There is one object at a time. A signal that the program was started to ignore stays ignored, so
+ * that nohup keeps the program running when its terminal is closed.
  */
 class EndRequests final : public QObject
 {
@@ -25,8 +25,8 @@ public:
     ~EndRequests() override;
 
 Q_SIGNALS:
-    /// Emitted once: whoever asks again finds the program ending. On Windows the process may be
-    /// gone as soon as the slots have returned.
+    /// Emitted once, because the program ends then. On Windows the system may end the process as
+    /// soon as the slots have returned.
     void received();
 
 private:

@@ -14,20 +14,20 @@
 
 namespace {
 
-/// Signals arrive at any moment, where hardly anything is allowed but to write a byte into a pipe;
-/// the event loop finds it at the other end.
+/// A signal interrupts the program at any moment, so its handler may do hardly anything. It writes
+/// a byte into a pipe, and the event loop reads it at the other end.
 std::array<int, 2> endsOfPipe{-1, -1};
 
 extern "C" void writeIntoPipe(int)
 {
     const int kept = errno;
     const char byte = 0;
-    // A full pipe says already what there is to say.
+    // If the pipe is full, the event loop has enough to read already.
     [[maybe_unused]] const ssize_t written = write(endsOfPipe[1], &byte, 1);
     errno = kept;
 }
 
-/// Other programs that this one starts get neither the pipe nor the handler.
+/// Programs that this one starts inherit neither the pipe nor the handler.
 bool makePipe()
 {
     return endsOfPipe[0] >= 0 || pipe2(endsOfPipe.data(), O_CLOEXEC | O_NONBLOCK) == 0;
@@ -46,8 +46,8 @@ void catchUnlessIgnored(int signal)
 
 } // namespace
 
-/// The pipe and the handlers stay until the process ends. So a second signal cannot end it while
-/// the state is written, which happens after the event loop.
+/// The pipe and the handlers stay until the process ends. The state is written after the event
+/// loop, and a second signal must not end the process in that time.
 class EndRequests::Source
 {
 public:

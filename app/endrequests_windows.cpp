@@ -8,9 +8,9 @@
 
 #include <windows.h>
 
-/// Every window is told that the session ends, those that Qt hides too, and the first one counts.
-/// The process may be ended as soon as the last one knows it. A question whether the session may
-/// end comes before and can still be answered with no by any program, so it changes nothing here.
+/// Windows tells every window that the session ends, even those that Qt hides. The first message is
+/// enough, and after the last one the process may be ended. Windows asks all programs beforehand
+/// whether the session may end. Any of them may still say no, so that question is ignored here.
 class EndRequests::Source final : public QAbstractNativeEventFilter
 {
 public:
@@ -19,7 +19,7 @@ public:
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 
-    /// Nothing is kept from Qt, which answers the message.
+    /// Qt still gets the message and answers it.
     bool nativeEventFilter(const QByteArray &, void *message, long *) override
     {
         const auto *arrived = static_cast<const MSG *>(message);

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// The attributes are set although the application object exists already, which is meant; Qt's
-/// warning that this is late would be the only thing the program ever prints.
+/// The attributes are set after the application object is made, on purpose. Qt warns that this is
+/// too late. The warning is dropped, because it would be the only thing that the program prints.
 void setHighDpiAttributes()
 {
     const auto ignore = [](QtMsgType, const QMessageLogContext &, const QString &) {
@@ -34,7 +34,7 @@ void addApplicationFonts()
     }
 }
 
-/// AltGr is not Alt; where it arrives as Ctrl and Alt together, it types as well.
+/// AltGr types letters. Some platforms report it as Ctrl and Alt together.
 bool isLetterWithAlt(const QKeyEvent &key)
 {
     return key.modifiers().testFlag(Qt::AltModifier) &&
@@ -62,7 +62,7 @@ void KelApplication::installStyleSheet(ApplicationTheme theme)
     setStyleSheet(StyleSheets::combined(QStringLiteral(":/Global/Style/"), theme));
 }
 
-/// Qt's fields type a letter whether Alt is held or not, except on some platforms.
+/// On most platforms Qt's fields type a letter even while Alt is held.
 bool KelApplication::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&

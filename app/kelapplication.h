@@ -29,7 +29,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// Kept as given; nothing depends on them.
+    /// Nothing depends on these.
     [[maybe_unused]] const bool m_flag;
     [[maybe_unused]] void *const m_reserved = nullptr;
 };

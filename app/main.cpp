@@ -16,8 +16,8 @@ using namespace Dezimo;
 
 namespace {
 
-/// A session that ends need not close the windows, which Qt would do by itself: it may be asked to
-/// end and then go on.
+/// A session that is about to end may still go on. So the program only writes its state, whereas Qt
+/// by itself would close the windows.
 void endWithoutAPerson(const EndRequests &requests, const MainWindow &window)
 {
     QGuiApplication::setFallbackSessionManagementEnabled(false);
@@ -25,7 +25,7 @@ void endWithoutAPerson(const EndRequests &requests, const MainWindow &window)
     QObject::connect(&requests, &EndRequests::received, &window, &MainWindow::endProgram);
 }
 
-/// Whoever started the program from a terminal reads it there.
+/// For a person who started the program from a terminal.
 void say(const QString &line)
 {
     if (!line.isEmpty())

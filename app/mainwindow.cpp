@@ -52,10 +52,11 @@ QVector<QRect> screenRects()
     return rects;
 }
 
-/// What the pages need at least: the converters in width, the calculators in height.
+/// The smallest size in which every page has room: the converters need the width, the calculators
+/// the height.
 constexpr QSize kSmallestPage(560, 388);
 
-/// The page is styled while it is empty, so that showing the window does not style the view, too.
+/// Styles the page while it is empty, so that showing the window does not style the view, too.
 template <typename View>
 void addView(KelLatePage *page, const char *name)
 {
@@ -76,7 +77,7 @@ struct MainWindow::Extent
     int pixels;
 };
 
-/// The window has its style sheet before it has widgets, so that these are styled once.
+/// The window gets its style sheet before its widgets, so that these are styled only once.
 MainWindow::MainWindow(QWidget *parent)
     : KelMainWindow(parent),
       m_ui(std::make_unique<Ui::MainWindow>()),
@@ -104,8 +105,8 @@ MainWindow::MainWindow(QWidget *parent)
     onCurrentModuleChanged();
 }
 
-/// Hiding finishes an edit that is still open. Then the form object goes and the state is written.
-/// The widgets themselves are destroyed after that, so nothing that they do then is saved.
+/// Hiding finishes an edit that is still open. The widgets are destroyed after the state is
+/// written, so nothing that they do then is saved.
 MainWindow::~MainWindow()
 {
     hide();
@@ -113,8 +114,8 @@ MainWindow::~MainWindow()
     writeState();
 }
 
-/// A field's edit is finished when the field is left. A result that is just sliding into the input
-/// arrives at once: what the model makes of it meanwhile is an error.
+/// Losing the focus finishes the edit of a field. A result that is sliding into the input arrives
+/// at once, because the model's output is an error in the meantime.
 void MainWindow::keepState()
 {
     const QList<TakeOverSlide *> slides = findChildren<TakeOverSlide *>();
@@ -127,7 +128,7 @@ void MainWindow::keepState()
     writeState();
 }
 
-/// Dialogs close before the windows below them. One that refuses is left together with its event
+/// Qt closes dialogs before the windows below them. If one of them refuses, quit() ends its event
 /// loop.
 void MainWindow::endProgram()
 {
@@ -188,7 +189,7 @@ void MainWindow::on_actionSave_triggered()
         CalculationFiles::save(m_profile, fileName);
 }
 
-/// The entries are made anew each time, so that exactly the present number is checked.
+/// Makes the entries anew each time, so that only the present number is checked.
 void MainWindow::onDecimalPlacesMenuAboutToShow()
 {
     m_ui->menuDecimal_Places->clear();
@@ -215,7 +216,7 @@ void MainWindow::onThemeChanged(ApplicationTheme theme)
         applyModuleIcons(theme);
 }
 
-/// The window deletes itself when it is closed.
+/// The About window deletes itself when it is closed.
 void MainWindow::on_actionAbout_triggered()
 {
     auto *about = new KelAboutWindow(
@@ -225,10 +226,9 @@ void MainWindow::on_actionAbout_triggered()
     about->show();
 }
 
-/// The form has the pages. Their views are made once those are in place: every move of a widget to
-/// another parent styles it and all that it holds anew. Every new widget asks to be styled as soon
-/// as events are handled, and that is withdrawn, for all that there are: whatever is shown is
-/// styled then, and nothing is shown yet.
+/// Each view is made in its page, because a widget that gets another parent is styled anew with all
+/// that it holds. Every new widget also asks to be styled with the next events. These requests are
+/// withdrawn: Qt styles a widget when it is shown, and nothing is shown yet.
 void MainWindow::addViews()
 {
     addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");
@@ -244,7 +244,7 @@ void MainWindow::writeState()
     CheckedSettings::writeSettings([this](QSettings &store) { m_profile.saveSettings(store); });
 }
 
-/// A sheet that is set again would style every widget of the window once more, to the same looks.
+/// Setting the same sheet again would style every widget of the window once more for nothing.
 void MainWindow::applyStyleSheet(ApplicationTheme theme)
 {
     const auto style = StyleSheets::read(theme == Dark ? QStringLiteral(":/main_dark.qss")
@@ -277,9 +277,9 @@ void MainWindow::applyWindowMode()
     updateModeButton(Bright);
 }
 
-/// The stored position is that of the contents and places the frame, which is meant. A window that
-/// would lie on no screen, because one has gone since, is brought back. Its size stays as it was
-/// stored, be it larger than the screen: the larger screen may be there again at the next start.
+/// The stored position is that of the contents and places the frame, on purpose. If a screen is
+/// gone and the window would lie on none, it is brought back. It keeps its size even if that is
+/// larger than the screen, because the larger screen may be there again at the next start.
 void MainWindow::restoreGeometryFromProfile()
 {
     const QSize stored = m_profile.windowSize();
@@ -288,8 +288,8 @@ void MainWindow::restoreGeometryFromProfile()
     resize(restored);
 }
 
-/// Alt reaches the menus by itself; F10 opens them, too, as it does everywhere on a desktop. Return
-/// goes from the list of modules into the page.
+/// Qt opens the menus by Alt. F10 opens them, too, as in other programs on a desktop. Return goes
+/// from the list of modules into the page.
 void MainWindow::connectKeyboard()
 {
     const auto *menuKey = new QShortcut(Qt::Key_F10, this);
@@ -299,8 +299,8 @@ void MainWindow::connectKeyboard()
     connect(m_ui->menuItemsWidget, &QListWidget::itemActivated, this, &MainWindow::focusFirstField);
 }
 
-/// The person can type at once on a page that was just chosen. A list that has the keyboard keeps
-/// it, so that the arrow keys walk through the modules.
+/// After choosing a page the person can type on it at once. A list that has the focus keeps it, so
+/// that the arrow keys walk through the modules.
 void MainWindow::focusPage()
 {
     if (!m_ui->menuItemsWidget->hasFocus())

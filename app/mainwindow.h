@@ -34,9 +34,9 @@ public:
     /// Finishes the edit that is open and writes the state, for a session that may end without
     /// asking again. The window goes on.
     void keepState();
-    /// What Quit does, whatever menu or dialog is open: the edit that is open is finished, the
-    /// state written, every window closed and the event loop left with status 0. The state is
-    /// written at once, because whoever ends the program may not wait.
+    /// Quits, whatever menu or dialog is open: finishes the edit that is open, writes the state,
+    /// closes every window and leaves the event loop with status 0. The state is written first,
+    /// because the system may not wait.
     void endProgram();
 
 protected:
@@ -73,7 +73,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     Dezimo::MainProfile &m_profile;
-    ApplicationTheme m_iconTheme = Bright; ///< of the list's icons, which come with the form
+    ApplicationTheme m_iconTheme = Bright; ///< of the list's icons; the form has the bright ones
 };
 
 #endif

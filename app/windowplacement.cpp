@@ -7,14 +7,14 @@
 
 namespace {
 
-/// Whether two stretches of pixels share one. The ends are sums that may lie beyond int.
+/// Whether two stretches have a pixel in common. Their ends are sums that may lie beyond int.
 bool overlap(qint64 start, qint64 length, qint64 otherStart, qint64 otherLength)
 {
     return start < otherStart + otherLength && otherStart < start + length;
 }
 
-/// The place nearest to @p wanted at which a stretch lies on the screen's; one that is longer than
-/// the screen begins where the screen does.
+/// The place nearest to @p wanted at which the whole stretch is on the screen. A stretch that is
+/// longer than the screen begins where the screen does.
 int nearestPlace(int wanted, int length, int screenStart, int screenLength)
 {
     const qint64 last = qint64(screenStart) + screenLength - length;

@@ -9,7 +9,7 @@
 
 /// Where a window that was stored at @p position is put: there if any part of it lies on one of
 /// @p screens, else wholly onto the nearest one. All in device-independent pixels. Any position is
-/// taken, also one at an end of the number range. Without screens the window stays where it was.
+/// allowed, even at the limits of int. Without screens the window stays where it was.
 QPoint reachablePosition(const QPoint &position, const QSize &size, const QVector<QRect> &screens);
 
 #endif

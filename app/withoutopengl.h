@@ -7,8 +7,9 @@
 /**
  * While it lives, the X11 platform plugin of Qt makes windows without OpenGL. It would load the
  * graphics driver with the first window, which costs a program that draws nothing with OpenGL
- * a third of its start and more memory than its own data. Programs that are started later, for
- * example a browser, find the environment as it was; so do persons who have chosen an integration.
+ * a third of its start and more memory than its own data. Afterwards the environment is as it was,
+ * for programs that this one starts, for example a browser. An integration that a person has chosen
+ * is left alone.
  */
 class WithoutOpenGl final
 {

@@ -6,31 +6,7 @@
 #include "propertyvalues.h"
 #include "require.h"
 
-#include <QMap>
-#include <QPoint>
-#include <QSize>
-
 #include <utility>
-
-namespace {
-
-/// Equal exactly if the values are, which two variants are not for numbers that nearly are.
-QString exactText(const QVariant &value)
-{
-    if (value.userType() == QMetaType::QPoint)
-        return QStringLiteral("%1,%2").arg(value.toPoint().x()).arg(value.toPoint().y());
-    if (value.userType() == QMetaType::QSize)
-        return QStringLiteral("%1x%2").arg(value.toSize().width()).arg(value.toSize().height());
-    if (value.userType() != qMetaTypeId<QMap<int, bool>>())
-        return value.toString();
-    QString text;
-    const auto units = value.value<QMap<int, bool>>();
-    for (auto unit = units.begin(); unit != units.end(); ++unit)
-        text += QString::number(unit.key()) + QLatin1String(unit.value() ? "+" : "-");
-    return text;
-}
-
-} // namespace
 
 ChangeWatch::ChangeWatch(const QObject &object) : m_object(object)
 {

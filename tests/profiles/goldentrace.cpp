@@ -7,7 +7,6 @@
 #include "propertyvalues.h"
 
 #include <QCryptographicHash>
-#include <QMap>
 #include <QPoint>
 #include <QSize>
 
@@ -16,28 +15,6 @@ using namespace Dezimo;
 namespace {
 
 using Words = std::vector<const char *>;
-
-/// Every digit of a number, so that two texts are equal exactly if the values are.
-QString exactText(const QVariant &value)
-{
-    switch (value.userType()) {
-    case QMetaType::Double:
-        return QString::number(value.toDouble(), 'g', 17);
-    case QMetaType::QPoint:
-        return QStringLiteral("%1,%2").arg(value.toPoint().x()).arg(value.toPoint().y());
-    case QMetaType::QSize:
-        return QStringLiteral("%1x%2").arg(value.toSize().width()).arg(value.toSize().height());
-    default:
-        break;
-    }
-    if (value.userType() != qMetaTypeId<QMap<int, bool>>())
-        return value.toString();
-    QString text;
-    const auto units = value.value<QMap<int, bool>>();
-    for (auto unit = units.begin(); unit != units.end(); ++unit)
-        text += QString::number(unit.key()) + QLatin1String(unit.value() ? "+" : "-");
-    return text;
-}
 
 QString lineOf(const Profile &profile, const QMetaProperty &property)
 {

@@ -3,7 +3,10 @@
 
 #include "propertyvalues.h"
 
+#include <QMap>
 #include <QMetaMethod>
+#include <QPoint>
+#include <QSize>
 
 #include <utility>
 
@@ -47,6 +50,27 @@ std::vector<QMetaProperty> declaredProperties(const QObject &object)
     for (int i = QObject::staticMetaObject.propertyCount(); i < type->propertyCount(); ++i)
         properties.push_back(type->property(i));
     return properties;
+}
+
+QString exactText(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::Double:
+        return QString::number(value.toDouble(), 'g', 17);
+    case QMetaType::QPoint:
+        return QStringLiteral("%1,%2").arg(value.toPoint().x()).arg(value.toPoint().y());
+    case QMetaType::QSize:
+        return QStringLiteral("%1x%2").arg(value.toSize().width()).arg(value.toSize().height());
+    default:
+        break;
+    }
+    if (value.userType() != qMetaTypeId<QMap<int, bool>>())
+        return value.toString();
+    QString text;
+    const auto units = value.value<QMap<int, bool>>();
+    for (auto unit = units.begin(); unit != units.end(); ++unit)
+        text += QString::number(unit.key()) + QLatin1String(unit.value() ? "+" : "-");
+    return text;
 }
 
 void setProperties(QObject &object, const PropertyValues &values)

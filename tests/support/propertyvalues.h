@@ -32,6 +32,10 @@ Q_DECLARE_METATYPE(PropertyValues)
 /// without QObject's own.
 std::vector<QMetaProperty> declaredProperties(const QObject &object);
 
+/// The value of a property with every digit of a number, so that two texts are equal exactly if the
+/// values are. Two variants are not: they are equal for numbers that nearly are.
+QString exactText(const QVariant &value);
+
 /// Sets @p values one after the other. A name that is no property ends the test.
 void setProperties(QObject &object, const PropertyValues &values);
 

@@ -4,15 +4,13 @@
 #include "kelapplication.h"
 #include "mainwindowcase.h"
 #include "stylesheets.h"
+#include "table.h"
 #include "testmain.h"
+#include "words.h"
 
-#include <QLayout>
 #include <QListWidget>
-#include <QMargins>
 #include <QTest>
 #include <QToolButton>
-
-Q_DECLARE_METATYPE(QMargins)
 
 class MainWindowFormTest : public MainWindowCase
 {
@@ -21,19 +19,14 @@ class MainWindowFormTest : public MainWindowCase
 private Q_SLOTS:
     void appliesBothThemes_data();
     void appliesBothThemes();
-    void theFormHasItsNumbers_data();
-    void theFormHasItsNumbers();
-    void theFormHasItsMargins_data();
-    void theFormHasItsMargins();
+    void theFormNamesItsObjects();
 };
 
 void MainWindowFormTest::appliesBothThemes_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QString>("sheet");
-
-    QTest::newRow("bright") << int(Bright) << ":/main_light.qss";
-    QTest::newRow("dark") << int(Dark) << ":/main_dark.qss";
+    columns<int, QString>({"theme", "sheet"});
+    row("bright", int(Bright), ":/main_light.qss");
+    row("dark", int(Dark), ":/main_dark.qss");
 }
 
 void MainWindowFormTest::appliesBothThemes()
@@ -50,75 +43,24 @@ void MainWindowFormTest::appliesBothThemes()
     const auto drawing = [](const QIcon &icon) {
         return icon.pixmap(16, 16).toImage();
     };
-    const QStringList icons{
-        QStringLiteral(":/dbmcalc_16_%1.svg"), QStringLiteral(":/voltagecalc_16_%1.svg"),
-        QStringLiteral(":/unitconv_16_%1.svg"), QStringLiteral(":/dbconv_16_%1.svg"),
-        QStringLiteral(":/vswrconv_16_%1.svg")};
-    for (int row = 0; row < icons.size(); ++row)
-        QCOMPARE(drawing(list->item(row)->icon()), drawing(QIcon(icons.at(row).arg(word))));
+    const QStringList icons = words("dbmcalc voltagecalc unitconv dbconv vswrconv");
+    for (int i = 0; i < icons.size(); ++i) {
+        const QIcon icon(QStringLiteral(":/%1_16_%2.svg").arg(icons.at(i), word));
+        QCOMPARE(drawing(list->item(i)->icon()), drawing(icon));
+    }
     const QIcon add(QStringLiteral(":/Global/Icons_SVG/%1/Icon_Add_16_%1.svg").arg(word));
     QCOMPARE(drawing(child<QToolButton>("changeWindowModeButton")->icon()), drawing(add));
 }
 
-void MainWindowFormTest::theFormHasItsNumbers_data()
+/// The form alone says how large its parts are. Their names stay, whatever it says.
+void MainWindowFormTest::theFormNamesItsObjects()
 {
-    QTest::addColumn<QByteArray>("object");
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<QVariant>("value");
-
-    const auto row = [](const char *object, const char *property, const QVariant &value) {
-        QTest::newRow(QByteArray(object).append(' ').append(property).constData())
-            << QByteArray(object) << QByteArray(property) << value;
-    };
-    row("menuItemsWidget", "iconSize", QSize(16, 16));
-    row("menuItemsWidget", "verticalScrollBarPolicy", int(Qt::ScrollBarAlwaysOff));
-    row("menuItemsWidget", "horizontalScrollBarPolicy", int(Qt::ScrollBarAlwaysOff));
-    row("menuItemsWidget", "sortingEnabled", false);
-    row("widget_8", "minimumWidth", 79);
-    row("widget_8", "maximumWidth", 79);
-    row("label", "minimumHeight", 22);
-    row("menuWidget", "maximumWidth", 40);
-    row("verticalLayout_2", "spacing", 1);
-    row("gridLayout", "spacing", 0);
-    row("pageLayout_1", "spacing", 0);
-    row("pageLayout_2", "spacing", 0);
-    row("pageLayout_3", "spacing", 0);
-    row("pageLayout_4", "spacing", 0);
-    row("pageLayout_5", "spacing", 0);
-}
-
-void MainWindowFormTest::theFormHasItsNumbers()
-{
-    QFETCH(QByteArray, object);
-    QFETCH(QByteArray, property);
-    QFETCH(QVariant, value);
-
     openWindow();
-    const auto *found = child<QObject>(object.constData());
-    QVERIFY(found);
-    const QVariant present = found->property(property.constData());
-    QVERIFY(present.isValid());
-    QCOMPARE(value.userType() == QMetaType::Int ? QVariant(present.toInt()) : present, value);
-}
-
-void MainWindowFormTest::theFormHasItsMargins_data()
-{
-    QTest::addColumn<QByteArray>("layout");
-    QTest::addColumn<QMargins>("margins");
-
-    QTest::newRow("the list leaves a gap at its right")
-        << QByteArray("verticalLayout_2") << QMargins(0, 0, 3, 0);
-    for (const char *layout : {"gridLayout", "pageLayout_1", "pageLayout_2", "pageLayout_3",
-                               "pageLayout_4", "pageLayout_5"})
-        QTest::newRow(layout) << QByteArray(layout) << QMargins();
-}
-
-void MainWindowFormTest::theFormHasItsMargins()
-{
-    QFETCH(QByteArray, layout);
-
-    openWindow();
-    QTEST(child<QLayout>(layout.constData())->contentsMargins(), "margins");
+    const QStringList names = words("menuItemsWidget menuWidget changeWindowModeButton widget_8"
+                                    " label verticalLayout_2 gridLayout pageLayout_1"
+                                    " pageLayout_2 pageLayout_3 pageLayout_4 pageLayout_5");
+    for (const QString &name : names)
+        QVERIFY2(m_window->findChild<QObject *>(name), qPrintable(name));
 }
 
 int main(int argc, char **argv)

@@ -9,7 +9,7 @@
 /// The words of @p line, which blanks part: an expected list of names as one literal.
 inline QStringList words(const char *line)
 {
-    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 /// The lines of @p text without their indentation, as a raw literal holds them.

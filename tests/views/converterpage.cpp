@@ -4,6 +4,7 @@
 #include "converterpage.h"
 
 #include "kellineedit.h"
+#include "table.h"
 #include "windowsystem.h"
 
 #include <QAbstractButton>
@@ -34,6 +35,13 @@ QComboBox &ConverterPage::combo(const QString &name) const
 QLabel &ConverterPage::label(const QString &name) const
 {
     return child<QLabel>(name);
+}
+
+void ConverterPage::resize(const QSize &size) const
+{
+    m_page.resize(size);
+    QTRY_COMPARE(m_page.size(), size);
+    QCoreApplication::processEvents();
 }
 
 void ConverterPage::focus(const QString &name) const
@@ -88,4 +96,23 @@ QString ConverterPage::fieldTexts() const
             texts.append(field->text());
     }
     return texts.join(QStringLiteral(" | "));
+}
+
+QStringList ConverterPage::labelsTooNarrow() const
+{
+    QStringList texts;
+    const QList<QLabel *> labels = m_page.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->isVisible() && label->width() < label->sizeHint().width())
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+void addPageSizes()
+{
+    columns<QSize>({"size"});
+    row("at first", QSize(918, 583));
+    row("in a small window", QSize(560, 430));
+    row("on a large screen", QSize(2400, 1300));
 }

@@ -36,6 +36,7 @@ public:
     QComboBox &combo(const QString &name) const;
     QLabel &label(const QString &name) const;
 
+    void resize(const QSize &size) const;
     void focus(const QString &name) const;
     /// Replaces the text of the field by typing, and stays in it.
     void type(const QString &name, const QString &text) const;
@@ -48,9 +49,14 @@ public:
     QStringList items(const QString &combo) const;
     /// The texts of all fields in tab order, hidden ones too, with " | " between them.
     QString fieldTexts() const;
+    /// The texts of the labels that are wider than the room they have.
+    QStringList labelsTooNarrow() const;
 
 private:
     QWidget &m_page;
 };
+
+/// A table of the column "size", from a small window to a large screen.
+void addPageSizes();
 
 #endif

@@ -3,8 +3,10 @@
 
 #include "calculatorpage.h"
 #include "dbmcalculatorwidget.h"
+#include "table.h"
 #include "testmain.h"
 #include "voltagecalculatorwidget.h"
+#include "words.h"
 
 #include <QApplication>
 #include <QTest>
@@ -35,16 +37,14 @@ CalculatorPage newPage(const QString &name)
     return CalculatorPage(std::make_unique<VoltageCalculatorWidget>());
 }
 
-const QString kEveryPlainKey =
-    QStringLiteral("0 1 2 3 4 5 6 7 8 9 point plus minus plusMinus back C calc");
+const char *const kEveryPlainKey = "0 1 2 3 4 5 6 7 8 9 point plus minus plusMinus back C calc";
 
 /// The object names of the keys in a list like "V mV".
-QStringList keyNames(const QString &keys)
+QStringList keyNames(const char *keys)
 {
-    QStringList names;
-    const QStringList ends = keys.split(QLatin1Char(' '));
-    for (const QString &end : ends)
-        names += QStringLiteral("pushButton_") + end;
+    QStringList names = words(keys);
+    for (QString &name : names)
+        name.prepend(QStringLiteral("pushButton_"));
     return names;
 }
 
@@ -52,13 +52,9 @@ QStringList keyNames(const QString &keys)
 
 void KeypadFormTest::pages()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("units");
-
-    QTest::newRow("the dBm calculator") << "dBm"
-                                        << "dBm dB mW W";
-    QTest::newRow("the voltage calculator") << "voltage"
-                                            << "V mV";
+    columns<QString, QString>({"page", "units"});
+    row("the dBm calculator", "dBm", "dBm dB mW W");
+    row("the voltage calculator", "voltage", "V mV");
 }
 
 void KeypadFormTest::theInputStartsWithoutAFontSize()
@@ -81,10 +77,7 @@ void KeypadFormTest::unitKeysHaveTheProgramsFont()
 
 void KeypadFormTest::aContainerHoldsItsWidgets_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("container");
-    QTest::addColumn<QStringList>("widgets");
-
+    columns<QString, QString, QStringList>({"page", "container", "widgets"});
     const struct
     {
         const char *page;
@@ -92,17 +85,16 @@ void KeypadFormTest::aContainerHoldsItsWidgets_data()
         const char *units;
     } pages[] = {{"dBm", "keyboard_db_calc", "dBm dB mW W"}, {"voltage", "keyboard", "V mV"}};
     for (const auto &page : pages) {
-        const auto row = [&page](const char *container, const QStringList &widgets) {
-            QTest::addRow("%s of the %s page", container, page.page)
-                << QString::fromLatin1(page.page) << QString::fromLatin1(container) << widgets;
+        const auto add = [&page](const char *container, const QStringList &widgets) {
+            const QByteArray tag = QByteArray(container) + " of the " + page.page + " page";
+            row(tag.constData(), page.page, container, widgets);
         };
-        const QStringList unitKeys = keyNames(QLatin1String(page.units));
-        row("input_widget", {QStringLiteral("inputWidget"), QStringLiteral("inputLineEdit")});
-        row("inputWidget", {QStringLiteral("inputLineEdit")});
-        row("outputWidget",
-            {QStringLiteral("outputLineEdit"), QStringLiteral("outputUnitComboBox")});
-        row("unitWidget", unitKeys);
-        row(page.keypad, unitKeys + keyNames(kEveryPlainKey));
+        const QStringList unitKeys = keyNames(page.units);
+        add("input_widget", words("inputWidget inputLineEdit"));
+        add("inputWidget", words("inputLineEdit"));
+        add("outputWidget", words("outputLineEdit outputUnitComboBox"));
+        add("unitWidget", unitKeys);
+        add(page.keypad, unitKeys + keyNames(kEveryPlainKey));
     }
 }
 

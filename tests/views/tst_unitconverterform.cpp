@@ -4,8 +4,10 @@
 #include "converterpage.h"
 #include "kellineedit.h"
 #include "keltogglebutton.h"
+#include "table.h"
 #include "testmain.h"
 #include "unitconverterwidget.h"
+#include "words.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -34,7 +36,7 @@ private Q_SLOTS:
     void offersTheVoltageModes();
     void startsWithTheDefaults();
     void tabGoesFromTopToBottom();
-    void fitsItsPage_data();
+    void fitsItsPage_data() { addPageSizes(); }
     void fitsItsPage();
 
 private:
@@ -62,31 +64,14 @@ ConverterPage UnitConverterFormTest::open()
 
 void UnitConverterFormTest::showsTheCaptions_data()
 {
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("buddy");
-
-    QTest::newRow("the heading of the powers") << "powerHeading"
-                                               << "Power"
-                                               << "";
-    QTest::newRow("the power level") << "logPowerLabel"
-                                     << "Logarithmic Power"
-                                     << "dbmLineEdit";
-    QTest::newRow("the power") << "linPowerLabel"
-                               << "Linear Power"
-                               << "wattLineEdit";
-    QTest::newRow("the impedance") << "impedanceLabel"
-                                   << "Impedance:"
-                                   << "impedanceLineEdit";
-    QTest::newRow("the heading of the voltages") << "voltageHeading"
-                                                 << "Voltage"
-                                                 << "";
-    QTest::newRow("the voltage level") << "logVoltageLabel"
-                                       << "Logarithmic Voltage"
-                                       << "dbvLineEdit";
-    QTest::newRow("the voltage") << "linVoltageLabel"
-                                 << "Linear Voltage"
-                                 << "voltLineEdit";
+    columns<QString, QString, QString>({"label", "text", "buddy"});
+    row("the heading of the powers", "powerHeading", "Power", "");
+    row("the power level", "logPowerLabel", "Logarithmic Power", "dbmLineEdit");
+    row("the power", "linPowerLabel", "Linear Power", "wattLineEdit");
+    row("the impedance", "impedanceLabel", "Impedance:", "impedanceLineEdit");
+    row("the heading of the voltages", "voltageHeading", "Voltage", "");
+    row("the voltage level", "logVoltageLabel", "Logarithmic Voltage", "dbvLineEdit");
+    row("the voltage", "linVoltageLabel", "Linear Voltage", "voltLineEdit");
 }
 
 void UnitConverterFormTest::showsTheCaptions()
@@ -105,29 +90,17 @@ void UnitConverterFormTest::showsTheCaptions()
 
 void UnitConverterFormTest::namesTheFieldsForScreenReaders_data()
 {
-    QTest::addColumn<QString>("widget");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("the power level") << "dbmLineEdit"
-                                     << "Logarithmic power";
-    QTest::newRow("its unit") << "dbmUnitComboBox"
-                              << "Logarithmic power unit";
-    QTest::newRow("the power") << "wattLineEdit"
-                               << "Linear power";
-    QTest::newRow("the power's unit") << "wattUnitComboBox"
-                                      << "Linear power unit";
-    QTest::newRow("the impedance") << "impedanceLineEdit"
-                                   << "Impedance in ohms";
-    QTest::newRow("the switch") << "vModeToggle"
-                                << "Voltage mode";
-    QTest::newRow("the voltage level") << "dbvLineEdit"
-                                       << "Logarithmic voltage";
-    QTest::newRow("the voltage level's unit") << "dbvUnitComboBox"
-                                              << "Logarithmic voltage unit";
-    QTest::newRow("the voltage") << "voltLineEdit"
-                                 << "Linear voltage";
-    QTest::newRow("the voltage's unit") << "voltUnitComboBox"
-                                        << "Linear voltage unit";
+    columns<QString, QString>({"widget", "name"});
+    row("the power level", "dbmLineEdit", "Logarithmic power");
+    row("its unit", "dbmUnitComboBox", "Logarithmic power unit");
+    row("the power", "wattLineEdit", "Linear power");
+    row("the power's unit", "wattUnitComboBox", "Linear power unit");
+    row("the impedance", "impedanceLineEdit", "Impedance in ohms");
+    row("the switch", "vModeToggle", "Voltage mode");
+    row("the voltage level", "dbvLineEdit", "Logarithmic voltage");
+    row("the voltage level's unit", "dbvUnitComboBox", "Logarithmic voltage unit");
+    row("the voltage", "voltLineEdit", "Linear voltage");
+    row("the voltage's unit", "voltUnitComboBox", "Linear voltage unit");
 }
 
 void UnitConverterFormTest::namesTheFieldsForScreenReaders()
@@ -140,27 +113,20 @@ void UnitConverterFormTest::namesTheFieldsForScreenReaders()
 
 void UnitConverterFormTest::offersTheUnits_data()
 {
-    QTest::addColumn<QString>("combo");
-    QTest::addColumn<QStringList>("units");
-
-    QTest::newRow("power levels") << "dbmUnitComboBox"
-                                  << QStringList{QStringLiteral("dBm"), QStringLiteral("dBW")};
-    QTest::newRow("powers") << "wattUnitComboBox"
-                            << QStringList{QStringLiteral("mW"), QStringLiteral("W")};
-    QTest::newRow("voltages") << "voltUnitComboBox"
-                              << QStringList{QStringLiteral("mV"), QStringLiteral("V")};
-    QTest::newRow("voltage levels")
-        << "dbvUnitComboBox"
-        << QStringList{QStringLiteral("dBV"), QStringLiteral("dBµV"), QStringLiteral("dBu")};
+    columns<QString, QString>({"combo", "units"});
+    row("power levels", "dbmUnitComboBox", "dBm dBW");
+    row("powers", "wattUnitComboBox", "mW W");
+    row("voltages", "voltUnitComboBox", "mV V");
+    row("voltage levels", "dbvUnitComboBox", "dBV dBµV dBu");
 }
 
 void UnitConverterFormTest::offersTheUnits()
 {
     QFETCH(QString, combo);
-    QFETCH(QStringList, units);
+    QFETCH(QString, units);
 
     const ConverterPage page = open();
-    QCOMPARE(page.items(combo), units);
+    QCOMPARE(page.items(combo).join(QLatin1Char(' ')), units);
     QCOMPARE(page.combo(combo).currentIndex(), 0);
 }
 
@@ -172,8 +138,7 @@ void UnitConverterFormTest::offersTheVoltageModes()
     const QList<QPushButton *> buttons = modes.findChildren<QPushButton *>();
     for (const QPushButton *button : buttons)
         texts.append(button->text());
-    QCOMPARE(texts,
-             (QStringList{QStringLiteral("Vrms"), QStringLiteral("Vpp"), QStringLiteral("Vavg")}));
+    QCOMPARE(texts, words("Vrms Vpp Vavg"));
     QCOMPARE(modes.currentIndex(), 0);
 }
 
@@ -190,20 +155,8 @@ void UnitConverterFormTest::tabGoesFromTopToBottom()
 {
     // Of the switch, Tab visits the checked button only.
     QCOMPARE(open().tabStops(QStringLiteral("dbmLineEdit")),
-             (QStringList{QStringLiteral("dbmLineEdit"), QStringLiteral("dbmUnitComboBox"),
-                          QStringLiteral("wattLineEdit"), QStringLiteral("wattUnitComboBox"),
-                          QStringLiteral("impedanceLineEdit"), QStringLiteral("Vrms"),
-                          QStringLiteral("dbvLineEdit"), QStringLiteral("dbvUnitComboBox"),
-                          QStringLiteral("voltLineEdit"), QStringLiteral("voltUnitComboBox")}));
-}
-
-void UnitConverterFormTest::fitsItsPage_data()
-{
-    QTest::addColumn<QSize>("size");
-
-    QTest::newRow("at first") << QSize(918, 583);
-    QTest::newRow("in a small window") << QSize(560, 430);
-    QTest::newRow("on a large screen") << QSize(2400, 1300);
+             words("dbmLineEdit dbmUnitComboBox wattLineEdit wattUnitComboBox impedanceLineEdit"
+                   " Vrms dbvLineEdit dbvUnitComboBox voltLineEdit voltUnitComboBox"));
 }
 
 void UnitConverterFormTest::fitsItsPage()
@@ -212,9 +165,7 @@ void UnitConverterFormTest::fitsItsPage()
 
     applyStyleSheet();
     const ConverterPage page = open();
-    m_page->resize(size);
-    QTRY_COMPARE(m_page->size(), size);
-    QCoreApplication::processEvents();
+    page.resize(size);
     const auto &area = page.child<QScrollArea>(QStringLiteral("scrollArea"));
     QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
     QCOMPARE(area.verticalScrollBar()->maximum(), 0);
@@ -224,11 +175,7 @@ void UnitConverterFormTest::fitsItsPage()
         QVERIFY2(field->height() >= 24, qPrintable(field->objectName()));
         QVERIFY2(field->width() >= 100 && field->width() <= 360, qPrintable(field->objectName()));
     }
-    const QList<QLabel *> labels = m_page->findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->isVisible())
-            QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-    }
+    QCOMPARE(page.labelsTooNarrow(), QStringList());
 }
 
 DEZIMO_TEST_MAIN(QApplication, UnitConverterFormTest)

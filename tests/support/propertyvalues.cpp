@@ -43,6 +43,19 @@ QStringList methodNames(const QMetaObject &type, QMetaMethod::MethodType kind)
 
 } // namespace
 
+PropertyValues values(const QString &text)
+{
+    PropertyValues found;
+    const QStringList parts = text.split(QStringLiteral(", "));
+    for (const QString &part : parts) {
+        const int equals = part.indexOf(QLatin1Char('='));
+        if (equals <= 0)
+            qFatal("\"%s\" is no name=value", qPrintable(part));
+        found.push_back({part.left(equals).toLatin1(), part.mid(equals + 1).toUtf8().constData()});
+    }
+    return found;
+}
+
 std::vector<QMetaProperty> declaredProperties(const QObject &object)
 {
     std::vector<QMetaProperty> properties;

@@ -28,6 +28,9 @@ struct PropertyValue
 using PropertyValues = std::vector<PropertyValue>;
 Q_DECLARE_METATYPE(PropertyValues)
 
+/// Reads "name=value, name=value", so that a list takes no more than a part of a line.
+PropertyValues values(const QString &text);
+
 /// The properties that the class of @p object and its bases declare, in the order of declaration,
 /// without QObject's own.
 std::vector<QMetaProperty> declaredProperties(const QObject &object);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculatorpage.h"
+#include "table.h"
 #include "windowsystem.h"
 
 #include <QMoveEvent>
@@ -54,9 +55,9 @@ void CalculatorPage::show()
     QVERIFY(waitForKeyboard(*m_page));
 }
 
-void CalculatorPage::type(const char *text)
+void CalculatorPage::type(const QString &text)
 {
-    QTest::keyClicks(m_page->focusWidget(), QString::fromUtf8(text));
+    QTest::keyClicks(m_page->focusWidget(), text);
 }
 
 void CalculatorPage::type(Qt::Key key)
@@ -73,6 +74,35 @@ void CalculatorPage::enter(const char *text)
 {
     input().clear();
     QTest::keyClicks(&input(), QString::fromUtf8(text));
+}
+
+void addPlainKeys()
+{
+    columns<QString, QString>({"key", "typed"});
+    for (int digit = 0; digit <= 9; ++digit) {
+        const QString text = QString::number(digit);
+        row(qPrintable(QStringLiteral("the digit ") + text), text, text);
+    }
+    row("the decimal point", "point", ".");
+    row("plus", "plus", "+");
+    row("minus", "minus", "-");
+    row("the sign", "plusMinus", "-");
+}
+
+void checkTypedKey(CalculatorPage &page, const Dezimo::ExpressionProfile &profile)
+{
+    QFETCH(QString, key);
+    QFETCH(QString, typed);
+    page.type("()");
+    page.input().setCursorPosition(1);
+
+    page.press(key);
+
+    const QString expected = QStringLiteral("(") + typed + QStringLiteral(")");
+    QCOMPARE(page.input().text(), expected);
+    QCOMPARE(profile.input(), expected);
+    QCOMPARE(page.input().cursorPosition(), 1 + typed.size());
+    QVERIFY(page.input().hasFocus());
 }
 
 MoveLog::MoveLog(QWidget &widget)

@@ -49,7 +49,8 @@ public:
     std::vector<QPoint> places() const;
 
     void show();
-    void type(const char *text);
+    void type(const QString &text);
+    void type(const char *text) { type(QString::fromUtf8(text)); }
     void type(Qt::Key key);
     void press(const QString &key);
     /// Empties the input line and types @p text.
@@ -68,6 +69,13 @@ public:
 private:
     std::unique_ptr<QWidget> m_page;
 };
+
+/// The keys that both calculators have: a table of "key", as in CalculatorPage::key(), and "typed".
+void addPlainKeys();
+
+/// Presses the key of the present row with the cursor between two brackets, and requires that its
+/// text stands there then, with the cursor behind it.
+void checkTypedKey(CalculatorPage &page, const Dezimo::ExpressionProfile &profile);
 
 /// Notes each place to which a widget moves within its parent.
 class MoveLog final : public QObject

@@ -4,8 +4,10 @@
 #include "dbconverterwidget.h"
 #include "mainprofile.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
+#include "words.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -80,14 +82,11 @@ void DbConverterWidgetTest::show(int tab)
 
 void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun_data()
 {
-    QTest::addColumn<QString>("property");
-    QTest::addColumn<QByteArray>("latestRun");
-    QTest::addColumn<int>("tab");
-
+    columns<QString, QByteArray, int>({"property", "latestRun", "tab"});
     for (const char *name : {"p1", "p2", "pRatio", "pDb"})
-        QTest::newRow(name) << QString::fromLatin1(name) << QByteArray("pLatestRun") << 0;
+        row(name, QString::fromLatin1(name), QByteArray("pLatestRun"), 0);
     for (const char *name : {"v1", "v2", "vRatio", "vDb"})
-        QTest::newRow(name) << QString::fromLatin1(name) << QByteArray("vLatestRun") << 1;
+        row(name, QString::fromLatin1(name), QByteArray("vLatestRun"), 1);
 }
 
 void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun()
@@ -110,22 +109,8 @@ void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun()
 
 void DbConverterWidgetTest::leavingAFieldCalculates_data()
 {
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<QString>("partner");
-    QTest::addColumn<QString>("partnerText");
-    QTest::addColumn<QString>("finished");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<QString>("resultText");
-
-    const auto row = [](const char *tag, int tab, const char *partner, const char *partnerText,
-                        const char *finished, const char *text, const char *result,
-                        const char *resultText) {
-        QTest::newRow(tag) << tab << QString::fromLatin1(partner)
-                           << QString::fromLatin1(partnerText) << QString::fromLatin1(finished)
-                           << QString::fromLatin1(text) << QString::fromLatin1(result)
-                           << QString::fromLatin1(resultText);
-    };
+    columns<int, QString, QString, QString, QString, QString, QString>(
+        {"tab", "partner", "partnerText", "finished", "text", "result", "resultText"});
     row("P1", 0, "p2", "0dBm", "p1", "10dBm", "pDb", "10.00");
     row("P2", 0, "p1", "10dBm", "p2", "0dBm", "pRatio", "10");
     row("power ratio", 0, "p2", "1W", "pRatio", "4", "p1", "4W");
@@ -247,10 +232,9 @@ void DbConverterWidgetTest::tabbingThroughTheRatioKeepsTheDecibels()
 
 void DbConverterWidgetTest::showsWhatTheModelHolds_data()
 {
-    QTest::addColumn<QByteArray>("property");
-
+    columns<QByteArray>({"property"});
     for (const char *name : {"p1", "p2", "pRatio", "pDb", "v1", "v2", "vRatio", "vDb"})
-        QTest::newRow(name) << QByteArray(name);
+        row(name, QByteArray(name));
 }
 
 void DbConverterWidgetTest::showsWhatTheModelHolds()
@@ -294,13 +278,11 @@ void DbConverterWidgetTest::aLoadedModeTurnsTheTab()
 
 void DbConverterWidgetTest::aLoadWithTheFocusInAFieldCalculatesNothing_data()
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<int>("tab");
-
+    columns<QString, int>({"field", "tab"});
     for (const char *name : {"p1", "p2", "pRatio", "pDb"})
-        QTest::newRow(name) << QString::fromLatin1(name) << 0;
+        row(name, QString::fromLatin1(name), 0);
     for (const char *name : {"v1", "v2", "vRatio", "vDb"})
-        QTest::newRow(name) << QString::fromLatin1(name) << 1;
+        row(name, QString::fromLatin1(name), 1);
 }
 
 /// The values do not belong together, so that any calculation would show.
@@ -309,10 +291,7 @@ void DbConverterWidgetTest::aLoadWithTheFocusInAFieldCalculatesNothing()
     QFETCH(QString, field);
     QFETCH(int, tab);
 
-    const QStringList names{QStringLiteral("p1"),     QStringLiteral("p2"),
-                            QStringLiteral("pRatio"), QStringLiteral("pDb"),
-                            QStringLiteral("v1"),     QStringLiteral("v2"),
-                            QStringLiteral("vRatio"), QStringLiteral("vDb")};
+    const QStringList names = words("p1 p2 pRatio pDb v1 v2 vRatio vDb");
     SettingsFile file;
     file.settings().beginGroup(QStringLiteral("DbConverterProfile"));
     for (int i = 0; i < names.size(); ++i)
@@ -344,10 +323,7 @@ void DbConverterWidgetTest::typingInTheMiddleKeepsTheCursor()
 
 void DbConverterWidgetTest::tabWalksFromFieldToField()
 {
-    for (const auto &names : {QStringList{QStringLiteral("p1"), QStringLiteral("p2"),
-                                          QStringLiteral("pRatio"), QStringLiteral("pDb")},
-                              QStringList{QStringLiteral("v1"), QStringLiteral("v2"),
-                                          QStringLiteral("vRatio"), QStringLiteral("vDb")}}) {
+    for (const QStringList &names : {words("p1 p2 pRatio pDb"), words("v1 v2 vRatio vDb")}) {
         show(names.first().startsWith(QLatin1Char('v')) ? 1 : 0);
         edit(names.first() + QLatin1String("LineEdit"))->setFocus();
         for (int i = 1; i < names.size(); ++i) {

@@ -4,6 +4,7 @@
 #include "calculatorpage.h"
 #include "dbmcalculatorwidget.h"
 #include "expectedmessages.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 
@@ -87,46 +88,17 @@ void DbmCalculatorWidgetTest::offersUnitsAndModes()
 
 void DbmCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("typed");
-
-    for (int digit = 0; digit <= 9; ++digit) {
-        const QString text = QString::number(digit);
-        QTest::addRow("the digit %d", digit) << text << text;
-    }
-    QTest::newRow("the decimal point") << "point"
-                                       << ".";
-    QTest::newRow("plus") << "plus"
-                          << "+";
-    QTest::newRow("minus") << "minus"
-                           << "-";
-    QTest::newRow("the sign") << "plusMinus"
-                              << "-";
-    QTest::newRow("the level unit") << "dBm"
-                                    << "dBm";
-    QTest::newRow("the ratio unit") << "dB"
-                                    << "dB";
-    QTest::newRow("the small power unit") << "mW"
-                                          << "mW";
-    QTest::newRow("the power unit") << "W"
-                                    << "W";
+    addPlainKeys();
+    row("the level unit", "dBm", "dBm");
+    row("the ratio unit", "dB", "dB");
+    row("the small power unit", "mW", "mW");
+    row("the power unit", "W", "W");
 }
 
 void DbmCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor()
 {
-    QFETCH(QString, key);
-    QFETCH(QString, typed);
     CalculatorPage page = shownPage();
-    page.type("()");
-    page.input().setCursorPosition(1);
-
-    page.press(key);
-
-    const QString expected = QStringLiteral("(") + typed + QStringLiteral(")");
-    QCOMPARE(page.input().text(), expected);
-    QCOMPARE(m_profile.input(), expected);
-    QCOMPARE(page.input().cursorPosition(), 1 + typed.size());
-    QVERIFY(page.input().hasFocus());
+    checkTypedKey(page, m_profile);
 }
 
 void DbmCalculatorWidgetTest::aKeyReplacesTheSelection()
@@ -142,27 +114,16 @@ void DbmCalculatorWidgetTest::aKeyReplacesTheSelection()
 
 void DbmCalculatorWidgetTest::keysAreNamed_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("a digit by its text") << "4"
-                                         << "4";
-    QTest::newRow("a unit by its text") << "dBm"
-                                        << "dBm";
-    QTest::newRow("the decimal point") << "point"
-                                       << "Decimal point";
-    QTest::newRow("plus") << "plus"
-                          << "Plus";
-    QTest::newRow("minus") << "minus"
-                           << "Minus";
-    QTest::newRow("the sign") << "plusMinus"
-                              << "Change sign";
-    QTest::newRow("backspace") << "back"
-                               << "Backspace";
-    QTest::newRow("clear") << "C"
-                           << "Clear";
-    QTest::newRow("calculate") << "calc"
-                               << "Calculate";
+    columns<QString, QString>({"key", "name"});
+    row("a digit by its text", "4", "4");
+    row("a unit by its text", "dBm", "dBm");
+    row("the decimal point", "point", "Decimal point");
+    row("plus", "plus", "Plus");
+    row("minus", "minus", "Minus");
+    row("the sign", "plusMinus", "Change sign");
+    row("backspace", "back", "Backspace");
+    row("clear", "C", "Clear");
+    row("calculate", "calc", "Calculate");
 }
 
 void DbmCalculatorWidgetTest::keysAreNamed()
@@ -304,51 +265,43 @@ void DbmCalculatorWidgetTest::choosesTheMode()
 
 void DbmCalculatorWidgetTest::selectorIsShownWithAUnit_data()
 {
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<QString>("result");
-
-    QTest::newRow("a level") << QByteArray("10dBm-3dB") << "7.00 dBm";
-    QTest::newRow("a ratio") << QByteArray("3dB+3dB") << "6.00 dB";
-    QTest::newRow("no level below zero") << QByteArray("1mW-2mW") << "-1 mW";
-    QTest::newRow("a plain number") << QByteArray("1+2") << "3";
-    QTest::newRow("a lone value") << QByteArray("1mW") << "invalid input";
-    QTest::newRow("one unit only") << QByteArray("1mW+1") << "unit missing";
-    QTest::newRow("an open bracket keeps the unit")
-        << QByteArray("(1mW+1mW") << "bracket missing dBm";
+    columns<QString, QString>({"input", "result"});
+    row("a level", "10dBm-3dB", "7.00 dBm");
+    row("a ratio", "3dB+3dB", "6.00 dB");
+    row("no level below zero", "1mW-2mW", "-1 mW");
+    row("a plain number", "1+2", "3");
+    row("a lone value", "1mW", "invalid input");
+    row("one unit only", "1mW+1", "unit missing");
+    row("an open bracket keeps the unit", "(1mW+1mW", "bracket missing dBm");
 }
 
 void DbmCalculatorWidgetTest::selectorIsShownWithAUnit()
 {
-    QFETCH(QByteArray, input);
+    QFETCH(QString, input);
     QFETCH(QString, result);
     CalculatorPage page = shownPage();
 
-    page.type(input.constData());
+    page.type(input);
 
     QCOMPARE(page.result(), result);
 }
 
 void DbmCalculatorWidgetTest::offersWhatMakesSense_data()
 {
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<QStringList>("units");
-
-    QTest::newRow("a power in all but the ratio")
-        << QByteArray("1mW+1mW") << QStringList(allUnits().mid(0, 5));
-    QTest::newRow("a ratio as nothing else")
-        << QByteArray("3dB+3dB") << QStringList(allUnits().mid(5));
-    QTest::newRow("a negative power has no level")
-        << QByteArray("1mW-2mW") << QStringList(allUnits().mid(1, 3));
-    QTest::newRow("a plain number in no unit") << QByteArray("1+2") << QStringList();
+    columns<QString, QStringList>({"input", "units"});
+    row("a power in all but the ratio", "1mW+1mW", QStringList(allUnits().mid(0, 5)));
+    row("a ratio as nothing else", "3dB+3dB", QStringList(allUnits().mid(5)));
+    row("a negative power has no level", "1mW-2mW", QStringList(allUnits().mid(1, 3)));
+    row("a plain number in no unit", "1+2", QStringList());
 }
 
 void DbmCalculatorWidgetTest::offersWhatMakesSense()
 {
-    QFETCH(QByteArray, input);
+    QFETCH(QString, input);
     QFETCH(QStringList, units);
     CalculatorPage page = shownPage();
 
-    page.type(input.constData());
+    page.type(input);
 
     QCOMPARE(page.offeredUnits(), units);
     QCOMPARE(page.texts(page.unit()), allUnits());

@@ -3,6 +3,7 @@
 
 #include "calculatorpage.h"
 #include "dbmcalculatorwidget.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -37,7 +38,7 @@ private:
 namespace {
 
 /// Stands for the calculate key among keys of the keyboard.
-constexpr int kKeypad = 0;
+constexpr Qt::Key kKeypad = Qt::Key_unknown;
 
 CalculatorPage shownPage()
 {
@@ -58,31 +59,23 @@ void TakeOverTest::init()
 
 void TakeOverTest::takesOverTheResult_data()
 {
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<int>("by");
-    QTest::addColumn<QString>("result");
-
-    QTest::newRow("a level, by Return")
-        << QByteArray("10dBm+10dBm") << int(Qt::Key_Return) << "10.00 dBm";
-    QTest::newRow("a level, by Enter")
-        << QByteArray("10dBm+10dBm") << int(Qt::Key_Enter) << "10.00 dBm";
-    QTest::newRow("a level, by the key of the keypad")
-        << QByteArray("10dBm+10dBm") << kKeypad << "10.00 dBm";
-    QTest::newRow("a negative ratio") << QByteArray("3dB-10dB") << kKeypad << "-7.00 dB";
-    QTest::newRow("a plain number has no unit") << QByteArray("1+2") << int(Qt::Key_Return) << "3";
-    QTest::newRow("an open bracket is meant to be taken")
-        << QByteArray("(1mW") << int(Qt::Key_Return) << "bracket missing dBm";
-    QTest::newRow("the dashes of the first start are meant to be taken")
-        << QByteArray("") << int(Qt::Key_Return) << "--- dBm";
+    columns<QString, Qt::Key, QString>({"input", "by", "result"});
+    row("a level, by Return", "10dBm+10dBm", Qt::Key_Return, "10.00 dBm");
+    row("a level, by Enter", "10dBm+10dBm", Qt::Key_Enter, "10.00 dBm");
+    row("a level, by the key of the keypad", "10dBm+10dBm", kKeypad, "10.00 dBm");
+    row("a negative ratio", "3dB-10dB", kKeypad, "-7.00 dB");
+    row("a plain number has no unit", "1+2", Qt::Key_Return, "3");
+    row("an open bracket is meant to be taken", "(1mW", Qt::Key_Return, "bracket missing dBm");
+    row("the dashes of the first start are meant to be taken", "", Qt::Key_Return, "--- dBm");
 }
 
 void TakeOverTest::takesOverTheResult()
 {
-    QFETCH(QByteArray, input);
-    QFETCH(int, by);
+    QFETCH(QString, input);
+    QFETCH(Qt::Key, by);
     QFETCH(QString, result);
     CalculatorPage page = shownPage();
-    page.type(input.constData());
+    page.type(input);
     QCoreApplication::processEvents();
     const std::vector<QPoint> places = page.places();
     const int rowTop = page.outputRow().y();
@@ -90,7 +83,7 @@ void TakeOverTest::takesOverTheResult()
     const MoveLog rowMoves(page.outputRow());
     const MoveLog inputMoves(page.input());
 
-    by == kKeypad ? page.press(QStringLiteral("calc")) : page.type(Qt::Key(by));
+    by == kKeypad ? page.press(QStringLiteral("calc")) : page.type(by);
     QCOMPARE(page.input().text(), result);
     QCOMPARE(m_profile.input(), result);
     QCOMPARE(page.result(), result);
@@ -106,20 +99,18 @@ void TakeOverTest::takesOverTheResult()
 
 void TakeOverTest::refusesToTakeOver_data()
 {
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<QString>("output");
-
-    QTest::newRow("an invalid input") << QByteArray("1mW+") << "invalid input";
-    QTest::newRow("a missing unit") << QByteArray("1mW+1") << "unit missing";
-    QTest::newRow("no result") << QByteArray("") << "";
+    columns<QString, QString>({"input", "output"});
+    row("an invalid input", "1mW+", "invalid input");
+    row("a missing unit", "1mW+1", "unit missing");
+    row("no result", "", "");
 }
 
 void TakeOverTest::refusesToTakeOver()
 {
-    QFETCH(QByteArray, input);
+    QFETCH(QString, input);
     QFETCH(QString, output);
     CalculatorPage page = shownPage();
-    page.type(input.constData());
+    page.type(input);
     m_profile.setOutput(output);
     const MoveLog rowMoves(page.outputRow());
     const MoveLog inputMoves(page.input());
@@ -127,7 +118,7 @@ void TakeOverTest::refusesToTakeOver()
     page.type(Qt::Key_Return);
     page.press(QStringLiteral("calc"));
 
-    QCOMPARE(page.input().text(), QString::fromUtf8(input));
+    QCOMPARE(page.input().text(), input);
     QCOMPARE(page.result(), output);
     QVERIFY(rowMoves.places().empty());
     QVERIFY(inputMoves.places().empty());

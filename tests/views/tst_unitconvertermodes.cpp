@@ -6,6 +6,7 @@
 #include "keltogglebutton.h"
 #include "mainprofile.h"
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 #include "unitconverterwidget.h"
 
@@ -84,32 +85,22 @@ QPushButton &UnitConverterModesTest::mode(const QString &text) const
 
 void UnitConverterModesTest::aChosenModeCalculatesFromTheLinearPower_data()
 {
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<PropertyValues>("results");
-
+    columns<int, QString>({"steps", "results"});
     // 1 mW at 50 ohm: 223.607 mV RMS. Times 2.82842714: 632.456 mV, -3.98 dBV.
-    QTest::newRow("peak to peak") << 1
-                                  << PropertyValues{{"voltageMode", 1},
-                                                    {"logPower", "0.00"},
-                                                    {"linVoltage", "632"},
-                                                    {"logVoltage", "-3.98"}};
+    row("peak to peak", 1, "voltageMode=1, logPower=0.00, linVoltage=632, logVoltage=-3.98");
     // 632.456 mV / pi = 201.317 mV
-    QTest::newRow("average") << 2
-                             << PropertyValues{{"voltageMode", 2},
-                                               {"logPower", "0.00"},
-                                               {"linVoltage", "201"},
-                                               {"logVoltage", "-13.92"}};
+    row("average", 2, "voltageMode=2, logPower=0.00, linVoltage=201, logVoltage=-13.92");
 }
 
 void UnitConverterModesTest::aChosenModeCalculatesFromTheLinearPower()
 {
     QFETCH(int, steps);
-    QFETCH(PropertyValues, results);
+    QFETCH(QString, results);
 
     const ConverterPage page = open();
     mode(QStringLiteral("Vrms")).setFocus(Qt::TabFocusReason);
     setProperties(m_model, unrelatedValues());
-    const QStringList expected = lines(results);
+    const QStringList expected = lines(values(results));
     for (int i = 0; i < steps; ++i)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QCOMPARE(lines(), expected);

@@ -6,6 +6,7 @@
 #include "keltogglebutton.h"
 #include "mainprofile.h"
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 #include "unitconverterwidget.h"
 
@@ -114,25 +115,23 @@ void UnitConverterWidgetTest::showsWhatTheModelHeldBefore()
 
 void UnitConverterWidgetTest::typingOnlyStores_data()
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QByteArray>("property");
-
-    QTest::newRow("the power level") << "dbmLineEdit" << QByteArray("logPower");
-    QTest::newRow("the power") << "wattLineEdit" << QByteArray("linPower");
-    QTest::newRow("the voltage") << "voltLineEdit" << QByteArray("linVoltage");
-    QTest::newRow("the voltage level") << "dbvLineEdit" << QByteArray("logVoltage");
-    QTest::newRow("the impedance") << "impedanceLineEdit" << QByteArray("impedance");
+    columns<QString, QString>({"field", "property"});
+    row("the power level", "dbmLineEdit", "logPower");
+    row("the power", "wattLineEdit", "linPower");
+    row("the voltage", "voltLineEdit", "linVoltage");
+    row("the voltage level", "dbvLineEdit", "logVoltage");
+    row("the impedance", "impedanceLineEdit", "impedance");
 }
 
 void UnitConverterWidgetTest::typingOnlyStores()
 {
     QFETCH(QString, field);
-    QFETCH(QByteArray, property);
+    QFETCH(QString, property);
 
     const ConverterPage page = open();
     page.focus(field);
     setProperties(m_model, unrelatedValues());
-    const QStringList expected = lines({{property, "75x"}});
+    const QStringList expected = lines({{property.toLatin1(), "75x"}});
     page.type(field, QStringLiteral("75x"));
     QCOMPARE(lines(), expected);
 }
@@ -148,44 +147,27 @@ void UnitConverterWidgetTest::typingKeepsTheCursor()
 
 void UnitConverterWidgetTest::finishingCalculates_data()
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<PropertyValues>("results");
-
+    columns<QString, QString, QString>({"field", "typed", "results"});
     // 10^1.3 = 19.9526 mW, sqrt(0.0199526 * 50) = 0.998815 V
-    QTest::newRow("the power level")
-        << "dbmLineEdit"
-        << "13"
-        << PropertyValues{{"linPower", "20"}, {"linVoltage", "999"}, {"logVoltage", "-0.01"}};
+    row("the power level", "dbmLineEdit", "13", "linPower=20, linVoltage=999, logVoltage=-0.01");
     // sqrt(0.001 * 50) = 0.223607 V
-    QTest::newRow("the power") << "wattLineEdit"
-                               << "1"
-                               << PropertyValues{{"logPower", "0.00"},
-                                                 {"linVoltage", "224"},
-                                                 {"logVoltage", "-13.01"}};
+    row("the power", "wattLineEdit", "1", "logPower=0.00, linVoltage=224, logVoltage=-13.01");
     // 1 / 50 = 0.02 W
-    QTest::newRow("the voltage") << "voltLineEdit"
-                                 << "1k"
-                                 << PropertyValues{{"logPower", "13.01"},
-                                                   {"linPower", "20"},
-                                                   {"logVoltage", "0.00"}};
-    QTest::newRow("the voltage level")
-        << "dbvLineEdit"
-        << "0"
-        << PropertyValues{{"logPower", "13.01"}, {"linPower", "20"}, {"linVoltage", "1E+03"}};
+    row("the voltage", "voltLineEdit", "1k", "logPower=13.01, linPower=20, logVoltage=0.00");
+    row("the voltage level", "dbvLineEdit", "0", "logPower=13.01, linPower=20, linVoltage=1E+03");
 }
 
 void UnitConverterWidgetTest::finishingCalculates()
 {
     QFETCH(QString, field);
     QFETCH(QString, typed);
-    QFETCH(PropertyValues, results);
+    QFETCH(QString, results);
 
     const ConverterPage page = open();
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}) {
         loadDefaults();
         page.type(field, typed);
-        const QStringList expected = lines(results);
+        const QStringList expected = lines(values(results));
         QTest::keyClick(&page.field(field), key);
         QCOMPARE(lines(), expected);
         QCOMPARE(page.fieldTexts(),
@@ -212,10 +194,9 @@ void UnitConverterWidgetTest::aWrongNumberLooksLikeAnError()
 
 void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues_data()
 {
-    QTest::addColumn<int>("key");
-
-    QTest::newRow("by Return") << int(Qt::Key_Return);
-    QTest::newRow("by leaving it") << int(Qt::Key_Tab);
+    columns<int>({"key"});
+    row("by Return", int(Qt::Key_Return));
+    row("by leaving it", int(Qt::Key_Tab));
 }
 
 void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues()
@@ -234,33 +215,25 @@ void UnitConverterWidgetTest::finishingTheImpedanceEmptiesTheValues()
 
 void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly_data()
 {
-    QTest::addColumn<QString>("combo");
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<PropertyValues>("changes");
-
-    QTest::newRow("dBm to dBW") << "dbmUnitComboBox" << 1
-                                << PropertyValues{{"logPowerUnit", 1}, {"logPower", "-20.00"}};
-    QTest::newRow("mW to W") << "wattUnitComboBox" << 1
-                             << PropertyValues{{"linPowerUnit", 1}, {"linPower", "0.001"}};
-    QTest::newRow("mV to V") << "voltUnitComboBox" << 1
-                             << PropertyValues{{"linVoltageUnit", 1}, {"linVoltage", "0.5"}};
-    QTest::newRow("dBV to dBµV") << "dbvUnitComboBox" << 1
-                                 << PropertyValues{{"logVoltageUnit", 1}, {"logVoltage", "120.00"}};
+    columns<QString, int, QString>({"combo", "steps", "changes"});
+    row("dBm to dBW", "dbmUnitComboBox", 1, "logPowerUnit=1, logPower=-20.00");
+    row("mW to W", "wattUnitComboBox", 1, "linPowerUnit=1, linPower=0.001");
+    row("mV to V", "voltUnitComboBox", 1, "linVoltageUnit=1, linVoltage=0.5");
+    row("dBV to dBµV", "dbvUnitComboBox", 1, "logVoltageUnit=1, logVoltage=120.00");
     // 20 log10(1000 / 775) = 2.21
-    QTest::newRow("dBV over dBµV to dBu")
-        << "dbvUnitComboBox" << 2 << PropertyValues{{"logVoltageUnit", 2}, {"logVoltage", "2.21"}};
+    row("dBV over dBµV to dBu", "dbvUnitComboBox", 2, "logVoltageUnit=2, logVoltage=2.21");
 }
 
 void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly()
 {
     QFETCH(QString, combo);
     QFETCH(int, steps);
-    QFETCH(PropertyValues, changes);
+    QFETCH(QString, changes);
 
     const ConverterPage page = open();
     page.focus(combo);
     setProperties(m_model, unrelatedValues());
-    const QStringList expected = lines(changes);
+    const QStringList expected = lines(values(changes));
     page.press(combo, Qt::Key_Down, steps);
     QCOMPARE(lines(), expected);
 
@@ -271,24 +244,23 @@ void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly()
 
 void UnitConverterWidgetTest::aMirroredUnitRewritesNothing_data()
 {
-    QTest::addColumn<QString>("combo");
-    QTest::addColumn<QByteArray>("property");
-
-    QTest::newRow("of the power level") << "dbmUnitComboBox" << QByteArray("logPowerUnit");
-    QTest::newRow("of the power") << "wattUnitComboBox" << QByteArray("linPowerUnit");
-    QTest::newRow("of the voltage") << "voltUnitComboBox" << QByteArray("linVoltageUnit");
-    QTest::newRow("of the voltage level") << "dbvUnitComboBox" << QByteArray("logVoltageUnit");
+    columns<QString, QString>({"combo", "property"});
+    row("of the power level", "dbmUnitComboBox", "logPowerUnit");
+    row("of the power", "wattUnitComboBox", "linPowerUnit");
+    row("of the voltage", "voltUnitComboBox", "linVoltageUnit");
+    row("of the voltage level", "dbvUnitComboBox", "logVoltageUnit");
 }
 
 void UnitConverterWidgetTest::aMirroredUnitRewritesNothing()
 {
     QFETCH(QString, combo);
-    QFETCH(QByteArray, property);
+    QFETCH(QString, property);
 
     const ConverterPage page = open();
     setProperties(m_model, unrelatedValues());
-    const QStringList expected = lines({{property, 1}});
-    setProperties(m_model, {{property, 1}});
+    const PropertyValues change{{property.toLatin1(), 1}};
+    const QStringList expected = lines(change);
+    setProperties(m_model, change);
     QCOMPARE(page.combo(combo).currentIndex(), 1);
     QCOMPARE(lines(), expected);
 }

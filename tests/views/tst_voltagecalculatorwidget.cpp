@@ -3,6 +3,7 @@
 
 #include "calculatorpage.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "voltagecalculatorwidget.h"
 
@@ -87,41 +88,15 @@ void VoltageCalculatorWidgetTest::offersUnitsAndModes()
 
 void VoltageCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("typed");
-
-    for (int digit = 0; digit <= 9; ++digit) {
-        const QString text = QString::number(digit);
-        QTest::addRow("the digit %d", digit) << text << text;
-    }
-    QTest::newRow("the decimal point") << "point"
-                                       << ".";
-    QTest::newRow("plus") << "plus"
-                          << "+";
-    QTest::newRow("minus") << "minus"
-                           << "-";
-    QTest::newRow("the sign") << "plusMinus"
-                              << "-";
-    QTest::newRow("the voltage unit") << "V"
-                                      << "V";
-    QTest::newRow("the small voltage unit") << "mV"
-                                            << "mV";
+    addPlainKeys();
+    row("the voltage unit", "V", "V");
+    row("the small voltage unit", "mV", "mV");
 }
 
 void VoltageCalculatorWidgetTest::aKeyTypesItsTextAtTheCursor()
 {
-    QFETCH(QString, key);
-    QFETCH(QString, typed);
     CalculatorPage page = shownPage();
-    page.type("()");
-    page.input().setCursorPosition(1);
-
-    page.press(key);
-
-    const QString expected = QStringLiteral("(") + typed + QStringLiteral(")");
-    QCOMPARE(page.input().text(), expected);
-    QCOMPARE(m_profile.input(), expected);
-    QVERIFY(page.input().hasFocus());
+    checkTypedKey(page, m_profile);
 }
 
 void VoltageCalculatorWidgetTest::everyKeyIsNamedAndTakesNoFocus()
@@ -233,11 +208,10 @@ void VoltageCalculatorWidgetTest::takesOverTheResult()
 
 void VoltageCalculatorWidgetTest::showsALoadedStateAsItWasStored_data()
 {
-    QTest::addColumn<QString>("output");
-
-    QTest::newRow("no result yet") << "---";
-    QTest::newRow("another result than the input has") << "8.88";
-    QTest::newRow("an empty result") << "";
+    columns<QString>({"output"});
+    row("no result yet", "---");
+    row("another result than the input has", "8.88");
+    row("an empty result", "");
 }
 
 /// Neither the text, nor the phase that the box shows without its decimals, calculates.
@@ -309,12 +283,10 @@ void VoltageCalculatorWidgetTest::aPhaseWithoutAResultCalculatesNothing()
 
 void VoltageCalculatorWidgetTest::aMirroredPhaseCalculatesNothing_data()
 {
-    QTest::addColumn<double>("phase");
-    QTest::addColumn<int>("shown");
-
-    QTest::newRow("whole degrees") << 30.0 << 30;
-    QTest::newRow("decimals stay in the model") << 30.5 << 31;
-    QTest::newRow("beyond the range of the box") << 1000.0 << 360;
+    columns<double, int>({"phase", "shown"});
+    row("whole degrees", 30.0, 30);
+    row("decimals stay in the model", 30.5, 31);
+    row("beyond the range of the box", 1000.0, 360);
 }
 
 void VoltageCalculatorWidgetTest::aMirroredPhaseCalculatesNothing()
@@ -334,11 +306,10 @@ void VoltageCalculatorWidgetTest::aMirroredPhaseCalculatesNothing()
 
 void VoltageCalculatorWidgetTest::canBeDestroyedWithTheFocusInAField_data()
 {
-    QTest::addColumn<QByteArray>("field");
-
+    columns<QByteArray>({"field"});
     for (const char *field : {"inputLineEdit", "outputLineEdit", "outputUnitComboBox",
                               "calcModeComboBox", "phaseSpinBox"})
-        QTest::newRow(field) << QByteArray(field);
+        row(field, QByteArray(field));
 }
 
 void VoltageCalculatorWidgetTest::canBeDestroyedWithTheFocusInAField()

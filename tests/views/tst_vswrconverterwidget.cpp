@@ -5,8 +5,10 @@
 #include "kellineedit.h"
 #include "mainprofile.h"
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 #include "vswrconverterwidget.h"
+#include "words.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -27,19 +29,19 @@ private Q_SLOTS:
     void cleanup();
 
     void showsWhatTheModelHeldBefore();
-    void typingOnlyStores_data();
+    void typingOnlyStores_data() { addRows(); }
     void typingOnlyStores();
     void typingKeepsTheCursor();
-    void finishingChecksItsOwnRow_data();
+    void finishingChecksItsOwnRow_data() { addRows(); }
     void finishingChecksItsOwnRow();
     void leavingTheVswrFillsTheReflectionGroup_data();
     void leavingTheVswrFillsTheReflectionGroup();
     void aForwardPowerFillsTheOtherPowers();
     void aForwardVoltageFillsTheOtherVoltages();
 
-    void aChosenUnitRewritesItsRowOnly_data();
+    void aChosenUnitRewritesItsRowOnly_data() { addUnits(); }
     void aChosenUnitRewritesItsRowOnly();
-    void aMirroredUnitIsShown_data();
+    void aMirroredUnitIsShown_data() { addUnits(); }
     void aMirroredUnitIsShown();
     void aChosenTabIsStored();
     void aMirroredTabIsShown();
@@ -49,8 +51,8 @@ private Q_SLOTS:
 
 private:
     ConverterPage open();
-    void addRows() const;
-    void addUnits() const;
+    static void addRows();
+    static void addUnits();
     QStringList lines(const PropertyValues &changes = {}) const
     {
         return propertyLines(m_model, changes);
@@ -104,45 +106,31 @@ ConverterPage VswrConverterWidgetTest::open()
     return ConverterPage(*m_page);
 }
 
-void VswrConverterWidgetTest::addRows() const
+void VswrConverterWidgetTest::addRows()
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<int>("tab");
-
-    QTest::newRow("VSWR") << "vswrLineEdit" << QByteArray("vswr") << 0;
-    QTest::newRow("reflection coefficient") << "rLineEdit" << QByteArray("r") << 0;
-    QTest::newRow("its square") << "r2LineEdit" << QByteArray("r2") << 0;
-    QTest::newRow("return loss") << "arLineEdit" << QByteArray("ar") << 0;
-    QTest::newRow("mismatch loss") << "amLineEdit" << QByteArray("am") << 0;
-    QTest::newRow("forward power") << "forwardPowerLineEdit" << QByteArray("pForward") << 0;
-    QTest::newRow("reflected power") << "reflectedPowerLineEdit" << QByteArray("pReflected") << 0;
-    QTest::newRow("absorbed power") << "absorbedPowerLineEdit" << QByteArray("pAbsorbed") << 0;
-    QTest::newRow("forward voltage") << "forwardVoltageLineEdit" << QByteArray("vForward") << 1;
-    QTest::newRow("reflected voltage")
-        << "reflectedVoltageLineEdit" << QByteArray("vReflected") << 1;
-    QTest::newRow("absorbed voltage") << "absorbedVoltageLineEdit" << QByteArray("vAbsorbed") << 1;
+    columns<QString, QString, int>({"field", "property", "tab"});
+    row("VSWR", "vswrLineEdit", "vswr", 0);
+    row("reflection coefficient", "rLineEdit", "r", 0);
+    row("its square", "r2LineEdit", "r2", 0);
+    row("return loss", "arLineEdit", "ar", 0);
+    row("mismatch loss", "amLineEdit", "am", 0);
+    row("forward power", "forwardPowerLineEdit", "pForward", 0);
+    row("reflected power", "reflectedPowerLineEdit", "pReflected", 0);
+    row("absorbed power", "absorbedPowerLineEdit", "pAbsorbed", 0);
+    row("forward voltage", "forwardVoltageLineEdit", "vForward", 1);
+    row("reflected voltage", "reflectedVoltageLineEdit", "vReflected", 1);
+    row("absorbed voltage", "absorbedVoltageLineEdit", "vAbsorbed", 1);
 }
 
-void VswrConverterWidgetTest::addUnits() const
+void VswrConverterWidgetTest::addUnits()
 {
-    QTest::addColumn<QString>("combo");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("unit");
-    QTest::addColumn<int>("tab");
-
-    QTest::newRow("forward power")
-        << "forwardPowerUnitComboBox" << QByteArray("pForward") << QByteArray("pForwardUnit") << 0;
-    QTest::newRow("reflected power") << "reflectedPowerUnitComboBox" << QByteArray("pReflected")
-                                     << QByteArray("pReflectedUnit") << 0;
-    QTest::newRow("absorbed power") << "absorbedPowerUnitComboBox" << QByteArray("pAbsorbed")
-                                    << QByteArray("pAbsorbedUnit") << 0;
-    QTest::newRow("forward voltage") << "forwardVoltageUnitComboBox" << QByteArray("vForward")
-                                     << QByteArray("vForwardUnit") << 1;
-    QTest::newRow("reflected voltage") << "reflectedVoltageUnitComboBox" << QByteArray("vReflected")
-                                       << QByteArray("vReflectedUnit") << 1;
-    QTest::newRow("absorbed voltage") << "absorbedVoltageUnitComboBox" << QByteArray("vAbsorbed")
-                                      << QByteArray("vAbsorbedUnit") << 1;
+    columns<QString, QString, int>({"row", "text", "tab"});
+    row("forward power", "forwardPower", "pForward", 0);
+    row("reflected power", "reflectedPower", "pReflected", 0);
+    row("absorbed power", "absorbedPower", "pAbsorbed", 0);
+    row("forward voltage", "forwardVoltage", "vForward", 1);
+    row("reflected voltage", "reflectedVoltage", "vReflected", 1);
+    row("absorbed voltage", "absorbedVoltage", "vAbsorbed", 1);
 }
 
 void VswrConverterWidgetTest::showsWhatTheModelHeldBefore()
@@ -158,22 +146,17 @@ void VswrConverterWidgetTest::showsWhatTheModelHeldBefore()
     QCOMPARE(lines(), before);
 }
 
-void VswrConverterWidgetTest::typingOnlyStores_data()
-{
-    addRows();
-}
-
 void VswrConverterWidgetTest::typingOnlyStores()
 {
     QFETCH(QString, field);
-    QFETCH(QByteArray, property);
+    QFETCH(QString, property);
     QFETCH(int, tab);
 
     const ConverterPage page = open();
     m_model.setCurrentMode(tab);
     page.focus(field);
     setProperties(m_model, unrelatedTexts());
-    const QStringList expected = lines({{property, "0.5x"}});
+    const QStringList expected = lines({{property.toLatin1(), "0.5x"}});
     page.type(field, QStringLiteral("0.5x"));
     QCOMPARE(lines(), expected);
 }
@@ -188,15 +171,10 @@ void VswrConverterWidgetTest::typingKeepsTheCursor()
     QCOMPARE(m_model.vswr(), QStringLiteral("1239"));
 }
 
-void VswrConverterWidgetTest::finishingChecksItsOwnRow_data()
-{
-    addRows();
-}
-
 void VswrConverterWidgetTest::finishingChecksItsOwnRow()
 {
     QFETCH(QString, field);
-    QFETCH(QByteArray, property);
+    QFETCH(QString, property);
     QFETCH(int, tab);
 
     const ConverterPage page = open();
@@ -208,16 +186,15 @@ void VswrConverterWidgetTest::finishingChecksItsOwnRow()
         QCOMPARE(page.field(field).text(), QStringLiteral("invalid input"));
         QVERIFY(page.field(field).hasError());
         QCOMPARE(lines().filter(QStringLiteral("invalid input")),
-                 QStringList{QString::fromLatin1(property) + QStringLiteral(" = invalid input")});
+                 QStringList{property + QStringLiteral(" = invalid input")});
     }
 }
 
 void VswrConverterWidgetTest::leavingTheVswrFillsTheReflectionGroup_data()
 {
-    QTest::addColumn<int>("key");
-
-    QTest::newRow("with Tab") << int(Qt::Key_Tab);
-    QTest::newRow("with Return, without leaving it") << int(Qt::Key_Return);
+    columns<int>({"key"});
+    row("with Tab", int(Qt::Key_Tab));
+    row("with Return, without leaving it", int(Qt::Key_Return));
 }
 
 void VswrConverterWidgetTest::leavingTheVswrFillsTheReflectionGroup()
@@ -260,51 +237,43 @@ void VswrConverterWidgetTest::aForwardVoltageFillsTheOtherVoltages()
              QStringLiteral("3 | 0.5 | 25 | 6.02 | 1.25 |  |  |  | 100 | 25 | 75"));
 }
 
-void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly_data()
-{
-    addUnits();
-}
-
 void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly()
 {
-    QFETCH(QString, combo);
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArray, unit);
+    QFETCH(QString, row);
+    QFETCH(QString, text);
     QFETCH(int, tab);
 
+    const QString combo = row + QStringLiteral("UnitComboBox");
     const ConverterPage page = open();
     m_model.setCurrentMode(tab);
     page.focus(combo);
     setProperties(m_model, unrelatedTexts());
-    setProperties(m_model, {{text, "10"}});
+    setProperties(m_model, {{text.toLatin1(), "10"}});
     // 10 dBm = 0.01 W; 10 dBV = 10^0.5 V = 3.16 V
-    const QStringList expected = lines({{unit, 2}, {text, tab == 0 ? "0.01" : "3.16"}});
+    const QStringList expected =
+        lines({{text.toLatin1() + "Unit", 2}, {text.toLatin1(), tab == 0 ? "0.01" : "3.16"}});
     page.press(combo, Qt::Key_Down, 2);
     QCOMPARE(page.combo(combo).currentIndex(), 2);
     QCOMPARE(lines(), expected);
 }
 
-void VswrConverterWidgetTest::aMirroredUnitIsShown_data()
-{
-    addUnits();
-}
-
 /// The model re-expresses the text by itself, once, as for a chosen unit.
 void VswrConverterWidgetTest::aMirroredUnitIsShown()
 {
-    QFETCH(QString, combo);
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArray, unit);
+    QFETCH(QString, row);
+    QFETCH(QString, text);
 
     const ConverterPage page = open();
     setProperties(m_model, unrelatedTexts());
-    setProperties(m_model, {{text, "x"}});
-    const QStringList others = lines({{unit, 3}, {text, ""}});
+    const QByteArray name = text.toLatin1();
+    setProperties(m_model, {{name, "x"}});
+    const QStringList others = lines({{name + "Unit", 3}, {name, ""}});
     ChangeLog changes(m_model);
-    setProperties(m_model, {{unit, 3}});
-    QCOMPARE(page.combo(combo).currentIndex(), 3);
-    QCOMPARE(changes.take().filter(QStringLiteral("Unit")), QStringList{QString::fromLatin1(unit)});
-    QCOMPARE(lines({{text, ""}}), others);
+    setProperties(m_model, {{name + "Unit", 3}});
+    QCOMPARE(page.combo(row + QStringLiteral("UnitComboBox")).currentIndex(), 3);
+    QCOMPARE(changes.take().filter(QStringLiteral("Unit")),
+             QStringList{text + QStringLiteral("Unit")});
+    QCOMPARE(lines({{name, ""}}), others);
 }
 
 void VswrConverterWidgetTest::aChosenTabIsStored()
@@ -348,18 +317,12 @@ void VswrConverterWidgetTest::aLoadedFileIsShownAsItIs()
     loadFile(file);
     QCOMPARE(page.fieldTexts(), kUnrelatedFields);
     QCOMPARE(page.child<QTabWidget>(kTabs).currentIndex(), 1);
-    QCOMPARE(page.combo(QStringLiteral("forwardPowerUnitComboBox")).currentText(),
-             QStringLiteral("dBW"));
-    QCOMPARE(page.combo(QStringLiteral("reflectedPowerUnitComboBox")).currentText(),
-             QStringLiteral("W"));
-    QCOMPARE(page.combo(QStringLiteral("absorbedPowerUnitComboBox")).currentText(),
-             QStringLiteral("mW"));
-    QCOMPARE(page.combo(QStringLiteral("forwardVoltageUnitComboBox")).currentText(),
-             QStringLiteral("mV"));
-    QCOMPARE(page.combo(QStringLiteral("reflectedVoltageUnitComboBox")).currentText(),
-             QStringLiteral("V"));
-    QCOMPARE(page.combo(QStringLiteral("absorbedVoltageUnitComboBox")).currentText(),
-             QStringLiteral("dBµV"));
+    QStringList units;
+    const QStringList rows = words("forwardPower reflectedPower absorbedPower"
+                                   " forwardVoltage reflectedVoltage absorbedVoltage");
+    for (const QString &row : rows)
+        units += page.combo(row + QStringLiteral("UnitComboBox")).currentText();
+    QCOMPARE(units, words("dBW W mW mV V dBµV"));
     QCOMPARE(lines(unrelatedTexts()), lines());
     QCOMPARE(lines(otherSelections()), lines());
 }

@@ -5,7 +5,9 @@
 #include "kelapplication.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
+#include "table.h"
 #include "testmain.h"
+#include "words.h"
 
 #include <QDir>
 #include <QFile>
@@ -93,19 +95,15 @@ QString CommandLineTest::p1Text() const
 
 void CommandLineTest::opensOneFile_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("absolute");
-
-    QTest::newRow("an absolute name") << QStringLiteral("a.dezimo") << true;
-    QTest::newRow("a name relative to the current folder") << QStringLiteral("a.dezimo") << false;
-    QTest::newRow("a name in a folder above and below")
-        << QStringLiteral("sub/../a.dezimo") << false;
-    QTest::newRow("a name with spaces") << QStringLiteral("two  antennas .dezimo") << true;
-    QTest::newRow("a name beyond ASCII")
-        << QString::fromUtf8("Dämpfung 10 µW – 测量.dezimo") << true;
-    QTest::newRow("a name with a hyphen in it") << QStringLiteral("a-b.dezimo") << false;
-    QTest::newRow("a name with another extension") << QStringLiteral("a.ini") << false;
-    QTest::newRow("a name with a percent sign") << QStringLiteral("100%20.dezimo") << true;
+    columns<QString, bool>({"name", "absolute"});
+    row("an absolute name", "a.dezimo", true);
+    row("a name relative to the current folder", "a.dezimo", false);
+    row("a name in a folder above and below", "sub/../a.dezimo", false);
+    row("a name with spaces", "two  antennas .dezimo", true);
+    row("a name beyond ASCII", "Dämpfung 10 µW – 测量.dezimo", true);
+    row("a name with a hyphen in it", "a-b.dezimo", false);
+    row("a name with another extension", "a.ini", false);
+    row("a name with a percent sign", "100%20.dezimo", true);
 }
 
 void CommandLineTest::opensOneFile()
@@ -133,15 +131,15 @@ void CommandLineTest::readsTheModulesOnly()
 
 void CommandLineTest::ignoresAllElse_data()
 {
-    QTest::addColumn<QStringList>("arguments");
+    columns<QStringList>({"arguments"});
 
     const QString name = QStringLiteral("a.dezimo");
-    QTest::newRow("no argument") << QStringList();
-    QTest::newRow("an empty argument") << QStringList(QString());
-    QTest::newRow("an option") << QStringList(QStringLiteral("--help"));
-    QTest::newRow("two names") << QStringList({name, name});
-    QTest::newRow("a name after an option") << QStringList({QStringLiteral("--open"), name});
-    QTest::newRow("a name and an empty argument") << QStringList({name, QString()});
+    row("no argument", QStringList());
+    row("an empty argument", QStringList(QString()));
+    row("an option", words("--help"));
+    row("two names", QStringList({name, name}));
+    row("a name after an option", QStringList({QStringLiteral("--open"), name}));
+    row("a name and an empty argument", QStringList({name, QString()}));
 }
 
 void CommandLineTest::ignoresAllElse()
@@ -156,17 +154,14 @@ void CommandLineTest::ignoresAllElse()
 /// What cannot be read for other reasons is in tst_damagedfiles, since only Unix has most of it.
 void CommandLineTest::aFileThatCannotBeReadChangesNothing_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("reason");
-
+    columns<QString, QString>({"name", "reason"});
     // The other reasons come from the system, in its language.
     const QString ofTheSystem;
-    QTest::newRow("a file that does not exist") << QStringLiteral("none.dezimo") << ofTheSystem;
-    QTest::newRow("a file in a folder that does not exist")
-        << QStringLiteral("none/a.dezimo") << ofTheSystem;
-    QTest::newRow("a name too long for a file") << QString(5000, QLatin1Char('x')) << ofTheSystem;
-    QTest::newRow("a name with a percent sign") << QStringLiteral("%2%1.dezimo") << ofTheSystem;
-    QTest::newRow("a folder") << QStringLiteral(".") << QStringLiteral("It is a folder");
+    row("a file that does not exist", "none.dezimo", ofTheSystem);
+    row("a file in a folder that does not exist", "none/a.dezimo", ofTheSystem);
+    row("a name too long for a file", QString(5000, QLatin1Char('x')), ofTheSystem);
+    row("a name with a percent sign", "%2%1.dezimo", ofTheSystem);
+    row("a folder", ".", "It is a folder");
 }
 
 void CommandLineTest::aFileThatCannotBeReadChangesNothing()
@@ -187,20 +182,14 @@ void CommandLineTest::aFileThatCannotBeReadChangesNothing()
 
 void CommandLineTest::theComplaintIsOneLineWhateverTheName_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("shown");
-
-    QTest::newRow("letters beyond ASCII")
-        << QString::fromUtf8("Dämpfung–测量") << QString::fromUtf8("Dämpfung–测量");
-    QTest::newRow("a letter beyond 16 bits") << QString::fromUtf8("a😀") << QString::fromUtf8("a😀");
-    QTest::newRow("line breaks") << QStringLiteral("a\r\nb") << QStringLiteral("a??b");
-    QTest::newRow("a separator of lines") << QString::fromUtf8("a\u2028b") << QStringLiteral("a?b");
-    QTest::newRow("a separator of paragraphs")
-        << QString::fromUtf8("a\u2029b") << QStringLiteral("a?b");
-    QTest::newRow("what a terminal takes for a command")
-        << QStringLiteral("\x1b[2Ja") << QStringLiteral("?[2Ja");
-    QTest::newRow("what turns the direction of a text")
-        << QString::fromUtf8("a\u202eb") << QStringLiteral("a?b");
+    columns<QString, QString>({"name", "shown"});
+    row("letters beyond ASCII", "Dämpfung–测量", "Dämpfung–测量");
+    row("a letter beyond 16 bits", "a😀", "a😀");
+    row("line breaks", "a\r\nb", "a??b");
+    row("a separator of lines", "a\u2028b", "a?b");
+    row("a separator of paragraphs", "a\u2029b", "a?b");
+    row("what a terminal takes for a command", "\x1b[2Ja", "?[2Ja");
+    row("what turns the direction of a text", "a\u202eb", "a?b");
 }
 
 void CommandLineTest::theComplaintIsOneLineWhateverTheName()
@@ -214,12 +203,11 @@ void CommandLineTest::theComplaintIsOneLineWhateverTheName()
 
 void CommandLineTest::aFileThatHoldsNoCalculationGivesTheDefaults_data()
 {
-    QTest::addColumn<QByteArray>("text");
-
-    QTest::newRow("an empty file") << QByteArray();
-    QTest::newRow("prose") << QByteArray("It was a dark and stormy night.\n");
-    QTest::newRow("bytes") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe[[[===", 24);
-    QTest::newRow("another program's groups") << QByteArray("[Other]\np1=5W\n");
+    columns<QByteArray>({"text"});
+    row("an empty file", QByteArray());
+    row("prose", QByteArray("It was a dark and stormy night.\n"));
+    row("bytes", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe[[[===", 24));
+    row("another program's groups", QByteArray("[Other]\np1=5W\n"));
 }
 
 /// It was read, as by Open... in the menu.

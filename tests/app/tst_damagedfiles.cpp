@@ -5,6 +5,7 @@
 #include "damagedstorecase.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -39,23 +40,22 @@ private Q_SLOTS:
 
 void DamagedFilesTest::aBadValueLeavesItsNeighbors_data()
 {
-    QTest::addColumn<QByteArray>("value");
-
-    QTest::newRow("lists within lists, two hundred thousand deep") << deeplyNestedLists();
-    QTest::newRow("a list of a huge count") << hugeCount(QMetaType::QVariantList);
-    QTest::newRow("a list of texts of a huge count") << hugeCount(QMetaType::QStringList);
-    QTest::newRow("a map of a huge count") << hugeCount(QMetaType::QVariantMap);
-    QTest::newRow("bytes of a huge count") << hugeCount(QMetaType::QByteArray);
-    QTest::newRow("a text of a huge count") << hugeCount(QMetaType::QString);
-    QTest::newRow("bits of a huge count") << hugeCount(QMetaType::QBitArray);
-    QTest::newRow("an image") << hugeCount(QMetaType::QImage);
-    QTest::newRow("an unknown type") << hugeCount(0x7fff);
-    QTest::newRow("a time") << QByteArray("@DateTime(\\0\\0\\0\\x10\\xff\\xff\\xff\\xff)");
-    QTest::newRow("bytes") << QByteArray("@ByteArray(5W)");
-    QTest::newRow("a list") << QByteArray("5W, 6W");
-    QTest::newRow("a list of a million commas") << QByteArray(1000000, ',');
-    QTest::newRow("a text of 1 MiB") << QByteArray(kMebibyte, '5');
-    QTest::newRow("a text of 100 MiB") << QByteArray(100 * kMebibyte, '5');
+    columns<QByteArray>({"value"});
+    row("lists within lists, two hundred thousand deep", deeplyNestedLists());
+    row("a list of a huge count", hugeCount(QMetaType::QVariantList));
+    row("a list of texts of a huge count", hugeCount(QMetaType::QStringList));
+    row("a map of a huge count", hugeCount(QMetaType::QVariantMap));
+    row("bytes of a huge count", hugeCount(QMetaType::QByteArray));
+    row("a text of a huge count", hugeCount(QMetaType::QString));
+    row("bits of a huge count", hugeCount(QMetaType::QBitArray));
+    row("an image", hugeCount(QMetaType::QImage));
+    row("an unknown type", hugeCount(0x7fff));
+    row("a time", QByteArray("@DateTime(\\0\\0\\0\\x10\\xff\\xff\\xff\\xff)"));
+    row("bytes", QByteArray("@ByteArray(5W)"));
+    row("a list", QByteArray("5W, 6W"));
+    row("a list of a million commas", QByteArray(1000000, ','));
+    row("a text of 1 MiB", QByteArray(kMebibyte, '5'));
+    row("a text of 100 MiB", QByteArray(100 * kMebibyte, '5'));
 }
 
 void DamagedFilesTest::aBadValueLeavesItsNeighbors()
@@ -73,13 +73,12 @@ void DamagedFilesTest::aBadValueLeavesItsNeighbors()
 
 void DamagedFilesTest::bytesWithoutKeysGiveTheDefaults_data()
 {
-    QTest::addColumn<QByteArray>("text");
-
-    QTest::newRow("100 MiB of zeros") << QByteArray(100 * kMebibyte, '\0');
-    QTest::newRow("quotes that are never closed") << QByteArray("\"") + amongNeighbors("5W");
-    QTest::newRow("brackets that are never closed") << QByteArray(kMebibyte, '[');
-    QTest::newRow("backslashes") << QByteArray(kMebibyte, '\\');
-    QTest::newRow("equals signs") << QByteArray(kMebibyte, '=');
+    columns<QByteArray>({"text"});
+    row("100 MiB of zeros", QByteArray(100 * kMebibyte, '\0'));
+    row("quotes that are never closed", QByteArray("\"") + amongNeighbors("5W"));
+    row("brackets that are never closed", QByteArray(kMebibyte, '['));
+    row("backslashes", QByteArray(kMebibyte, '\\'));
+    row("equals signs", QByteArray(kMebibyte, '='));
 }
 
 void DamagedFilesTest::bytesWithoutKeysGiveTheDefaults()
@@ -95,11 +94,10 @@ void DamagedFilesTest::bytesWithoutKeysGiveTheDefaults()
 
 void DamagedFilesTest::whatIsNoFileIsLeftAlone_data()
 {
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero");
-    QTest::newRow("a device that is always full") << QStringLiteral("/dev/full");
-    QTest::newRow("a folder") << QStringLiteral("/");
+    columns<QString>({"name"});
+    row("a device that never ends", "/dev/zero");
+    row("a device that is always full", "/dev/full");
+    row("a folder", "/");
 }
 
 void DamagedFilesTest::whatIsNoFileIsLeftAlone()
@@ -125,16 +123,14 @@ void DamagedFilesTest::aPipeIsNotOpened()
 
 void DamagedFilesTest::theCommandLineLeavesAloneWhatCannotBeRead_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("reason");
+    columns<QString, QString>({"name", "reason"});
 
     const QString notRegular = QStringLiteral("It is not a regular file");
-    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero") << notRegular;
-    QTest::newRow("a pipe") << QStringLiteral("pipe.dezimo") << notRegular;
-    QTest::newRow("5 GiB") << QStringLiteral("huge.dezimo")
-                           << QStringLiteral("It is larger than 256 MiB");
-    QTest::newRow("a folder") << QStringLiteral("/") << QStringLiteral("It is a folder");
-    QTest::newRow("a link to nothing") << QStringLiteral("link.dezimo") << QString();
+    row("a device that never ends", "/dev/zero", notRegular);
+    row("a pipe", "pipe.dezimo", notRegular);
+    row("5 GiB", "huge.dezimo", "It is larger than 256 MiB");
+    row("a folder", "/", "It is a folder");
+    row("a link to nothing", "link.dezimo", QString());
 }
 
 void DamagedFilesTest::theCommandLineLeavesAloneWhatCannotBeRead()

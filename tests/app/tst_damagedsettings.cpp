@@ -5,6 +5,7 @@
 #include "damagedstorecase.h"
 #include "kelapplication.h"
 #include "mainprofile.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QFileInfo>
@@ -52,26 +53,20 @@ private Q_SLOTS:
 
 void DamagedSettingsTest::theSettingsAreReadAsCarefully_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("p1");
-    QTest::addColumn<QString>("p2");
+    columns<QByteArray, QString, QString>({"text", "p1", "p2"});
 
     const QString none;
-    QTest::newRow("lists within lists") << amongNeighbors(deeplyNestedLists()) << none << "7W";
-    QTest::newRow("a huge count") << amongNeighbors(hugeCount(QMetaType::QVariantList)) << none
-                                  << "7W";
-    QTest::newRow("100 MiB of one key")
-        << amongNeighbors(QByteArray(100 * kMebibyte, '5')) << none << "7W";
-    QTest::newRow("100 MiB of zeros") << QByteArray(100 * kMebibyte, '\0') << none << none;
-    QTest::newRow("thirty thousand groups") << manyGroups() << "5W"
-                                            << "7W";
-    QTest::newRow("noise") << QByteArray("\0\1\2\377\376[[[==\n\r\\x", 15) << none << none;
-    QTest::newRow("a window of impossible kinds")
-        << QByteArray("[MainProfile]\nwindowPosition=@Size(1 2)\nwindowSize=@Variant(\n"
-                      "windowMode=9999999999\ncurrentModule=@Rect(1 2 3 4)\ndecimalPlaces=nan\n") +
-               amongNeighbors("5W")
-        << "5W"
-        << "7W";
+    row("lists within lists", amongNeighbors(deeplyNestedLists()), none, "7W");
+    row("a huge count", amongNeighbors(hugeCount(QMetaType::QVariantList)), none, "7W");
+    row("100 MiB of one key", amongNeighbors(QByteArray(100 * kMebibyte, '5')), none, "7W");
+    row("100 MiB of zeros", QByteArray(100 * kMebibyte, '\0'), none, none);
+    row("thirty thousand groups", manyGroups(), "5W", "7W");
+    row("noise", QByteArray("\0\1\2\377\376[[[==\n\r\\x", 15), none, none);
+    row("a window of impossible kinds",
+        QByteArray("[MainProfile]\nwindowPosition=@Size(1 2)\nwindowSize=@Variant(\n"
+                   "windowMode=9999999999\ncurrentModule=@Rect(1 2 3 4)\ndecimalPlaces=nan\n") +
+            amongNeighbors("5W"),
+        "5W", "7W");
 }
 
 void DamagedSettingsTest::theSettingsAreReadAsCarefully()
@@ -97,12 +92,11 @@ void DamagedSettingsTest::theSettingsAreReadAsCarefully()
 
 void DamagedSettingsTest::settingsThatCannotBeReadAreLeftAlone_data()
 {
-    QTest::addColumn<Make>("make");
-
-    QTest::newRow("a pipe") << Make(makePipe);
-    QTest::newRow("5 GiB of zeros") << Make(makeHuge);
-    QTest::newRow("a device that never ends")
-        << Make([](const QString &name) { return QFile::link(QStringLiteral("/dev/zero"), name); });
+    columns<Make>({"make"});
+    row("a pipe", Make(makePipe));
+    row("5 GiB of zeros", Make(makeHuge));
+    row("a device that never ends",
+        Make([](const QString &name) { return QFile::link(QStringLiteral("/dev/zero"), name); }));
 }
 
 /// QSettings reads its file as soon as it is made, so that there must be none.
@@ -125,8 +119,7 @@ void DamagedSettingsTest::settingsThatCannotBeReadAreLeftAlone()
 
 void DamagedSettingsTest::theOrganizationsSettingsAreReadAsCarefully_data()
 {
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<QString>("p2");
+    columns<Make, QString>({"make", "p2"});
 
     const auto writes = [](const QByteArray &text) {
         return Make([text](const QString &name) {
@@ -134,10 +127,10 @@ void DamagedSettingsTest::theOrganizationsSettingsAreReadAsCarefully_data()
             return true;
         });
     };
-    QTest::newRow("texts") << writes(amongNeighbors("5W")) << "7W";
-    QTest::newRow("lists within lists") << writes(amongNeighbors(deeplyNestedLists())) << QString();
-    QTest::newRow("a pipe") << Make(makePipe) << QString();
-    QTest::newRow("5 GiB of zeros") << Make(makeHuge) << QString();
+    row("texts", writes(amongNeighbors("5W")), "7W");
+    row("lists within lists", writes(amongNeighbors(deeplyNestedLists())), QString());
+    row("a pipe", Make(makePipe), QString());
+    row("5 GiB of zeros", Make(makeHuge), QString());
 }
 
 /// QSettings looks there for what the program's own settings lack.

@@ -4,6 +4,7 @@
 #include "errortexts.h"
 #include "kelapplication.h"
 #include "mainwindow.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QAbstractButton>
@@ -172,13 +173,10 @@ void GlyphsTest::initTestCase()
 
 void GlyphsTest::everyShownCharacterHasAGlyph_data()
 {
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("style");
-
+    columns<QString, QString>({"family", "style"});
     for (const char *family : {"Tessan", "TessanCd"}) {
         for (const char *style : {"Regular", "Bold", "Italic", "Light"})
-            QTest::newRow(QByteArray(family).append(' ').append(style).constData())
-                << QString::fromLatin1(family) << QString::fromLatin1(style);
+            QTest::addRow("%s %s", family, style) << family << style;
     }
 }
 

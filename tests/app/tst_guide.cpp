@@ -6,6 +6,7 @@
 #include "kelapplication.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 
@@ -214,9 +215,7 @@ void GuideTest::compare(const Guide::Entry &entry)
 
 void GuideTest::findsWhatCannotBeRead_data()
 {
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<int>("examples");
-    QTest::addColumn<QStringList>("problems");
+    columns<QString, int, QStringList>({"table", "examples", "problems"});
 
     const auto table = [](const char *columns, const char *row) {
         return QStringLiteral("## dB Converter\n\n%1\n|---|---|\n%2\n")
@@ -225,10 +224,9 @@ void GuideTest::findsWhatCannotBeRead_data()
     const auto problem = [](const char *row) {
         return QStringList{QStringLiteral("line 5: ") + QString::fromUtf8(row)};
     };
-    QTest::newRow("a row that can be read")
-        << table("| Type | Shows |", "| A `1`, B `2` | C *empty* |") << 1 << QStringList();
-    QTest::newRow("a table of something else")
-        << table("| Word | Meaning |", "| A | B |") << 0 << QStringList();
+    row("a row that can be read", table("| Type | Shows |", "| A `1`, B `2` | C *empty* |"), 1,
+        QStringList());
+    row("a table of something else", table("| Word | Meaning |", "| A | B |"), 0, QStringList());
     const struct
     {
         const char *tag;
@@ -242,10 +240,10 @@ void GuideTest::findsWhatCannotBeRead_data()
         {"nothing shown", "| A `1` | |"},
         {"a cell too many", "| A `1` | B `2` | C `3` |"},
     };
-    for (const auto &row : rows)
-        QTest::newRow(row.tag) << table("| Type | Shows |", row.row) << 0 << problem(row.row);
-    QTest::newRow("a table that shows nothing")
-        << table("| Type | Show |", "| A `1` | B `2` |") << 0 << problem("| A `1` | B `2` |");
+    for (const auto &spoiled : rows)
+        row(spoiled.tag, table("| Type | Shows |", spoiled.row), 0, problem(spoiled.row));
+    row("a table that shows nothing", table("| Type | Show |", "| A `1` | B `2` |"), 0,
+        problem("| A `1` | B `2` |"));
 }
 
 void GuideTest::findsWhatCannotBeRead()
@@ -266,11 +264,10 @@ void GuideTest::everyExampleCanBeRead()
 
 void GuideTest::eachModule()
 {
-    QTest::addColumn<QString>("module");
-
+    columns<QString>({"module"});
     for (const char *module : {"dBm Calculator", "Voltage Calculator", "Unit Converter",
                                "dB Converter", "VSWR Converter"})
-        QTest::newRow(module) << QString::fromLatin1(module);
+        row(module, module);
 }
 
 void GuideTest::everyModuleHasExamples_data()
@@ -314,8 +311,7 @@ void GuideTest::everyFieldIsInAnExample()
 
 void GuideTest::showsWhatItSays_data()
 {
-    QTest::addColumn<Guide::Example>("example");
-
+    columns<Guide::Example>({"example"});
     for (const Guide::Example &example : guide().examples)
         QTest::addRow("line %d", example.line) << example;
 }
@@ -347,7 +343,7 @@ void GuideTest::everyErrorWordIsExplained()
 
 void GuideTest::everyPictureIsThere_data()
 {
-    QTest::addColumn<QString>("fileName");
+    columns<QString>({"fileName"});
 
     static const QRegularExpression link(
         QStringLiteral("(?:\\]\\(|src=\")(?<target>[^)\"]+\\.png)[)\"]"));

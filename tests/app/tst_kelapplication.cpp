@@ -3,6 +3,7 @@
 
 #include "kelapplication.h"
 #include "stylesheets.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QFileInfo>
@@ -68,10 +69,9 @@ void KelApplicationTest::writesNumbersInEnglish()
 
 void KelApplicationTest::bringsBothFontFamilies_data()
 {
-    QTest::addColumn<QString>("family");
-
-    QTest::newRow("the family of most texts") << "Tessan";
-    QTest::newRow("the condensed family") << "TessanCd";
+    columns<QString>({"family"});
+    row("the family of most texts", "Tessan");
+    row("the condensed family", "TessanCd");
 }
 
 void KelApplicationTest::bringsBothFontFamilies()
@@ -88,10 +88,7 @@ void KelApplicationTest::bringsBothFontFamilies()
 
 void KelApplicationTest::drawsAStyleFromItsOwnFile_data()
 {
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<int>("weight");
-    QTest::addColumn<QString>("file");
-
+    columns<QString, int, QString>({"family", "weight", "file"});
     for (const char *family : {"Tessan", "TessanCd"}) {
         const auto row = [family](const char *style, int weight) {
             QTest::addRow("%s %s", family, style)
@@ -137,20 +134,18 @@ void KelApplicationTest::installsAnotherThemeOnRequest()
 
 void KelApplicationTest::hasEveryStyleSheet_data()
 {
-    QTest::addColumn<QString>("path");
-
+    columns<QString>({"path"});
     for (const char *name : {"global", "qcheckbox", "qprogressbar", "kelmessagebox",
                              "kelpanelwidget", "kelsettingsdialog", "keltogglebutton",
                              "kelupdatedownloaddialog", "kelupdatenotifydialog"}) {
         for (const char *suffix : {"", "_bright", "_dark"}) {
             const QByteArray file = QByteArray(name) + suffix + ".qss";
             if (file != "kelpanelwidget_dark.qss")
-                QTest::newRow(file.constData())
-                    << QLatin1String(":/Global/Style/") + QLatin1String(file);
+                row(file.constData(), QLatin1String(":/Global/Style/") + QLatin1String(file));
         }
     }
-    QTest::newRow("main_light.qss") << ":/main_light.qss";
-    QTest::newRow("main_dark.qss") << ":/main_dark.qss";
+    row("main_light.qss", ":/main_light.qss");
+    row("main_dark.qss", ":/main_dark.qss");
 }
 
 void KelApplicationTest::hasEveryStyleSheet()

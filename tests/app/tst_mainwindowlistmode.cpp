@@ -3,6 +3,7 @@
 
 #include "kelapplication.h"
 #include "mainwindowcase.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QListWidget>
@@ -76,15 +77,11 @@ void MainWindowListModeTest::theModeButtonExpandsAndCompactsTheList()
 
 void MainWindowListModeTest::theStoredModeIsAppliedWithoutAnimation_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("listWidth");
-    QTest::addColumn<int>("headerHeight");
-    QTest::addColumn<int>("placeholderHeight");
-
-    QTest::newRow("0 is the compact list") << 0 << 40 << 22 << 0;
-    QTest::newRow("1 is the expanded list") << 1 << 160 << 0 << 22;
-    QTest::newRow("any other number is the expanded list") << 7 << 160 << 0 << 22;
-    QTest::newRow("a negative number is expanded without the placeholder") << -1 << 160 << 0 << 0;
+    columns<int, int, int, int>({"mode", "listWidth", "headerHeight", "placeholderHeight"});
+    row("0 is the compact list", 0, 40, 22, 0);
+    row("1 is the expanded list", 1, 160, 0, 22);
+    row("any other number is the expanded list", 7, 160, 0, 22);
+    row("a negative number is expanded without the placeholder", -1, 160, 0, 0);
 }
 
 void MainWindowListModeTest::theStoredModeIsAppliedWithoutAnimation()
@@ -101,32 +98,19 @@ void MainWindowListModeTest::theStoredModeIsAppliedWithoutAnimation()
 
 void MainWindowListModeTest::aModeChangeAnimatesThreeProperties_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QStringList>("animations");
-
-    QTest::newRow("compact to expanded")
-        << 0 << 1
-        << QStringList{QStringLiteral("menuWidget.minimumWidth 40 160"),
-                       QStringLiteral("headerWidget.maximumHeight 22 0"),
-                       QStringLiteral("menuPlaceholder.maximumHeight 0 22")};
-    QTest::newRow("expanded to compact")
-        << 1 << 0
-        << QStringList{QStringLiteral("menuWidget.minimumWidth 160 40"),
-                       QStringLiteral("headerWidget.maximumHeight 0 22"),
-                       QStringLiteral("menuPlaceholder.maximumHeight 22 0")};
-    QTest::newRow("compact to a negative mode: the placeholder stays")
-        << 0 << -1
-        << QStringList{QStringLiteral("menuWidget.minimumWidth 40 160"),
-                       QStringLiteral("headerWidget.maximumHeight 22 0"),
-                       QStringLiteral("menuPlaceholder.maximumHeight 0 0")};
+    columns<int, int, QString, QString, QString>({"from", "to", "list", "header", "placeholder"});
+    row("compact to expanded", 0, 1, "40 160", "22 0", "0 22");
+    row("expanded to compact", 1, 0, "160 40", "0 22", "22 0");
+    row("compact to a negative mode: the placeholder stays", 0, -1, "40 160", "22 0", "0 0");
 }
 
 void MainWindowListModeTest::aModeChangeAnimatesThreeProperties()
 {
     QFETCH(int, from);
     QFETCH(int, to);
-    QFETCH(QStringList, animations);
+    QFETCH(QString, list);
+    QFETCH(QString, header);
+    QFETCH(QString, placeholder);
 
     store("windowMode", from);
     openWindow();
@@ -136,8 +120,10 @@ void MainWindowListModeTest::aModeChangeAnimatesThreeProperties()
         QCOMPARE(animation->duration(), 200);
     QStringList found = inWords(started);
     found.sort();
-    animations.sort();
-    QCOMPARE(found, animations);
+    const QStringList expected{QStringLiteral("headerWidget.maximumHeight ") + header,
+                               QStringLiteral("menuPlaceholder.maximumHeight ") + placeholder,
+                               QStringLiteral("menuWidget.minimumWidth ") + list};
+    QCOMPARE(found, expected);
     QTRY_VERIFY(m_window->findChildren<QPropertyAnimation *>().isEmpty());
 }
 
@@ -165,16 +151,10 @@ void MainWindowListModeTest::aChangeInMidFlightTurnsAroundWhereItIs()
 
 void MainWindowListModeTest::theModeButtonShowsWhatItDoes_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("icon");
-    QTest::addColumn<QString>("purpose");
-
-    QTest::newRow("0: add the names") << 0 << "Icon_Add_16_bright.svg"
-                                      << "Show module names";
-    QTest::newRow("1: remove the names") << 1 << "Icon_Minus_16_bright.svg"
-                                         << "Hide module names";
-    QTest::newRow("-1: remove the names") << -1 << "Icon_Minus_16_bright.svg"
-                                          << "Hide module names";
+    columns<int, QString, QString>({"mode", "icon", "purpose"});
+    row("0: add the names", 0, "Icon_Add_16_bright.svg", "Show module names");
+    row("1: remove the names", 1, "Icon_Minus_16_bright.svg", "Hide module names");
+    row("-1: remove the names", -1, "Icon_Minus_16_bright.svg", "Hide module names");
 }
 
 void MainWindowListModeTest::theModeButtonShowsWhatItDoes()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "table.h"
 #include "testmain.h"
 #include "windowplacement.h"
 
@@ -20,60 +21,49 @@ private Q_SLOTS:
 
 void WindowPlacementTest::places_data()
 {
-    QTest::addColumn<QPoint>("stored");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QVector<QRect>>("screens");
-    QTest::addColumn<QPoint>("position");
-
+    columns<int, int, QSize, QVector<QRect>, int, int>(
+        {"storedX", "storedY", "size", "screens", "x", "y"});
     const QSize form(958, 605);
     const QRect left(0, 0, 1920, 1080);
     const QRect right(1920, 0, 1280, 1024);
     const QVector<QRect> one{left};
     const QVector<QRect> two{left, right};
 
-    QTest::newRow("on the screen: stays") << QPoint(100, 50) << form << one << QPoint(100, 50);
-    QTest::newRow("partly off the screen: stays")
-        << QPoint(-900, 50) << form << one << QPoint(-900, 50);
-    QTest::newRow("on the second screen: stays")
-        << QPoint(2000, 50) << form << two << QPoint(2000, 50);
-    QTest::newRow("the second screen has gone: onto the right edge of the first")
-        << QPoint(2000, 50) << form << one << QPoint(962, 50); // 1920 - 958
-    QTest::newRow("above the screen: onto its upper edge")
-        << QPoint(10, -5000) << form << one << QPoint(10, 0);
-    QTest::newRow("below and left: into the nearest corner")
-        << QPoint(-5000, 9000) << form << one << QPoint(0, 475); // 1080 - 605
-    QTest::newRow("beyond the second screen: onto the second")
-        << QPoint(9000, 0) << form << two << QPoint(2242, 0); // 3200 - 958
-    QTest::newRow("larger than the screen: its corner is reachable")
-        << QPoint(5000, 5000) << QSize(4000, 3000) << one << QPoint(0, 0);
-    QTest::newRow("touching an edge from outside is not on the screen")
-        << QPoint(1920, 0) << form << one << QPoint(962, 0);
-    QTest::newRow("no screen known: stays")
-        << QPoint(5000, 5000) << QSize(10, 10) << QVector<QRect>() << QPoint(5000, 5000);
-    const int highest = std::numeric_limits<int>::max();
-    const int lowest = std::numeric_limits<int>::min();
-    QTest::newRow("at the upper end of the number range: onto the last corner")
-        << QPoint(highest, highest) << form << one << QPoint(962, 475);
-    QTest::newRow("at the lower end of the number range: onto the first corner")
-        << QPoint(lowest, lowest) << form << one << QPoint(0, 0);
-    QTest::newRow("the upper end, two screens: onto the right one")
-        << QPoint(highest, highest) << form << two << QPoint(2242, 419); // 1024 - 605
-    QTest::newRow("the lower end, two screens: onto the left one")
-        << QPoint(lowest, lowest) << form << two << QPoint(0, 0);
-    QTest::newRow("right end and top end, two screens: onto the right one")
-        << QPoint(highest, lowest) << form << two << QPoint(2242, 0);
-    QTest::newRow("left end and bottom end, two screens: onto the left one")
-        << QPoint(lowest, highest) << form << two << QPoint(0, 475);
+    row("on the screen: stays", 100, 50, form, one, 100, 50);
+    row("partly off the screen: stays", -900, 50, form, one, -900, 50);
+    row("on the second screen: stays", 2000, 50, form, two, 2000, 50);
+    // 1920 - 958 = 962, 1080 - 605 = 475, 3200 - 958 = 2242, 1024 - 605 = 419
+    row("the second screen has gone: onto the right edge of the first", 2000, 50, form, one, 962,
+        50);
+    row("above the screen: onto its upper edge", 10, -5000, form, one, 10, 0);
+    row("below and left: into the nearest corner", -5000, 9000, form, one, 0, 475);
+    row("beyond the second screen: onto the second", 9000, 0, form, two, 2242, 0);
+    const QSize large(4000, 3000);
+    row("larger than the screen: its corner is reachable", 5000, 5000, large, one, 0, 0);
+    row("touching an edge from outside is not on the screen", 1920, 0, form, one, 962, 0);
+    const QVector<QRect> none;
+    row("no screen known: stays", 5000, 5000, QSize(10, 10), none, 5000, 5000);
+    const int max = std::numeric_limits<int>::max();
+    const int min = std::numeric_limits<int>::min();
+    row("at the upper end of the number range: onto the last corner", max, max, form, one, 962,
+        475);
+    row("at the lower end of the number range: onto the first corner", min, min, form, one, 0, 0);
+    row("the upper end, two screens: onto the right one", max, max, form, two, 2242, 419);
+    row("the lower end, two screens: onto the left one", min, min, form, two, 0, 0);
+    row("right end and top end, two screens: onto the right one", max, min, form, two, 2242, 0);
+    row("left end and bottom end, two screens: onto the left one", min, max, form, two, 0, 475);
 }
 
 void WindowPlacementTest::places()
 {
-    QFETCH(QPoint, stored);
+    QFETCH(int, storedX);
+    QFETCH(int, storedY);
     QFETCH(QSize, size);
     QFETCH(QVector<QRect>, screens);
-    QFETCH(QPoint, position);
+    QFETCH(int, x);
+    QFETCH(int, y);
 
-    QCOMPARE(reachablePosition(stored, size, screens), position);
+    QCOMPARE(reachablePosition(QPoint(storedX, storedY), size, screens), QPoint(x, y));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, WindowPlacementTest)

@@ -4,6 +4,7 @@
 #include "colorcontrast.h"
 #include "palette.h"
 #include "resources.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QColor>
@@ -217,15 +218,12 @@ void ContrastTest::computesTheRatioOfTheGuidelines()
 
 void ContrastTest::everyPairIsReadable_data()
 {
-    QTest::addColumn<QColor>("foreground");
-    QTest::addColumn<QColor>("background");
-    QTest::addColumn<double>("minimum");
-
+    columns<QColor, QColor, double>({"foreground", "background", "minimum"});
     for (const bool dark : {false, true}) {
         for (const Pair &pair : kPairs)
-            QTest::newRow(QByteArray(dark ? "dark: " : "bright: ").append(pair.use).constData())
-                << QColor(colorOf(pair.foreground, dark)) << QColor(colorOf(pair.background, dark))
-                << pair.minimum;
+            row(QByteArray(dark ? "dark: " : "bright: ").append(pair.use).constData(),
+                QColor(colorOf(pair.foreground, dark)), QColor(colorOf(pair.background, dark)),
+                pair.minimum);
     }
 }
 
@@ -241,10 +239,9 @@ void ContrastTest::everyPairIsReadable()
 
 void ContrastTest::everyColorOfTheSheetsIsInAPair_data()
 {
-    QTest::addColumn<bool>("dark");
-
-    QTest::newRow("bright") << false;
-    QTest::newRow("dark") << true;
+    columns<bool>({"dark"});
+    row("bright", false);
+    row("dark", true);
 }
 
 void ContrastTest::everyColorOfTheSheetsIsInAPair()

@@ -4,6 +4,7 @@
 #include "daytext.h"
 #include "factbasedosinfo.h"
 #include "sectionlines.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QMap>
@@ -181,9 +182,7 @@ void FactBasedOSInfoTest::everyFactMissing()
 
 void FactBasedOSInfoTest::oneFactMissing_data()
 {
-    QTest::addColumn<Fact>("fact");
-    QTest::addColumn<int>("lineNumber");
-    QTest::addColumn<QString>("line");
+    columns<Fact, int, QString>({"fact", "lineNumber", "line"});
 
     const auto row = [](const char *tag, Fact fact, int lineNumber, const char *line) {
         QTest::newRow(tag) << fact << lineNumber << QString::fromLatin1(line);
@@ -244,10 +243,7 @@ void FactBasedOSInfoTest::singleOperationsWithoutFacts()
 
 void FactBasedOSInfoTest::driverSearches_data()
 {
-    QTest::addColumn<QVector<DriverKind>>("missing");
-    QTest::addColumn<QString>("vxi");
-    QTest::addColumn<QString>("ivi");
-    QTest::addColumn<QString>("usb");
+    columns<QVector<DriverKind>, QString, QString, QString>({"missing", "vxi", "ivi", "usb"});
 
     const QString vxi = QStringLiteral(": kelvxi.dll (Version 1.2.3)");
     const QString ivi = QStringLiteral(": kelivi.dll (Version 4.5)");
@@ -256,16 +252,13 @@ void FactBasedOSInfoTest::driverSearches_data()
     const QString noIvi = QStringLiteral(": No IVI driver found");
     const QString noUsb = QStringLiteral(": No USB driver found");
     using Kinds = QVector<DriverKind>;
-    QTest::newRow("all kinds are found") << Kinds{} << vxi << ivi << usb;
-    QTest::newRow("no VXI driver") << Kinds{DriverKind::VxiPnp} << noVxi << ivi << usb;
-    QTest::newRow("no IVI driver") << Kinds{DriverKind::Ivi} << vxi << noIvi << usb;
-    QTest::newRow("no USB driver") << Kinds{DriverKind::Usb} << vxi << ivi << noUsb;
-    QTest::newRow("only a USB driver")
-        << Kinds{DriverKind::VxiPnp, DriverKind::Ivi} << noVxi << noIvi << usb;
-    QTest::newRow("only an IVI driver")
-        << Kinds{DriverKind::VxiPnp, DriverKind::Usb} << noVxi << ivi << noUsb;
-    QTest::newRow("only a VXI driver")
-        << Kinds{DriverKind::Ivi, DriverKind::Usb} << vxi << noIvi << noUsb;
+    row("all kinds are found", Kinds{}, vxi, ivi, usb);
+    row("no VXI driver", Kinds{DriverKind::VxiPnp}, noVxi, ivi, usb);
+    row("no IVI driver", Kinds{DriverKind::Ivi}, vxi, noIvi, usb);
+    row("no USB driver", Kinds{DriverKind::Usb}, vxi, ivi, noUsb);
+    row("only a USB driver", Kinds{DriverKind::VxiPnp, DriverKind::Ivi}, noVxi, noIvi, usb);
+    row("only an IVI driver", Kinds{DriverKind::VxiPnp, DriverKind::Usb}, noVxi, ivi, noUsb);
+    row("only a VXI driver", Kinds{DriverKind::Ivi, DriverKind::Usb}, vxi, noIvi, noUsb);
 }
 
 void FactBasedOSInfoTest::driverSearches()
@@ -338,19 +331,16 @@ void FactBasedOSInfoTest::collectsAnewOnEveryCall()
 
 void FactBasedOSInfoTest::momentTexts_data()
 {
-    QTest::addColumn<qint64>("seconds");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("the day of a month has two places")
-        << qint64(0) << QStringLiteral("Thu Jan %1 02:00:00 1970").arg(dayText(1));
+    columns<qint64, QString>({"seconds", "text"});
+    row("the day of a month has two places", qint64(0),
+        QStringLiteral("Thu Jan %1 02:00:00 1970").arg(dayText(1)));
     // 1700000000 s are 19675 days and 22:13:20: Nov 14, 2023, in UTC.
-    QTest::newRow("local time may be in the next day")
-        << qint64(1700000000) << QStringLiteral("Wed Nov 15 00:13:20 2023");
+    row("local time may be in the next day", qint64(1700000000), "Wed Nov 15 00:13:20 2023");
     // 2^32 - 1 s, the last one of an unsigned count: Feb 7, 2106, 06:28:15 UTC.
-    QTest::newRow("seconds beyond 2038 do not turn negative")
-        << qint64(4294967295) << QStringLiteral("Sun Feb %1 08:28:15 2106").arg(dayText(7));
-    QTest::newRow("a year that the C library cannot write has no text")
-        << std::numeric_limits<qint64>::max() << QString();
+    row("seconds beyond 2038 do not turn negative", qint64(4294967295),
+        QStringLiteral("Sun Feb %1 08:28:15 2106").arg(dayText(7)));
+    row("a year that the C library cannot write has no text", std::numeric_limits<qint64>::max(),
+        QString());
 }
 
 void FactBasedOSInfoTest::momentTexts()

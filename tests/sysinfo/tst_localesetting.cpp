@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "localesetting.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QLocale>
@@ -28,10 +29,7 @@ void LocaleSettingTest::init()
 
 void LocaleSettingTest::parses_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("expectedName");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("country");
+    columns<QByteArray, QString, QString, QString>({"name", "expectedName", "language", "country"});
 
     const auto row = [](const char *tag, const char *name, const char *language,
                         const char *country) {
@@ -85,10 +83,7 @@ void LocaleSettingTest::parses()
 
 void LocaleSettingTest::asksTheVariables_data()
 {
-    QTest::addColumn<QByteArray>("all");
-    QTest::addColumn<QByteArray>("numeric");
-    QTest::addColumn<QByteArray>("lang");
-    QTest::addColumn<QString>("expected");
+    columns<QByteArray, QByteArray, QByteArray, QString>({"all", "numeric", "lang", "expected"});
 
     const auto row = [](const char *tag, const char *all, const char *numeric, const char *lang,
                         const char *expected) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "table.h"
 #include "testmain.h"
 #include "visalibrary.h"
 
@@ -35,9 +36,7 @@ bool touch(const QString &path)
 
 void VisaLibraryTest::findsByName_data()
 {
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("version");
+    columns<QStringList, QString, QString>({"files", "name", "version"});
 
     const auto row = [](const char *tag, const char *files, const char *name, const char *version) {
         QTest::newRow(tag) << QString::fromLatin1(files).split(QLatin1Char(' '), Qt::SkipEmptyParts)

@@ -4,6 +4,7 @@
 #include "daytext.h"
 #include "fakehost.h"
 #include "sectionlines.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsosinfo.h"
 
@@ -198,8 +199,7 @@ void WindowsOSInfoTest::nothingCanBeRead()
 void WindowsOSInfoTest::administratorRights_data()
 {
     using Membership = WindowsHost::Membership;
-    QTest::addColumn<int>("membership");
-    QTest::addColumn<QString>("expected");
+    columns<int, QString>({"membership", "expected"});
 
     const auto row = [](const char *tag, Membership membership, const char *expected) {
         QTest::newRow(tag) << int(membership) << text(expected);
@@ -238,14 +238,11 @@ void WindowsOSInfoTest::internetExplorerInQuotes()
 
 void WindowsOSInfoTest::ieeeDriver_data()
 {
-    QTest::addColumn<bool>("gpib");
-    QTest::addColumn<bool>("sicl");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("the GPIB library goes before the SICL library") << true << true << text("9.0");
-    QTest::newRow("the GPIB library alone") << true << false << text("9.0");
-    QTest::newRow("the SICL library alone") << false << true << text("9.5");
-    QTest::newRow("neither library") << false << false << text("---");
+    columns<bool, bool, QString>({"gpib", "sicl", "expected"});
+    row("the GPIB library goes before the SICL library", true, true, "9.0");
+    row("the GPIB library alone", true, false, "9.0");
+    row("the SICL library alone", false, true, "9.5");
+    row("neither library", false, false, "---");
 }
 
 void WindowsOSInfoTest::ieeeDriver()
@@ -264,18 +261,15 @@ void WindowsOSInfoTest::ieeeDriver()
 
 void WindowsOSInfoTest::vxiFrameworkFolder_data()
 {
-    QTest::addColumn<QString>("frameworkUnderscorePath");
-    QTest::addColumn<QString>("frameworkPath");
-    QTest::addColumn<QString>("expected");
+    columns<QString, QString, QString>({"frameworkUnderscorePath", "frameworkPath", "expected"});
 
     const QString folder = text("C:\\VXIPNP\\WinNT");
     const QString found = text(": kelvxi.dll (Version 12.0)");
     const QString notFound = text(": No VXI driver found");
-    QTest::newRow("FRAMEWORK_PATH is asked first") << folder << text("C:\\Elsewhere") << found;
-    QTest::newRow("FrameworkPath is asked without it") << QString() << folder << found;
-    QTest::newRow("FrameworkPath is not asked beside it")
-        << text("C:\\Elsewhere") << folder << notFound;
-    QTest::newRow("without a framework nothing is found") << QString() << QString() << notFound;
+    row("FRAMEWORK_PATH is asked first", folder, "C:\\Elsewhere", found);
+    row("FrameworkPath is asked without it", QString(), folder, found);
+    row("FrameworkPath is not asked beside it", "C:\\Elsewhere", folder, notFound);
+    row("without a framework nothing is found", QString(), QString(), notFound);
 }
 
 void WindowsOSInfoTest::vxiFrameworkFolder()
@@ -292,18 +286,13 @@ void WindowsOSInfoTest::vxiFrameworkFolder()
 
 void WindowsOSInfoTest::usbDriverFile_data()
 {
-    QTest::addColumn<QString>("setUpFile");
-    QTest::addColumn<QString>("driverFile");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("the driver has the stem of its set-up file")
-        << text("kelusb.inf") << text("kelusb.SYS") << text("kelusb.SYS (Version 1.5)");
-    QTest::newRow("a set-up file in capitals")
-        << text("KELUSB.INF") << text("KELUSB.SYS") << text("KELUSB.SYS (Version 1.5)");
-    QTest::newRow("a stem with a dot in it")
-        << text("kel.usb.inf") << text("kel.usb.SYS") << text("kel.usb.SYS (Version 1.5)");
-    QTest::newRow("a set-up file whose driver is missing")
-        << text("kelusb.inf") << text("other.SYS") << text("kelusb.SYS (Version ---)");
+    columns<QString, QString, QString>({"setUpFile", "driverFile", "expected"});
+    row("the driver has the stem of its set-up file", "kelusb.inf", "kelusb.SYS",
+        "kelusb.SYS (Version 1.5)");
+    row("a set-up file in capitals", "KELUSB.INF", "KELUSB.SYS", "KELUSB.SYS (Version 1.5)");
+    row("a stem with a dot in it", "kel.usb.inf", "kel.usb.SYS", "kel.usb.SYS (Version 1.5)");
+    row("a set-up file whose driver is missing", "kelusb.inf", "other.SYS",
+        "kelusb.SYS (Version ---)");
 }
 
 void WindowsOSInfoTest::usbDriverFile()

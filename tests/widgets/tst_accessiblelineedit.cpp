@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "kellineedit.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 
@@ -91,27 +92,15 @@ void AccessibleLineEditTest::aReadOnlyEditOffersNoEditing()
 
 void AccessibleLineEditTest::editsAsAPersonDoes_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("after");
-
-    QTest::newRow("puts in at the beginning") << 0 << 0 << "-"
-                                              << "-12 dBm";
-    QTest::newRow("puts in in the middle") << 2 << 2 << ".5"
-                                           << "12.5 dBm";
-    QTest::newRow("puts in beyond the end") << 99 << 99 << "W"
-                                            << "12 dBmW";
-    QTest::newRow("replaces a part") << 3 << 6 << "W"
-                                     << "12 W";
-    QTest::newRow("replaces all, the end unsaid") << 0 << 99 << "7 W"
-                                                  << "7 W";
-    QTest::newRow("takes out a part") << 2 << 6 << ""
-                                      << "12";
-    QTest::newRow("begins before the text") << -5 << 2 << "3"
-                                            << "3 dBm";
-    QTest::newRow("ends before it begins") << 4 << 1 << "x"
-                                           << "12 dxBm";
+    columns<int, int, QString, QString>({"start", "end", "text", "after"});
+    row("puts in at the beginning", 0, 0, "-", "-12 dBm");
+    row("puts in in the middle", 2, 2, ".5", "12.5 dBm");
+    row("puts in beyond the end", 99, 99, "W", "12 dBmW");
+    row("replaces a part", 3, 6, "W", "12 W");
+    row("replaces all, the end unsaid", 0, 99, "7 W", "7 W");
+    row("takes out a part", 2, 6, "", "12");
+    row("begins before the text", -5, 2, "3", "3 dBm");
+    row("ends before it begins", 4, 1, "x", "12 dxBm");
 }
 
 void AccessibleLineEditTest::editsAsAPersonDoes()
@@ -194,14 +183,11 @@ void AccessibleLineEditTest::theFocusCanBeGiven()
 
 void AccessibleLineEditTest::readsPartsOfTheText_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<QString>("part");
-
-    QTest::newRow("all of it") << 0 << 6 << "12 dBm";
-    QTest::newRow("the number") << 0 << 2 << "12";
-    QTest::newRow("the unit and beyond") << 3 << 99 << "dBm";
-    QTest::newRow("nothing where the end lies before the start") << 4 << 2 << "";
+    columns<int, int, QString>({"start", "end", "part"});
+    row("all of it", 0, 6, "12 dBm");
+    row("the number", 0, 2, "12");
+    row("the unit and beyond", 3, 99, "dBm");
+    row("nothing where the end lies before the start", 4, 2, "");
 }
 
 void AccessibleLineEditTest::readsPartsOfTheText()
@@ -215,13 +201,11 @@ void AccessibleLineEditTest::readsPartsOfTheText()
 
 void AccessibleLineEditTest::movesTheCursorWithinTheText_data()
 {
-    QTest::addColumn<int>("asked");
-    QTest::addColumn<int>("position");
-
-    QTest::newRow("to the beginning") << 0 << 0;
-    QTest::newRow("into the text") << 3 << 3;
-    QTest::newRow("beyond the end") << 99 << 6;
-    QTest::newRow("before the beginning") << -1 << 0;
+    columns<int, int>({"asked", "position"});
+    row("to the beginning", 0, 0);
+    row("into the text", 3, 3);
+    row("beyond the end", 99, 6);
+    row("before the beginning", -1, 0);
 }
 
 void AccessibleLineEditTest::movesTheCursorWithinTheText()

@@ -4,6 +4,7 @@
 #include "aboutwindowcase.h"
 #include "kellatepages.h"
 #include "resources.h"
+#include "table.h"
 #include "testmain.h"
 #include "ui_kelaboutwindow.h"
 
@@ -267,19 +268,16 @@ void KelAboutWindowTest::showsTheLegalPage()
 
 void KelAboutWindowTest::legalPageNamesTheLicenses_data()
 {
-    QTest::addColumn<QString>("words");
-
-    QTest::newRow("of the program itself") << "Dezimo is free software under the MIT License:";
-    QTest::newRow("of Qt") << "under the GNU Lesser General Public License, version 3.";
-    QTest::newRow("the text of Qt's license")
-        << "GNU LESSER GENERAL PUBLIC LICENSE Version 3, 29 June 2007";
-    QTest::newRow("the text of the license that Qt's builds on")
-        << "GNU GENERAL PUBLIC LICENSE Version 3, 29 June 2007";
-    QTest::newRow("where Qt's source is")
-        << "The source code of Qt can be had from the Debian source packages "
-           "qtbase-opensource-src and qtsvg-opensource-src";
-    QTest::newRow("of the fonts' outlines") << "Apache License, Version 2.0";
-    QTest::newRow("of the fonts' added glyphs") << "DejaVu fonts license";
+    columns<QString>({"words"});
+    row("of the program itself", "Dezimo is free software under the MIT License:");
+    row("of Qt", "under the GNU Lesser General Public License, version 3.");
+    row("the text of Qt's license", "GNU LESSER GENERAL PUBLIC LICENSE Version 3, 29 June 2007");
+    row("the text of the license that Qt's builds on",
+        "GNU GENERAL PUBLIC LICENSE Version 3, 29 June 2007");
+    row("where Qt's source is", "The source code of Qt can be had from the Debian source packages "
+                                "qtbase-opensource-src and qtsvg-opensource-src");
+    row("of the fonts' outlines", "Apache License, Version 2.0");
+    row("of the fonts' added glyphs", "DejaVu fonts license");
 }
 
 void KelAboutWindowTest::legalPageNamesTheLicenses()
@@ -303,10 +301,9 @@ void KelAboutWindowTest::showsNothingWithoutALegalPage()
 
 void KelAboutWindowTest::fitsItsContents_data()
 {
-    QTest::addColumn<QString>("otherTheme");
-
-    QTest::newRow("in the bright theme") << "_dark";
-    QTest::newRow("in the dark theme") << "_bright";
+    columns<QString>({"otherTheme"});
+    row("in the bright theme", "_dark");
+    row("in the dark theme", "_bright");
 }
 
 void KelAboutWindowTest::fitsItsContents()
@@ -349,10 +346,9 @@ void KelAboutWindowTest::isNamedForScreenReaders()
 
 void KelAboutWindowTest::isDestroyedWhenClosed_data()
 {
-    QTest::addColumn<bool>("byEscape");
-
-    QTest::newRow("by Escape") << true;
-    QTest::newRow("by its title bar") << false;
+    columns<bool>({"byEscape"});
+    row("by Escape", true);
+    row("by its title bar", false);
 }
 
 void KelAboutWindowTest::isDestroyedWhenClosed()

@@ -4,6 +4,7 @@
 #include "aboutwindowcase.h"
 #include "palette.h"
 #include "resources.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QAccessible>
@@ -177,13 +178,9 @@ void KelAboutWindowSupportTest::linksToTheSupportMail()
 
 void KelAboutWindowSupportTest::links()
 {
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("scheme");
-
-    QTest::newRow("the product page")
-        << "product_page" << QUrl(QStringLiteral(DEZIMO_PRODUCT_PAGE)).scheme();
-    QTest::newRow("the support mail") << "mail"
-                                      << "mailto";
+    columns<QString, QString>({"label", "scheme"});
+    row("the product page", "product_page", QUrl(QStringLiteral(DEZIMO_PRODUCT_PAGE)).scheme());
+    row("the support mail", "mail", "mailto");
 }
 
 void KelAboutWindowSupportTest::linksOpenByKeyboard()

@@ -4,6 +4,7 @@
 #include "expectedmessages.h"
 #include "kelcombobox.h"
 #include "kelcomboboxstyle.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 
@@ -83,13 +84,12 @@ void KelComboBoxTest::styleNeverLaysThePopupOverTheBox()
 
 void KelComboBoxTest::styleForwardsEveryOtherHint_data()
 {
-    QTest::addColumn<int>("hint");
-
-    QTest::newRow("the first hint") << int(QStyle::SH_EtchDisabledText);
-    QTest::newRow("the hint before the popup's") << int(QStyle::SH_ComboBox_Popup) - 1;
-    QTest::newRow("the hint after the popup's") << int(QStyle::SH_ComboBox_Popup) + 1;
-    QTest::newRow("another hint about combo boxes") << int(QStyle::SH_ComboBox_ListMouseTracking);
-    QTest::newRow("a hint of another widget") << int(QStyle::SH_SpinBox_StepModifier);
+    columns<int>({"hint"});
+    row("the first hint", int(QStyle::SH_EtchDisabledText));
+    row("the hint before the popup's", int(QStyle::SH_ComboBox_Popup) - 1);
+    row("the hint after the popup's", int(QStyle::SH_ComboBox_Popup) + 1);
+    row("another hint about combo boxes", int(QStyle::SH_ComboBox_ListMouseTracking));
+    row("a hint of another widget", int(QStyle::SH_SpinBox_StepModifier));
 }
 
 void KelComboBoxTest::styleForwardsEveryOtherHint()
@@ -118,11 +118,10 @@ void KelComboBoxTest::showsAPlainList()
 
 void KelComboBoxTest::opensBelowTheBox_data()
 {
-    QTest::addColumn<QString>("styleSheet");
-
-    QTest::newRow("without a style sheet") << "";
-    QTest::newRow("with the style sheet of the program")
-        << "QComboBox { border: 1px solid gray } QComboBox QAbstractItemView { padding: 2px }";
+    columns<QString>({"styleSheet"});
+    row("without a style sheet", "");
+    row("with the style sheet of the program",
+        "QComboBox { border: 1px solid gray } QComboBox QAbstractItemView { padding: 2px }");
 }
 
 void KelComboBoxTest::opensBelowTheBox()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "kelnumericlineedit.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -65,12 +66,8 @@ const QLocale &swedish()
 
 void KelNumericLineEditTest::typing_data()
 {
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<int>("integerDigits");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("unit");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("text");
+    columns<QLocale, int, int, QString, QString, QString>(
+        {"locale", "integerDigits", "decimals", "unit", "keys", "text"});
 
     const auto row = [](const char *tag, const QLocale &locale, int integerDigits, int decimals,
                         const char *unit, const QString &keys, const QString &text) {
@@ -155,19 +152,17 @@ void KelNumericLineEditTest::typing()
 
 void KelNumericLineEditTest::acceptable_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isAcceptable");
-
-    QTest::newRow("a whole number") << "7" << true;
-    QTest::newRow("a number with everything") << "-12.34e-5 kdBm" << true;
-    QTest::newRow("part of the unit") << "100 dB" << true;
-    QTest::newRow("a blank at the end") << "100 " << true;
-    QTest::newRow("a prefix letter alone") << "100k" << true;
-    QTest::newRow("nothing yet") << "" << false;
-    QTest::newRow("a sign yet without a number") << "-" << false;
-    QTest::newRow("a point yet without decimals") << "1." << false;
-    QTest::newRow("an exponent letter yet without an exponent") << "1e" << false;
-    QTest::newRow("an exponent's sign yet without an exponent") << "1e-" << false;
+    columns<QString, bool>({"text", "isAcceptable"});
+    row("a whole number", "7", true);
+    row("a number with everything", "-12.34e-5 kdBm", true);
+    row("part of the unit", "100 dB", true);
+    row("a blank at the end", "100 ", true);
+    row("a prefix letter alone", "100k", true);
+    row("nothing yet", "", false);
+    row("a sign yet without a number", "-", false);
+    row("a point yet without decimals", "1.", false);
+    row("an exponent letter yet without an exponent", "1e", false);
+    row("an exponent's sign yet without an exponent", "1e-", false);
 }
 
 void KelNumericLineEditTest::acceptable()
@@ -212,14 +207,13 @@ void KelNumericLineEditTest::takesNoOtherLetter()
 
 void KelNumericLineEditTest::takesEveryBeginningOfAUnit_data()
 {
-    QTest::addColumn<QString>("unit");
-
-    QTest::newRow("one letter") << "W";
-    QTest::newRow("two letters") << "mV";
-    QTest::newRow("three letters") << "dBm";
-    QTest::newRow("four letters, one of them Greek") << QStringLiteral("dBµV");
-    QTest::newRow("a symbol") << QStringLiteral("Ω");
-    QTest::newRow("with a sign and a blank") << "V / m";
+    columns<QString>({"unit"});
+    row("one letter", "W");
+    row("two letters", "mV");
+    row("three letters", "dBm");
+    row("four letters, one of them Greek", "dBµV");
+    row("a symbol", "Ω");
+    row("with a sign and a blank", "V / m");
 }
 
 void KelNumericLineEditTest::takesEveryBeginningOfAUnit()
@@ -323,12 +317,10 @@ void KelNumericLineEditTest::followsItsLocale()
 
 void KelNumericLineEditTest::takesTheGreatestNumbersOfDigits_data()
 {
-    QTest::addColumn<int>("digits");
-    QTest::addColumn<int>("taken");
-
-    QTest::newRow("the last number that is kept exactly") << 1024 << 1024;
-    QTest::newRow("above it the pattern stays there") << 1025 << 1024;
-    QTest::newRow("the greatest number of the setting") << 65535 << 1024;
+    columns<int, int>({"digits", "taken"});
+    row("the last number that is kept exactly", 1024, 1024);
+    row("above it the pattern stays there", 1025, 1024);
+    row("the greatest number of the setting", 65535, 1024);
 }
 
 void KelNumericLineEditTest::takesTheGreatestNumbersOfDigits()

@@ -3,6 +3,7 @@
 
 #include "keliconwidget.h"
 #include "kelpanelsubwidget.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 
@@ -269,19 +270,14 @@ void KelPanelSubWidgetTest::restoresTheLimitsOfTheContent()
 
 void KelPanelSubWidgetTest::aClickOnTheHeaderToggles_data()
 {
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("release");
-    QTest::addColumn<bool>("toggles");
+    columns<QString, int, QPoint, bool>({"target", "button", "release", "toggles"});
 
     const QPoint inside(2, 2);
-    QTest::newRow("the title") << "titleButton" << int(Qt::LeftButton) << inside << true;
-    QTest::newRow("the arrow") << "disclosure" << int(Qt::LeftButton) << inside << true;
-    QTest::newRow("the space around them") << "header" << int(Qt::LeftButton) << inside << true;
-    QTest::newRow("the arrow with the right button")
-        << "disclosure" << int(Qt::RightButton) << inside << false;
-    QTest::newRow("the header, let go below it")
-        << "header" << int(Qt::LeftButton) << QPoint(2, 200) << false;
+    row("the title", "titleButton", int(Qt::LeftButton), inside, true);
+    row("the arrow", "disclosure", int(Qt::LeftButton), inside, true);
+    row("the space around them", "header", int(Qt::LeftButton), inside, true);
+    row("the arrow with the right button", "disclosure", int(Qt::RightButton), inside, false);
+    row("the header, let go below it", "header", int(Qt::LeftButton), QPoint(2, 200), false);
 }
 
 void KelPanelSubWidgetTest::aClickOnTheHeaderToggles()

@@ -3,6 +3,7 @@
 
 #include "propertyvalues.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
 #include "words.h"
@@ -72,92 +73,65 @@ void UnitConverterProfileTest::declaresItsSignalsInOrder()
 
 void UnitConverterProfileTest::rescales_data()
 {
-    QTest::addColumn<int>("places");
-    QTest::addColumn<PropertyValues>("given");
-    QTest::addColumn<PropertyValues>("unit");
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<PropertyValues>("changes");
-
-    const auto row = [](const char *tag, int places, const PropertyValues &given,
-                        const PropertyValue &unit, const char *slot,
-                        const PropertyValues &changes) {
-        QTest::newRow(tag) << places << given << PropertyValues{unit} << QByteArray(slot)
-                           << changes;
+    columns<int, QByteArray, int, QString, int, QString>(
+        {"places", "quantity", "from", "before", "to", "after"});
+    const auto add = [](const char *tag, const char *quantity, int from, const char *before, int to,
+                        const char *after, int places = ModuleProfile::kDefaultSignificantDigits) {
+        row(tag, places, QByteArray(quantity), from, before, to, after);
     };
 
-    row("1234.5 mW in W", 10, {{"linPower", "1234.5"}}, {"linPowerUnit", 1}, "rescaleLinPower",
-        {{"linPower", "1.2345"}});
-    row("1234.5 mW in W at three digits", 3, {{"linPower", "1234.5"}}, {"linPowerUnit", 1},
-        "rescaleLinPower", {{"linPower", "1.23"}});
-    row("1234.5 mW in W at one digit", 0, {{"linPower", "1234.5"}}, {"linPowerUnit", 1},
-        "rescaleLinPower", {{"linPower", "1"}});
-    row("1.5 W in mW", 10, {{"linPowerUnit", 1}, {"linPower", "1.5"}}, {"linPowerUnit", 0},
-        "rescaleLinPower", {{"linPower", "1500"}});
-    row("a power with a prefix: 2 mW typed in W", 3, {{"linPowerUnit", 1}, {"linPower", "2m"}},
-        {"linPowerUnit", 0}, "rescaleLinPower", {{"linPower", "2"}});
-    row("an empty power", 3, {{"linVoltage", "7"}}, {"linPowerUnit", 1}, "rescaleLinPower", {});
-    row("a power that is a word", 3, {{"linPower", "invalid input"}}, {"linPowerUnit", 1},
-        "rescaleLinPower", {});
-    row("a power that grows too large is not shown", 3,
-        {{"linPowerUnit", 1}, {"linPower", "1e308"}}, {"linPowerUnit", 0}, "rescaleLinPower",
-        {{"linPower", ""}});
+    add("1234.5 mW in W", "linPower", 0, "1234.5", 1, "1.2345", 10);
+    add("1234.5 mW in W at three digits", "linPower", 0, "1234.5", 1, "1.23");
+    add("1234.5 mW in W at one digit", "linPower", 0, "1234.5", 1, "1", 0);
+    add("1.5 W in mW", "linPower", 1, "1.5", 0, "1500", 10);
+    add("a power with a prefix: 2 mW typed in W", "linPower", 1, "2m", 0, "2");
+    add("an empty power", "linPower", 0, "", 1, "");
+    add("a power that is a word", "linPower", 0, "invalid input", 1, "invalid input");
+    add("a power that grows too large is not shown", "linPower", 1, "1e308", 0, "");
 
-    row("500 mV in V", 3, {{"linVoltage", "500"}}, {"linVoltageUnit", 1}, "rescaleLinVoltage",
-        {{"linVoltage", "0.5"}});
-    row("0.0123456 V in mV", 10, {{"linVoltageUnit", 1}, {"linVoltage", "0.0123456"}},
-        {"linVoltageUnit", 0}, "rescaleLinVoltage", {{"linVoltage", "12.3456"}});
-    row("an empty voltage", 3, {{"linPower", "7"}}, {"linVoltageUnit", 1}, "rescaleLinVoltage", {});
-    row("a voltage that is a word", 3, {{"linVoltage", "abc"}}, {"linVoltageUnit", 1},
-        "rescaleLinVoltage", {});
+    add("500 mV in V", "linVoltage", 0, "500", 1, "0.5");
+    add("0.0123456 V in mV", "linVoltage", 1, "0.0123456", 0, "12.3456", 10);
+    add("an empty voltage", "linVoltage", 0, "", 1, "");
+    add("a voltage that is a word", "linVoltage", 0, "abc", 1, "abc");
 
-    row("10 dBm in dBW", 3, {{"logPower", "10.00"}}, {"logPowerUnit", 1}, "rescaleLogPower",
-        {{"logPower", "-20.00"}});
-    row("-20 dBW in dBm", 3, {{"logPowerUnit", 1}, {"logPower", "-20"}}, {"logPowerUnit", 0},
-        "rescaleLogPower", {{"logPower", "10.00"}});
-    row("a power level keeps two decimals at ten digits", 10, {{"logPower", "1.2345"}},
-        {"logPowerUnit", 1}, "rescaleLogPower", {{"logPower", "-28.77"}});
+    add("10 dBm in dBW", "logPower", 0, "10.00", 1, "-20.00");
+    add("-20 dBW in dBm", "logPower", 1, "-20", 0, "10.00");
+    add("a power level keeps two decimals at ten digits", "logPower", 0, "1.2345", 1, "-28.77", 10);
     // 10^400 mW is no number, but 4000 dBm is 3970 dBW
-    row("a power level beyond all powers", 3, {{"logPower", "4000"}}, {"logPowerUnit", 1},
-        "rescaleLogPower", {{"logPower", "3970.00"}});
-    row("an empty power level", 3, {}, {"logPowerUnit", 1}, "rescaleLogPower", {});
-    row("a power level that is a word", 3, {{"logPower", "abc"}}, {"logPowerUnit", 1},
-        "rescaleLogPower", {});
+    add("a power level beyond all powers", "logPower", 0, "4000", 1, "3970.00");
+    add("an empty power level", "logPower", 0, "", 1, "");
+    add("a power level that is a word", "logPower", 0, "abc", 1, "abc");
 
     // 20 lg(1000 / 775) = 2.2140; 20 lg(775000) = 117.7860
-    row("0 dBV in dBµV", 3, {{"logVoltage", "0"}}, {"logVoltageUnit", 1}, "rescaleLogVoltage",
-        {{"logVoltage", "120.00"}});
-    row("0 dBV in dBu", 10, {{"logVoltage", "0"}}, {"logVoltageUnit", 2}, "rescaleLogVoltage",
-        {{"logVoltage", "2.21"}});
-    row("120 dBµV in dBV", 3, {{"logVoltageUnit", 1}, {"logVoltage", "120"}}, {"logVoltageUnit", 0},
-        "rescaleLogVoltage", {{"logVoltage", "0.00"}});
-    row("120 dBµV in dBu", 0, {{"logVoltageUnit", 1}, {"logVoltage", "120"}}, {"logVoltageUnit", 2},
-        "rescaleLogVoltage", {{"logVoltage", "2.21"}});
-    row("0 dBu in dBV", 3, {{"logVoltageUnit", 2}, {"logVoltage", "0"}}, {"logVoltageUnit", 0},
-        "rescaleLogVoltage", {{"logVoltage", "-2.21"}});
-    row("0 dBu in dBµV", 3, {{"logVoltageUnit", 2}, {"logVoltage", "0"}}, {"logVoltageUnit", 1},
-        "rescaleLogVoltage", {{"logVoltage", "117.79"}});
-    row("a voltage level in an unknown unit is 0", 3, {{"logVoltage", "6"}}, {"logVoltageUnit", 7},
-        "rescaleLogVoltage", {{"logVoltage", "0.00"}});
-    row("a voltage level beyond all voltages is not shown", 3, {{"logVoltage", "7000"}},
-        {"logVoltageUnit", 1}, "rescaleLogVoltage", {{"logVoltage", ""}});
-    row("an empty voltage level", 3, {}, {"logVoltageUnit", 1}, "rescaleLogVoltage", {});
-    row("a voltage level that is a word", 3, {{"logVoltage", "abc"}}, {"logVoltageUnit", 1},
-        "rescaleLogVoltage", {});
+    add("0 dBV in dBµV", "logVoltage", 0, "0", 1, "120.00");
+    add("0 dBV in dBu", "logVoltage", 0, "0", 2, "2.21", 10);
+    add("120 dBµV in dBV", "logVoltage", 1, "120", 0, "0.00");
+    add("120 dBµV in dBu", "logVoltage", 1, "120", 2, "2.21", 0);
+    add("0 dBu in dBV", "logVoltage", 2, "0", 0, "-2.21");
+    add("0 dBu in dBµV", "logVoltage", 2, "0", 1, "117.79");
+    add("a voltage level in an unknown unit is 0", "logVoltage", 0, "6", 7, "0.00");
+    add("a voltage level beyond all voltages is not shown", "logVoltage", 0, "7000", 1, "");
+    add("an empty voltage level", "logVoltage", 0, "", 1, "");
+    add("a voltage level that is a word", "logVoltage", 0, "abc", 1, "abc");
 }
 
 void UnitConverterProfileTest::rescales()
 {
     QFETCH(int, places);
-    QFETCH(PropertyValues, given);
-    QFETCH(PropertyValues, unit);
-    QFETCH(QByteArray, slot);
-    QFETCH(PropertyValues, changes);
+    QFETCH(QByteArray, quantity);
+    QFETCH(int, from);
+    QFETCH(QString, before);
+    QFETCH(int, to);
+    QFETCH(QString, after);
 
     UnitConverterProfile profile;
     profile.setSignificantDigits(places);
-    setProperties(profile, given);
-    setProperties(profile, unit);
-    const QStringList expected = propertyLines(profile, changes);
+    setProperties(profile,
+                  values(QStringLiteral("logPower=7, linPower=7, logVoltage=7, linVoltage=7")));
+    const QByteArray unit = quantity + "Unit";
+    setProperties(profile, {{unit, from}, {quantity, before.toUtf8().constData()}, {unit, to}});
+    const QStringList expected = propertyLines(profile, {{quantity, after.toUtf8().constData()}});
+    const QByteArray slot = "rescale" + quantity.left(1).toUpper() + quantity.mid(1);
     QVERIFY(QMetaObject::invokeMethod(&profile, slot.constData()));
     QCOMPARE(propertyLines(profile), expected);
 }
@@ -178,15 +152,13 @@ void UnitConverterProfileTest::aUnitSetterOnlyStores()
 /// dBµV and thus 0 dBV.
 void UnitConverterProfileTest::thePreviousUnitFollows_data()
 {
-    QTest::addColumn<QString>("textBefore");
-    QTest::addColumn<bool>("rescaledBefore");
-
-    QTest::newRow("an empty field, rescaled") << QString() << true;
-    QTest::newRow("an empty field, not rescaled") << QString() << false;
-    QTest::newRow("a word, rescaled") << QStringLiteral("abc") << true;
-    QTest::newRow("a word, not rescaled") << QStringLiteral("abc") << false;
-    QTest::newRow("a number, rescaled") << QStringLiteral("0") << true;
-    QTest::newRow("the same text in the unit before") << QStringLiteral("120") << false;
+    columns<QString, bool>({"textBefore", "rescaledBefore"});
+    row("an empty field, rescaled", QString(), true);
+    row("an empty field, not rescaled", QString(), false);
+    row("a word, rescaled", "abc", true);
+    row("a word, not rescaled", "abc", false);
+    row("a number, rescaled", "0", true);
+    row("the same text in the unit before", "120", false);
 }
 
 void UnitConverterProfileTest::thePreviousUnitFollows()
@@ -211,18 +183,18 @@ void UnitConverterProfileTest::savesEveryKey()
     setProperties(profile, everythingChanged());
     SettingsFile file;
     profile.saveSettings(file.settings());
-    const QStringList expected{QStringLiteral("[UnitConverterProfile]"),
-                               QStringLiteral("impedance=75"),
-                               QStringLiteral("linPower=0.001"),
-                               QStringLiteral("linPowerUnit=1"),
-                               QStringLiteral("linVoltage=invalid input"),
-                               QStringLiteral("linVoltageUnit=1"),
-                               QStringLiteral("logPower=-30.00"),
-                               QStringLiteral("logPowerUnit=1"),
-                               QStringLiteral("logVoltage=abc"),
-                               QStringLiteral("logVoltageUnit=2"),
-                               QStringLiteral("voltageMode=2")};
-    QCOMPARE(file.lines(), expected);
+    QCOMPARE(file.lines(), lines(R"(
+        [UnitConverterProfile]
+        impedance=75
+        linPower=0.001
+        linPowerUnit=1
+        linVoltage=invalid input
+        linVoltageUnit=1
+        logPower=-30.00
+        logPowerUnit=1
+        logVoltage=abc
+        logVoltageUnit=2
+        voltageMode=2)"));
 }
 
 void UnitConverterProfileTest::loadsDefaults()

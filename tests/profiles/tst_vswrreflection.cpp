@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: MIT
 
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 #include "vswrconverterprofile.h"
+#include "words.h"
 
 #include <QTest>
 
 using namespace Dezimo;
 
 /// The five calculations of the reflection group. Every row starts with a 9 in each other field of
-/// the group and lists everything that differs afterwards, so an emptied field is seen as well.
+/// the group, so that an emptied field is seen as well.
 class VswrReflectionTest : public QObject
 {
     Q_OBJECT
@@ -33,53 +35,43 @@ private Q_SLOTS:
 
 namespace {
 
-const char *const kGroup[] = {"vswr", "r", "r2", "ar", "am"};
+QStringList group()
+{
+    return words("vswr r r2 ar am");
+}
 
 void addColumns()
 {
-    QTest::addColumn<int>("places");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<PropertyValues>("changes");
+    columns<int, QString, QString>({"places", "text", "after"});
 }
 
-void row(const char *tag, int places, const char *text, const PropertyValues &changes)
+/// @p after is what VSWR, reflection coefficient, its square, return loss and mismatch loss read.
+void add(const char *tag, const char *text, const char *after,
+         int places = ModuleProfile::kDefaultSignificantDigits)
 {
-    QTest::newRow(tag) << places << QString::fromUtf8(text) << changes;
-}
-
-/// The edited field reads "invalid input" and the rest of the group is empty.
-PropertyValues rejected(const char *edited)
-{
-    PropertyValues changes;
-    for (const char *name : kGroup)
-        changes.push_back({name, qstrcmp(name, edited) == 0 ? "invalid input" : ""});
-    return changes;
+    row(tag, places, text, after);
 }
 
 void fill(VswrConverterProfile &profile, const char *edited, const QString &text)
 {
-    for (const char *name : kGroup)
-        profile.setProperty(name, QStringLiteral("9"));
+    setProperties(profile, values(group(), QStringLiteral("9 | 9 | 9 | 9 | 9")));
     profile.setProperty(edited, text);
     // Powers and voltages are no business of the reflection group.
-    setProperties(profile, {{"pForward", "1"},
-                            {"pReflected", "2"},
-                            {"pAbsorbed", "3"},
-                            {"vForward", "4"},
-                            {"vReflected", "5"},
-                            {"vAbsorbed", "6"}});
+    setProperties(profile,
+                  values(words("pForward pReflected pAbsorbed vForward vReflected vAbsorbed"),
+                         QStringLiteral("1 | 2 | 3 | 4 | 5 | 6")));
 }
 
 void check(const char *edited, void (VswrConverterProfile::*calculate)())
 {
     QFETCH(int, places);
     QFETCH(QString, text);
-    QFETCH(PropertyValues, changes);
+    QFETCH(QString, after);
 
     VswrConverterProfile profile;
     profile.setSignificantDigits(places);
     fill(profile, edited, text);
-    const QStringList expected = propertyLines(profile, changes);
+    const QStringList expected = propertyLines(profile, values(group(), after));
     (profile.*calculate)();
     QCOMPARE(propertyLines(profile), expected);
 }
@@ -89,45 +81,36 @@ void check(const char *edited, void (VswrConverterProfile::*calculate)())
 void VswrReflectionTest::fromVswr_data()
 {
     addColumns();
-
     // (2 - 1) / (2 + 1) = 1/3; 1/9 = 11.11 %; -10 lg(8/9) = 0.5115
-    row("2 leaves the return loss empty", 3, "2",
-        {{"r", "0.333"}, {"r2", "11.1"}, {"ar", ""}, {"am", "0.51"}});
-    row("2 at ten digits", 10, "2",
-        {{"r", "0.3333333333"}, {"r2", "11.11111111"}, {"ar", ""}, {"am", "0.51"}});
-    row("2 at one digit", 0, "2", {{"r", "0.3"}, {"r2", "1E+01"}, {"ar", ""}, {"am", "0.51"}});
-    row("2:1 is 2", 3, "2:1", {{"r", "0.333"}, {"r2", "11.1"}, {"ar", ""}, {"am", "0.51"}});
-    row("2 : 1 is 2", 3, "2 : 1", {{"r", "0.333"}, {"r2", "11.1"}, {"ar", ""}, {"am", "0.51"}});
-    row("2 :1 is 2", 3, "2 :1", {{"r", "0.333"}, {"r2", "11.1"}, {"ar", ""}, {"am", "0.51"}});
+    add("2 leaves the return loss empty", "2", "2 | 0.333 | 11.1 |  | 0.51");
+    add("2 at ten digits", "2", "2 | 0.3333333333 | 11.11111111 |  | 0.51", 10);
+    add("2 at one digit", "2", "2 | 0.3 | 1E+01 |  | 0.51", 0);
+    add("2:1 is 2", "2:1", "2:1 | 0.333 | 11.1 |  | 0.51");
+    add("2 : 1 is 2", "2 : 1", "2 : 1 | 0.333 | 11.1 |  | 0.51");
+    add("2 :1 is 2", "2 :1", "2 :1 | 0.333 | 11.1 |  | 0.51");
     // 0.2; 4 %; -10 lg(0.96) = 0.1773
-    row("1.5", 3, "1.5", {{"r", "0.2"}, {"r2", "4"}, {"ar", ""}, {"am", "0.18"}});
+    add("1.5", "1.5", "1.5 | 0.2 | 4 |  | 0.18");
     // 999 / 1001 = 0.998001998; 99.60079880 %; -10 lg(0.003992012) = 23.988
-    row("a prefix is read: 1k is 1000", 10, "1k",
-        {{"r", "0.998001998"}, {"r2", "99.6007988"}, {"ar", ""}, {"am", "23.99"}});
+    add("a prefix is read: 1k is 1000", "1k", "1k | 0.998001998 | 99.6007988 |  | 23.99", 10);
 
-    row("1 is the only one with a return loss, which is infinite", 3, "1",
-        {{"r", "0"}, {"r2", "0"}, {"ar", "inf"}, {"am", "0.00"}});
-    row("1:1 is a match as well", 3, "1:1",
-        {{"r", "0"}, {"r2", "0"}, {"ar", "inf"}, {"am", "0.00"}});
+    add("1 is the only one with a return loss, which is infinite", "1", "1 | 0 | 0 | inf | 0.00");
+    add("1:1 is a match as well", "1:1", "1:1 | 0 | 0 | inf | 0.00");
     // 1e-13 / 2 = 5e-14; -20 lg(5e-14) = 266.02, in doubles 266.03
-    row("1e-13 above 1 counts as 1", 3, "1.0000000000001",
-        {{"r", "5E-14"}, {"r2", "2.5E-25"}, {"ar", "266.03"}, {"am", "0.00"}});
-    row("1e-11 above 1 does not", 3, "1.00000000001",
-        {{"r", "5E-12"}, {"r2", "2.5E-21"}, {"ar", ""}, {"am", "0.00"}});
-    row("an infinite VSWR has no number", 3, "INF",
-        {{"r", "NAN"}, {"r2", "NAN"}, {"ar", ""}, {"am", "nan"}});
+    add("1e-13 above 1 counts as 1", "1.0000000000001",
+        "1.0000000000001 | 5E-14 | 2.5E-25 | 266.03 | 0.00");
+    add("1e-11 above 1 does not", "1.00000000001", "1.00000000001 | 5E-12 | 2.5E-21 |  | 0.00");
+    add("an infinite VSWR has no number", "INF", "INF | NAN | NAN |  | nan");
 
-    row("below 1 is invalid", 3, "0.5", rejected("vswr"));
-    row("just below 1 is invalid", 3, "0.9999999999999", rejected("vswr"));
-    row("below zero is invalid", 3, "-2", rejected("vswr"));
-    row("a word is invalid", 3, "abc", rejected("vswr"));
-    row("no number is invalid", 3, "NAN", rejected("vswr"));
-    row("a lone :1 is invalid", 3, ":1", rejected("vswr"));
-    row("a blank is not empty, but invalid", 3, " ", rejected("vswr"));
-    row("every :1 is removed, so 2:10 is 20", 3, "2:10",
-        {{"r", "0.905"}, {"r2", "81.9"}, {"ar", ""}, {"am", "7.41"}});
-    row("1:2 is invalid", 3, "1:2", rejected("vswr"));
-    row("an empty field does nothing", 3, "", {});
+    add("below 1 is invalid", "0.5", "invalid input |  |  |  | ");
+    add("just below 1 is invalid", "0.9999999999999", "invalid input |  |  |  | ");
+    add("below zero is invalid", "-2", "invalid input |  |  |  | ");
+    add("a word is invalid", "abc", "invalid input |  |  |  | ");
+    add("no number is invalid", "NAN", "invalid input |  |  |  | ");
+    add("a lone :1 is invalid", ":1", "invalid input |  |  |  | ");
+    add("a blank is not empty, but invalid", " ", "invalid input |  |  |  | ");
+    add("every :1 is removed, so 2:10 is 20", "2:10", "2:10 | 0.905 | 81.9 |  | 7.41");
+    add("1:2 is invalid", "1:2", "invalid input |  |  |  | ");
+    add("an empty field does nothing", "", " | 9 | 9 | 9 | 9");
 }
 
 void VswrReflectionTest::fromVswr()
@@ -146,37 +129,29 @@ void VswrReflectionTest::readsALongVswrAtOnce()
 void VswrReflectionTest::fromR_data()
 {
     addColumns();
-
     // 1.5 / 0.5 = 3; 25 %; -20 lg(0.5) = 6.0206; -10 lg(0.75) = 1.2494
-    row("0.5", 3, "0.5", {{"vswr", "3"}, {"r2", "25"}, {"ar", "6.02"}, {"am", "1.25"}});
+    add("0.5", "0.5", "3 | 0.5 | 25 | 6.02 | 1.25");
     // 1.3 / 0.7 = 1.857142857; 9 %; 10.4576; 0.4096
-    row("0.3 at ten digits", 10, "0.3",
-        {{"vswr", "1.857142857"}, {"r2", "9"}, {"ar", "10.46"}, {"am", "0.41"}});
-    row("0.3 at one digit", 0, "0.3",
-        {{"vswr", "2"}, {"r2", "9"}, {"ar", "10.46"}, {"am", "0.41"}});
-    row("a prefix is read: 300 milli", 3, "300m",
-        {{"vswr", "1.86"}, {"r2", "9"}, {"ar", "10.46"}, {"am", "0.41"}});
-    row("no reflection has no return loss", 3, "0",
-        {{"vswr", "1"}, {"r2", "0"}, {"ar", ""}, {"am", "0.00"}});
-    row("total reflection", 3, "1",
-        {{"vswr", "INF"}, {"r2", "100"}, {"ar", "0.00"}, {"am", "inf"}});
+    add("0.3 at ten digits", "0.3", "1.857142857 | 0.3 | 9 | 10.46 | 0.41", 10);
+    add("0.3 at one digit", "0.3", "2 | 0.3 | 9 | 10.46 | 0.41", 0);
+    add("a prefix is read: 300 milli", "300m", "1.86 | 300m | 9 | 10.46 | 0.41");
+    add("no reflection has no return loss", "0", "1 | 0 | 0 |  | 0.00");
+    add("total reflection", "1", "INF | 1 | 100 | 0.00 | inf");
     // 2.5 / -0.5 = -5; 225 %; -20 lg(1.5) = -3.5218
-    row("above 1 it goes on", 3, "1.5",
-        {{"vswr", "-5"}, {"r2", "225"}, {"ar", "-3.52"}, {"am", "nan"}});
+    add("above 1 it goes on", "1.5", "-5 | 1.5 | 225 | -3.52 | nan");
     // 51 / -49 = -1.0408; -20 lg(50) = -33.979
-    row("50 is accepted", 10, "50",
-        {{"vswr", "-1.040816327"}, {"r2", "250000"}, {"ar", "-33.98"}, {"am", "nan"}});
+    add("50 is accepted", "50", "-1.040816327 | 50 | 250000 | -33.98 | nan", 10);
     // 101 / -99 = -1.0202
-    row("100 is the last one accepted and has no mismatch loss", 3, "100",
-        {{"vswr", "-1.02"}, {"r2", "1E+06"}, {"ar", "-40.00"}, {"am", ""}});
+    add("100 is the last one accepted and has no mismatch loss", "100",
+        "-1.02 | 100 | 1E+06 | -40.00 | ");
 
-    row("101 is invalid", 3, "101", rejected("r"));
-    row("just above 100 is invalid", 3, "100.0001", rejected("r"));
-    row("below zero is invalid", 3, "-0.1", rejected("r"));
-    row("a word is invalid", 3, "abc", rejected("r"));
-    row("infinity is invalid", 3, "INF", rejected("r"));
-    row("no number is invalid", 3, "NAN", rejected("r"));
-    row("an empty field does nothing", 3, "", {});
+    add("101 is invalid", "101", " | invalid input |  |  | ");
+    add("just above 100 is invalid", "100.0001", " | invalid input |  |  | ");
+    add("below zero is invalid", "-0.1", " | invalid input |  |  | ");
+    add("a word is invalid", "abc", " | invalid input |  |  | ");
+    add("infinity is invalid", "INF", " | invalid input |  |  | ");
+    add("no number is invalid", "NAN", " | invalid input |  |  | ");
+    add("an empty field does nothing", "", "9 |  | 9 | 9 | 9");
 }
 
 void VswrReflectionTest::fromR()
@@ -187,22 +162,18 @@ void VswrReflectionTest::fromR()
 void VswrReflectionTest::fromR2_data()
 {
     addColumns();
-
-    row("25 %", 3, "25", {{"r", "0.5"}, {"vswr", "3"}, {"ar", "6.02"}, {"am", "1.25"}});
+    add("25 %", "25", "3 | 0.5 | 25 | 6.02 | 1.25");
     // sqrt(0.1) = 0.316227766; 1.316227766 / 0.683772234 = 1.924950591; -10 lg(0.9) = 0.4576
-    row("10 % at ten digits", 10, "10",
-        {{"r", "0.316227766"}, {"vswr", "1.924950591"}, {"ar", "10.00"}, {"am", "0.46"}});
-    row("10 % at three digits", 3, "10",
-        {{"r", "0.316"}, {"vswr", "1.92"}, {"ar", "10.00"}, {"am", "0.46"}});
-    row("10 % at one digit", 0, "10",
-        {{"r", "0.3"}, {"vswr", "2"}, {"ar", "10.00"}, {"am", "0.46"}});
-    row("0 % has no return loss", 3, "0", {{"r", "0"}, {"vswr", "1"}, {"ar", ""}, {"am", "0.00"}});
-    row("100 %", 3, "100", {{"r", "1"}, {"vswr", "INF"}, {"ar", "0.00"}, {"am", "inf"}});
+    add("10 % at ten digits", "10", "1.924950591 | 0.316227766 | 10 | 10.00 | 0.46", 10);
+    add("10 % at three digits", "10", "1.92 | 0.316 | 10 | 10.00 | 0.46");
+    add("10 % at one digit", "10", "2 | 0.3 | 10 | 10.00 | 0.46", 0);
+    add("0 % has no return loss", "0", "1 | 0 | 0 |  | 0.00");
+    add("100 %", "100", "INF | 1 | 100 | 0.00 | inf");
 
-    row("above 100 % is invalid", 3, "100.001", rejected("r2"));
-    row("below zero is invalid", 3, "-1", rejected("r2"));
-    row("a word is invalid", 3, "10%", rejected("r2"));
-    row("an empty field does nothing", 3, "", {});
+    add("above 100 % is invalid", "100.001", " |  | invalid input |  | ");
+    add("below zero is invalid", "-1", " |  | invalid input |  | ");
+    add("a word is invalid", "10%", " |  | invalid input |  | ");
+    add("an empty field does nothing", "", "9 | 9 |  | 9 | 9");
 }
 
 void VswrReflectionTest::fromR2()
@@ -213,23 +184,18 @@ void VswrReflectionTest::fromR2()
 void VswrReflectionTest::fromAr_data()
 {
     addColumns();
-
     // 10^-1 = 0.1; 1.1 / 0.9 = 1.2222; 1 %; -10 lg(0.99) = 0.0436
-    row("20 dB", 3, "20", {{"r", "0.1"}, {"vswr", "1.22"}, {"r2", "1"}, {"am", "0.04"}});
+    add("20 dB", "20", "1.22 | 0.1 | 1 | 20 | 0.04");
     // 10^-0.3 = 0.5011872336; 1.5011872336 / 0.4988127664; 25.11886432 %; 1.2563
-    row("6 dB at ten digits", 10, "6",
-        {{"r", "0.5011872336"}, {"vswr", "3.009520475"}, {"r2", "25.11886432"}, {"am", "1.26"}});
-    row("6 dB at one digit", 0, "6",
-        {{"r", "0.5"}, {"vswr", "3"}, {"r2", "3E+01"}, {"am", "1.26"}});
-    row("0 dB is total reflection", 3, "0",
-        {{"r", "1"}, {"vswr", "INF"}, {"r2", "100"}, {"am", "inf"}});
-    row("an infinite return loss is a match", 3, "INF",
-        {{"r", "0"}, {"vswr", "1"}, {"r2", "0"}, {"am", "0.00"}});
+    add("6 dB at ten digits", "6", "3.009520475 | 0.5011872336 | 25.11886432 | 6 | 1.26", 10);
+    add("6 dB at one digit", "6", "3 | 0.5 | 3E+01 | 6 | 1.26", 0);
+    add("0 dB is total reflection", "0", "INF | 1 | 100 | 0 | inf");
+    add("an infinite return loss is a match", "INF", "1 | 0 | 0 | INF | 0.00");
 
-    row("below zero is invalid", 3, "-0.01", rejected("ar"));
-    row("a word is invalid", 3, "abc", rejected("ar"));
-    row("the text inf that a match shows is invalid as input", 3, "inf", rejected("ar"));
-    row("an empty field does nothing", 3, "", {});
+    add("below zero is invalid", "-0.01", " |  |  | invalid input | ");
+    add("a word is invalid", "abc", " |  |  | invalid input | ");
+    add("the text inf that a match shows is invalid as input", "inf", " |  |  | invalid input | ");
+    add("an empty field does nothing", "", "9 | 9 | 9 |  | 9");
 }
 
 void VswrReflectionTest::fromAr()
@@ -240,23 +206,17 @@ void VswrReflectionTest::fromAr()
 void VswrReflectionTest::fromAm_data()
 {
     addColumns();
-
     // sqrt(1 - 10^-0.1) = 0.4535104908; 1.4535104908 / 0.5464895092; 20.56717653 %; 6.8683
-    row("1 dB at ten digits", 10, "1",
-        {{"r", "0.4535104908"}, {"vswr", "2.659722586"}, {"r2", "20.56717653"}, {"ar", "6.87"}});
-    row("1 dB at three digits", 3, "1",
-        {{"r", "0.454"}, {"vswr", "2.66"}, {"r2", "20.6"}, {"ar", "6.87"}});
-    row("1 dB at one digit", 0, "1",
-        {{"r", "0.5"}, {"vswr", "3"}, {"r2", "2E+01"}, {"ar", "6.87"}});
-    row("0 dB is a match without a return loss", 3, "0",
-        {{"r", "0"}, {"vswr", "1"}, {"r2", "0"}, {"ar", ""}});
-    row("an infinite mismatch loss is total reflection", 3, "INF",
-        {{"r", "1"}, {"vswr", "INF"}, {"r2", "100"}, {"ar", "0.00"}});
+    add("1 dB at ten digits", "1", "2.659722586 | 0.4535104908 | 20.56717653 | 6.87 | 1", 10);
+    add("1 dB at three digits", "1", "2.66 | 0.454 | 20.6 | 6.87 | 1");
+    add("1 dB at one digit", "1", "3 | 0.5 | 2E+01 | 6.87 | 1", 0);
+    add("0 dB is a match without a return loss", "0", "1 | 0 | 0 |  | 0");
+    add("an infinite mismatch loss is total reflection", "INF", "INF | 1 | 100 | 0.00 | INF");
 
-    row("below zero is invalid", 3, "-1", rejected("am"));
-    row("a word is invalid", 3, "abc", rejected("am"));
-    row("the text nan is invalid as input", 3, "nan", rejected("am"));
-    row("an empty field does nothing", 3, "", {});
+    add("below zero is invalid", "-1", " |  |  |  | invalid input");
+    add("a word is invalid", "abc", " |  |  |  | invalid input");
+    add("the text nan is invalid as input", "nan", " |  |  |  | invalid input");
+    add("an empty field does nothing", "", "9 | 9 | 9 | 9 | ");
 }
 
 void VswrReflectionTest::fromAm()
@@ -266,25 +226,17 @@ void VswrReflectionTest::fromAm()
 
 void VswrReflectionTest::writesInOrder_data()
 {
-    QTest::addColumn<QString>("edited");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("order");
-
-    const auto order = [](const char *tag, const char *edited, const char *text,
-                          const char *names) {
-        QTest::newRow(tag) << QString::fromLatin1(edited) << QString::fromLatin1(text)
-                           << QString::fromLatin1(names);
-    };
-    order("VSWR", "vswr", "2", "r ar r2 am");
-    order("reflection coefficient", "r", "0.5", "vswr r2 ar am");
-    order("its square", "r2", "25", "r vswr ar am");
-    order("return loss", "ar", "6", "r vswr r2 am");
-    order("mismatch loss", "am", "1", "r vswr r2 ar");
-    order("an invalid VSWR", "vswr", "x", "vswr r r2 ar am");
-    order("an invalid reflection coefficient", "r", "x", "r vswr r2 ar am");
-    order("an invalid square", "r2", "x", "r2 vswr r ar am");
-    order("an invalid return loss", "ar", "x", "ar vswr r r2 am");
-    order("an invalid mismatch loss", "am", "x", "am vswr r r2 ar");
+    columns<QString, QString, QString>({"edited", "text", "order"});
+    row("VSWR", "vswr", "2", "r ar r2 am");
+    row("reflection coefficient", "r", "0.5", "vswr r2 ar am");
+    row("its square", "r2", "25", "r vswr ar am");
+    row("return loss", "ar", "6", "r vswr r2 am");
+    row("mismatch loss", "am", "1", "r vswr r2 ar");
+    row("an invalid VSWR", "vswr", "x", "vswr r r2 ar am");
+    row("an invalid reflection coefficient", "r", "x", "r vswr r2 ar am");
+    row("an invalid square", "r2", "x", "r2 vswr r ar am");
+    row("an invalid return loss", "ar", "x", "ar vswr r r2 am");
+    row("an invalid mismatch loss", "am", "x", "am vswr r r2 ar");
 }
 
 void VswrReflectionTest::writesInOrder()

@@ -46,13 +46,24 @@ QStringList methodNames(const QMetaObject &type, QMetaMethod::MethodType kind)
 PropertyValues values(const QString &text)
 {
     PropertyValues found;
-    const QStringList parts = text.split(QStringLiteral(", "));
+    const QStringList parts = text.split(QStringLiteral(", "), Qt::SkipEmptyParts);
     for (const QString &part : parts) {
         const int equals = part.indexOf(QLatin1Char('='));
         if (equals <= 0)
             qFatal("\"%s\" is no name=value", qPrintable(part));
         found.push_back({part.left(equals).toLatin1(), part.mid(equals + 1).toUtf8().constData()});
     }
+    return found;
+}
+
+PropertyValues values(const QStringList &names, const QString &texts)
+{
+    PropertyValues found;
+    const QStringList parts = texts.split(QStringLiteral(" | "));
+    if (parts.size() > names.size())
+        qFatal("\"%s\" has more parts than names", qPrintable(texts));
+    for (int i = 0; i < parts.size(); ++i)
+        found.push_back({names.at(i).toLatin1(), parts.at(i).toUtf8().constData()});
     return found;
 }
 

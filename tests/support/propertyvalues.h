@@ -31,6 +31,9 @@ Q_DECLARE_METATYPE(PropertyValues)
 /// Reads "name=value, name=value", so that a list takes no more than a part of a line.
 PropertyValues values(const QString &text);
 
+/// The properties @p names with the texts that stand between the bars of "a | b | ", in this order.
+PropertyValues values(const QStringList &names, const QString &texts);
+
 /// The properties that the class of @p object and its bases declare, in the order of declaration,
 /// without QObject's own.
 std::vector<QMetaProperty> declaredProperties(const QObject &object);

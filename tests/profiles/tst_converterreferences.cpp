@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "shownnumber.h"
+#include "table.h"
 #include "testmain.h"
 #include "unitconverterprofile.h"
 #include "vswrconverterprofile.h"
@@ -105,13 +106,8 @@ void compareAtImpedance(const char *ohm, const Levels &reference)
 
 void ConverterReferencesTest::reflection_data()
 {
-    QTest::addColumn<QByteArray>("edited");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("r");
-    QTest::addColumn<double>("vswr");
-    QTest::addColumn<double>("percent");
-    QTest::addColumn<double>("returnLoss");
-    QTest::addColumn<double>("mismatchLoss");
+    columns<QByteArray, QString, double, double, double, double, double>(
+        {"edited", "text", "r", "vswr", "percent", "returnLoss", "mismatchLoss"});
 
     const auto row = [](const char *edited, const char *text, double r, double vswr, double percent,
                         double returnLoss, double mismatchLoss) {
@@ -184,12 +180,9 @@ void ConverterReferencesTest::reflection()
 
 void ConverterReferencesTest::levels_data()
 {
-    QTest::addColumn<double>("dbm");
-    QTest::addColumn<double>("milliwatt");
-    QTest::addColumn<double>("millivoltAt50");
-    QTest::addColumn<double>("dbmicrovoltAt50");
-    QTest::addColumn<double>("millivoltAt75");
-    QTest::addColumn<double>("dbmicrovoltAt75");
+    columns<double, double, double, double, double, double>({"dbm", "milliwatt", "millivoltAt50",
+                                                             "dbmicrovoltAt50", "millivoltAt75",
+                                                             "dbmicrovoltAt75"});
 
     const auto row = [](const char *dbm, double milliwatt, double millivoltAt50,
                         double dbmicrovoltAt50, double millivoltAt75, double dbmicrovoltAt75) {

@@ -6,6 +6,7 @@
 #include "mainprofile.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
 #include "voltagesteps.h"
@@ -135,10 +136,7 @@ void ExpressionStorageTest::missingKeysAreDefaults()
 
 void ExpressionStorageTest::malformedKeysAreDefaults_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QString>("property");
-    QTest::addColumn<QVariant>("value");
+    columns<QString, QVariant, QString, QVariant>({"key", "stored", "property", "value"});
 
     const auto row = [](const char *tag, const char *key, const QVariant &stored,
                         const char *property, const QVariant &value) {
@@ -181,13 +179,9 @@ void ExpressionStorageTest::malformedKeysAreDefaults()
 
 void ExpressionStorageTest::loadsInOrderAndSignalsEachChangeOnce_data()
 {
-    QTest::addColumn<bool>("isVoltage");
-    QTest::addColumn<QStringList>("order");
-
-    QTest::newRow("the dBm calculator")
-        << false << words("input output outputUnit mode validUnits");
-    QTest::newRow("the voltage calculator")
-        << true << words("input output outputUnit mode phase validUnits");
+    columns<bool, QStringList>({"isVoltage", "order"});
+    row("the dBm calculator", false, words("input output outputUnit mode validUnits"));
+    row("the voltage calculator", true, words("input output outputUnit mode phase validUnits"));
 }
 
 /// The valid units have a key each and are announced once, after all others.

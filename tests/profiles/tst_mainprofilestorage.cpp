@@ -5,6 +5,7 @@
 #include "mainprofile.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "voltagecalculatorprofile.h"
 #include "words.h"
@@ -232,12 +233,11 @@ void MainProfileStorageTest::theDefaultsStoreResetsTheModules()
 
 void MainProfileStorageTest::whatIsNoStoreReadsAsDefaults_data()
 {
-    QTest::addColumn<QByteArray>("text");
-
-    QTest::newRow("an empty file") << QByteArray();
-    QTest::newRow("prose") << QByteArray("It was a dark and stormy night.\n");
-    QTest::newRow("bytes") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe[[[===", 24);
-    QTest::newRow("another program's groups") << QByteArray("[General]\np1=5\n[Other]\ninput=7\n");
+    columns<QByteArray>({"text"});
+    row("an empty file", QByteArray());
+    row("prose", QByteArray("It was a dark and stormy night.\n"));
+    row("bytes", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe[[[===", 24));
+    row("another program's groups", QByteArray("[General]\np1=5\n[Other]\ninput=7\n"));
 }
 
 void MainProfileStorageTest::whatIsNoStoreReadsAsDefaults()
@@ -254,8 +254,7 @@ void MainProfileStorageTest::whatIsNoStoreReadsAsDefaults()
 
 void MainProfileStorageTest::oneUnusableKeyTakesItsDefaultAlone_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QByteArray>("line");
+    columns<QString, QByteArray>({"key", "line"});
 
     SettingsFile file(savedChanges());
     const QStringList keys = file.settings().allKeys();
@@ -290,9 +289,7 @@ void MainProfileStorageTest::oneUnusableKeyTakesItsDefaultAlone()
 /// result may also be none at all, which comes after those that the selector shows.
 void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<int>("expected");
+    columns<QString, int, int>({"key", "stored", "expected"});
 
     const std::pair<const char *, int> selectors[] = {
         {"DbmCalculatorProfile/outputUnit", 6},     {"DbmCalculatorProfile/mode", 2},
@@ -335,9 +332,7 @@ void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault()
 
 void MainProfileStorageTest::readsTheWindowGroup_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<QVariant>("expected");
+    columns<QByteArray, QByteArray, QVariant>({"line", "property", "expected"});
 
     const auto row = [](const char *tag, const char *line, const QVariant &expected) {
         QTest::newRow(tag) << QByteArray(line) << QByteArray(line).split('=').first() << expected;
@@ -384,11 +379,9 @@ void MainProfileStorageTest::readsTheWindowGroup()
 
 void MainProfileStorageTest::longTextsAreKeptWhileAFieldHoldsThem_data()
 {
-    QTest::addColumn<int>("length");
-    QTest::addColumn<bool>("isKept");
-
-    QTest::newRow("what a line edit holds") << 32767 << true;
-    QTest::newRow("one character more") << 32768 << false;
+    columns<int, bool>({"length", "isKept"});
+    row("what a line edit holds", 32767, true);
+    row("one character more", 32768, false);
 }
 
 void MainProfileStorageTest::longTextsAreKeptWhileAFieldHoldsThem()

@@ -4,6 +4,7 @@
 #include "everyprofile.h"
 #include "mainprofile.h"
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QMetaMethod>
@@ -40,8 +41,7 @@ private:
 
 void addProperties()
 {
-    QTest::addColumn<int>("profileIndex");
-    QTest::addColumn<QByteArray>("name");
+    columns<int, QByteArray>({"profileIndex", "name"});
 
     Profiles profiles;
     for (int i = 0; i < profiles.count(); ++i) {
@@ -105,11 +105,11 @@ void ProfilePropertiesTest::settersSignalOnce()
 
 void ProfilePropertiesTest::everySignalAnnouncesAProperty_data()
 {
-    QTest::addColumn<int>("profileIndex");
+    columns<int>({"profileIndex"});
 
     Profiles profiles;
     for (int i = 0; i < profiles.count(); ++i)
-        QTest::newRow(qPrintable(profiles.at(i).group())) << i;
+        row(qPrintable(profiles.at(i).group()), i);
 }
 
 void ProfilePropertiesTest::everySignalAnnouncesAProperty()

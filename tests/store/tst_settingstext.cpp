@@ -6,6 +6,7 @@
 #include "mainprofile.h"
 #include "settingsfile.h"
 #include "settingstext.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -60,7 +61,7 @@ private Q_SLOTS:
 
 void SettingsTextTest::keepsHarmlessText_data()
 {
-    QTest::addColumn<QByteArray>("text");
+    columns<QByteArray>({"text"});
 
     const auto row = [](const char *tag, const char *text) {
         QTest::newRow(tag) << QByteArray(text);
@@ -99,7 +100,7 @@ void SettingsTextTest::keepsHarmlessText()
 
 void SettingsTextTest::dropsAHarmfulLine_data()
 {
-    QTest::addColumn<QByteArray>("line");
+    columns<QByteArray>({"line"});
 
     const auto row = [](const char *tag, const char *line) {
         QTest::newRow(tag) << QByteArray(line);
@@ -144,8 +145,7 @@ void SettingsTextTest::dropsAHarmfulLine()
 
 void SettingsTextTest::findsTheEndOfALine_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("harmless");
+    columns<QByteArray, QByteArray>({"text", "harmless"});
 
     const auto row = [](const char *tag, const char *text, const char *harmless) {
         QTest::newRow(tag) << QByteArray(text) << QByteArray(harmless);
@@ -188,8 +188,7 @@ void SettingsTextTest::boundsTheWhole()
 
 void SettingsTextTest::keepsNamedGroupsOnly_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("harmless");
+    columns<QByteArray, QByteArray>({"text", "harmless"});
 
     const auto row = [](const char *tag, const char *text, const char *harmless) {
         QTest::newRow(tag) << QByteArray(text) << QByteArray(harmless);
@@ -262,20 +261,18 @@ void SettingsTextTest::leavesNothingPacked()
 
 void SettingsTextTest::arranges_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("arranged");
+    columns<QByteArray, QByteArray>({"text", "arranged"});
 
     const QByteArray two = "[A]\nx=1\ny=2\n\n[B]\nz=3\n";
-    QTest::newRow("what Linux writes") << two << two;
-    QTest::newRow("line ends of Windows")
-        << QByteArray("[A]\r\nx=1\r\ny=2\r\n\r\n[B]\r\nz=3\r\n") << two;
-    QTest::newRow("groups in another order") << QByteArray("[B]\nz=3\n\n[A]\nx=1\ny=2\n") << two;
-    QTest::newRow("keys in another order") << QByteArray("[A]\ny=2\nx=1\n\n[B]\nz=3\n") << two;
-    QTest::newRow("a key that begins as another one")
-        << QByteArray("[A]\np1=2\np=1\npDb=3\n") << QByteArray("[A]\np=1\np1=2\npDb=3\n");
-    QTest::newRow("equals signs and brackets in a value")
-        << QByteArray("[A]\nx=\"[B]=1=2\"\n") << QByteArray("[A]\nx=\"[B]=1=2\"\n");
-    QTest::newRow("nothing") << QByteArray() << QByteArray();
+    row("what Linux writes", two, two);
+    row("line ends of Windows", QByteArray("[A]\r\nx=1\r\ny=2\r\n\r\n[B]\r\nz=3\r\n"), two);
+    row("groups in another order", QByteArray("[B]\nz=3\n\n[A]\nx=1\ny=2\n"), two);
+    row("keys in another order", QByteArray("[A]\ny=2\nx=1\n\n[B]\nz=3\n"), two);
+    row("a key that begins as another one", QByteArray("[A]\np1=2\np=1\npDb=3\n"),
+        QByteArray("[A]\np=1\np1=2\npDb=3\n"));
+    row("equals signs and brackets in a value", QByteArray("[A]\nx=\"[B]=1=2\"\n"),
+        QByteArray("[A]\nx=\"[B]=1=2\"\n"));
+    row("nothing", QByteArray(), QByteArray());
 }
 
 void SettingsTextTest::arranges()

@@ -5,6 +5,7 @@
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "storedkeys.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -57,9 +58,7 @@ QVariant text(const char *value)
 
 void addColumns()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QVariant>("defaultValue");
-    QTest::addColumn<QVariant>("expected");
+    columns<QVariant, QVariant, QVariant>({"stored", "defaultValue", "expected"});
 }
 
 } // namespace
@@ -223,22 +222,19 @@ void StoredKeysTest::aMissingKeyIsTheDefault()
 
 void StoredKeysTest::textsComeBackUnchanged_data()
 {
-    QTest::addColumn<QString>("typed");
-
-    QTest::newRow("nothing") << QString();
-    QTest::newRow("blanks") << QStringLiteral("  ");
-    QTest::newRow("a comma") << QStringLiteral("1,5");
-    QTest::newRow("a semicolon and a sharp") << QStringLiteral("1;5 #");
-    QTest::newRow("quotes and backslashes") << QStringLiteral("\"1\\x35\\");
-    QTest::newRow("an equals sign and brackets") << QStringLiteral("[a]=b");
-    QTest::newRow("a point in words") << QStringLiteral("@Point(1 2)");
-    QTest::newRow("no value in words") << QStringLiteral("@Invalid()");
-    QTest::newRow("line breaks and tabs") << QStringLiteral("1\r\n\t2");
-    QTest::newRow("letters beyond Latin-1")
-        << QStringLiteral("1mW\u22122\u00B5W \u03A9 \U0001F600");
-    QTest::newRow("a zero character")
-        << QStringLiteral("1") + QChar(QChar::Null) + QLatin1Char('2');
-    QTest::newRow("percent signs") << QStringLiteral("%1 %20");
+    columns<QString>({"typed"});
+    row("nothing", QString());
+    row("blanks", "  ");
+    row("a comma", "1,5");
+    row("a semicolon and a sharp", "1;5 #");
+    row("quotes and backslashes", "\"1\\x35\\");
+    row("an equals sign and brackets", "[a]=b");
+    row("a point in words", "@Point(1 2)");
+    row("no value in words", "@Invalid()");
+    row("line breaks and tabs", "1\r\n\t2");
+    row("letters beyond Latin-1", "1mW\u22122\u00B5W \u03A9 \U0001F600");
+    row("a zero character", QStringLiteral("1") + QChar(QChar::Null) + QLatin1Char('2'));
+    row("percent signs", "%1 %20");
 }
 
 void StoredKeysTest::textsComeBackUnchanged()
@@ -255,12 +251,11 @@ void StoredKeysTest::textsComeBackUnchanged()
 
 void StoredKeysTest::numbersComeBackUnchanged_data()
 {
-    QTest::addColumn<double>("degrees");
-
-    QTest::newRow("a third") << 1.0 / 3.0;
-    QTest::newRow("the last digit") << 359.99999999999994;
-    QTest::newRow("a tiny one") << -4.9406564584124654e-324;
-    QTest::newRow("zero") << 0.0;
+    columns<double>({"degrees"});
+    row("a third", 1.0 / 3.0);
+    row("the last digit", 359.99999999999994);
+    row("a tiny one", -4.9406564584124654e-324);
+    row("zero", 0.0);
 }
 
 void StoredKeysTest::numbersComeBackUnchanged()
@@ -313,13 +308,11 @@ void StoredKeysTest::loadsRowsInOrder()
 
 void StoredKeysTest::aNumberOutsideTheRangeIsMalformed_data()
 {
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<int>("expected");
-
-    QTest::newRow("below the range") << QByteArray("-3") << 1;
-    QTest::newRow("the lower end") << QByteArray("-2") << -2;
-    QTest::newRow("the upper end") << QByteArray("5") << 5;
-    QTest::newRow("beyond the range") << QByteArray("6") << 1;
+    columns<QByteArray, int>({"stored", "expected"});
+    row("below the range", QByteArray("-3"), 1);
+    row("the lower end", QByteArray("-2"), -2);
+    row("the upper end", QByteArray("5"), 5);
+    row("beyond the range", QByteArray("6"), 1);
 }
 
 void StoredKeysTest::aNumberOutsideTheRangeIsMalformed()
@@ -337,15 +330,13 @@ void StoredKeysTest::aNumberOutsideTheRangeIsMalformed()
 
 void StoredKeysTest::aSizeWithASideOutsideTheRangeIsMalformed_data()
 {
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QSize>("expected");
-
-    QTest::newRow("both sides at the upper end") << QByteArray("@Size(9 9)") << QSize(9, 9);
-    QTest::newRow("both sides at the lower end") << QByteArray("@Size(2 2)") << QSize(2, 2);
-    QTest::newRow("too wide") << QByteArray("@Size(10 5)") << QSize(3, 4);
-    QTest::newRow("too high") << QByteArray("@Size(5 10)") << QSize(3, 4);
-    QTest::newRow("too narrow") << QByteArray("@Size(1 5)") << QSize(3, 4);
-    QTest::newRow("too low") << QByteArray("@Size(5 1)") << QSize(3, 4);
+    columns<QByteArray, QSize>({"stored", "expected"});
+    row("both sides at the upper end", QByteArray("@Size(9 9)"), QSize(9, 9));
+    row("both sides at the lower end", QByteArray("@Size(2 2)"), QSize(2, 2));
+    row("too wide", QByteArray("@Size(10 5)"), QSize(3, 4));
+    row("too high", QByteArray("@Size(5 10)"), QSize(3, 4));
+    row("too narrow", QByteArray("@Size(1 5)"), QSize(3, 4));
+    row("too low", QByteArray("@Size(5 1)"), QSize(3, 4));
 }
 
 void StoredKeysTest::aSizeWithASideOutsideTheRangeIsMalformed()

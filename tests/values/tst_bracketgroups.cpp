@@ -3,6 +3,7 @@
 
 #include "bracketgroups.h"
 #include "dbmcalculatorprofile.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -88,9 +89,7 @@ QString nested(int depth, const char *opening, const char *value)
 
 void BracketGroupsTest::evaluatesInOrder_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("evaluated");
-    QTest::addColumn<QString>("result");
+    columns<QString, QStringList, QString>({"text", "evaluated", "result"});
 
     const auto row = [](const char *tag, const char *text, const QStringList &evaluated,
                         const char *result) {
@@ -140,8 +139,7 @@ void BracketGroupsTest::evaluatesInOrder()
 
 void BracketGroupsTest::defects_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("error");
+    columns<QString, QString>({"text", "error"});
 
     const auto row = [](const char *tag, const char *text, const char *error) {
         QTest::newRow(tag) << QString::fromLatin1(text) << QString::fromLatin1(error);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "expressiontext.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -22,8 +23,7 @@ private Q_SLOTS:
 
 void ExpressionTextTest::cleaned_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("text");
+    columns<QString, QString>({"typed", "text"});
 
     const auto row = [](const char *tag, const char *typed, const char *text) {
         QTest::newRow(tag) << QString::fromUtf8(typed) << QString::fromUtf8(text);
@@ -57,8 +57,7 @@ void ExpressionTextTest::cleaned()
 
 void ExpressionTextTest::operatorPositions_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVector<int>>("positions");
+    columns<QString, QVector<int>>({"text", "positions"});
 
     const auto row = [](const char *tag, const char *text, const QVector<int> &positions) {
         QTest::newRow(tag) << QString::fromLatin1(text) << positions;

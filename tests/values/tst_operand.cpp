@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "operand.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -39,9 +40,7 @@ const ExpressionUnits &lengths()
 
 void OperandTest::parses_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("unit");
+    columns<QString, double, QString>({"text", "value", "unit"});
 
     const auto row = [](const char *tag, const char *text, double value, const char *unit) {
         QTest::newRow(tag) << QString::fromLatin1(text) << value << QString::fromLatin1(unit);
@@ -72,14 +71,13 @@ void OperandTest::parses()
 
 void OperandTest::refuses_data()
 {
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("an empty text") << QString();
-    QTest::newRow("a lone unit") << QStringLiteral("in");
-    QTest::newRow("a word") << QStringLiteral("abc");
-    QTest::newRow("two different units") << QStringLiteral("2ini");
-    QTest::newRow("two prefixes") << QStringLiteral("2kMi");
-    QTest::newRow("a bracket") << QStringLiteral("(2i");
+    columns<QString>({"text"});
+    row("an empty text", QString());
+    row("a lone unit", "in");
+    row("a word", "abc");
+    row("two different units", "2ini");
+    row("two prefixes", "2kMi");
+    row("a bracket", "(2i");
 }
 
 void OperandTest::refuses()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "operatorchain.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -49,9 +50,7 @@ public:
 
 void OperatorChainTest::reduces_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<int>("steps");
+    columns<QString, QString, int>({"text", "result", "steps"});
 
     const auto row = [](const char *tag, const char *text, const char *result, int steps) {
         QTest::newRow(tag) << QString::fromLatin1(text) << QString::fromLatin1(result) << steps;

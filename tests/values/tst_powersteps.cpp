@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "powersteps.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -39,15 +40,13 @@ Q_DECLARE_METATYPE(const Unit *)
 
 void PowerStepsTest::converts_data()
 {
-    QTest::addColumn<const Unit *>("unit");
-    QTest::addColumn<double>("value");
-
+    columns<const Unit *, double>({"unit", "value"});
     // 100 mW, which are 20 dBm.
-    QTest::newRow("20 dBm") << &kDbm << 20.0;
-    QTest::newRow("-10 dBW") << &kDbw << -10.0;
-    QTest::newRow("100 mW") << &kMilliwatt << 100.0;
-    QTest::newRow("0.1 W") << &kWatt << 0.1;
-    QTest::newRow("1E5 \u00B5W") << &kMicrowatt << 1e5;
+    row("20 dBm", &kDbm, 20.0);
+    row("-10 dBW", &kDbw, -10.0);
+    row("100 mW", &kMilliwatt, 100.0);
+    row("0.1 W", &kWatt, 0.1);
+    row("1E5 \u00B5W", &kMicrowatt, 1e5);
 }
 
 void PowerStepsTest::converts()

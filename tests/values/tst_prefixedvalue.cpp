@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "prefixedvalue.h"
+#include "table.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -26,9 +27,7 @@ private Q_SLOTS:
 
 void PrefixedValueTest::reads_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<double>("value");
+    columns<QString, bool, double>({"text", "ok", "value"});
 
     const auto row = [](const char *tag, const char *text, bool ok, double value) {
         QTest::newRow(tag) << QString::fromUtf8(text) << ok << value;
@@ -82,15 +81,10 @@ void PrefixedValueTest::reads()
 
 void PrefixedValueTest::consumesTheText_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("left");
-
-    QTest::newRow("a plain number stays") << "12.5"
-                                          << "12.5";
-    QTest::newRow("every occurrence of the prefix goes") << "3m5m"
-                                                         << "35";
-    QTest::newRow("of two prefixes nothing usable is left") << "1k2M"
-                                                            << "trash";
+    columns<QString, QString>({"text", "left"});
+    row("a plain number stays", "12.5", "12.5");
+    row("every occurrence of the prefix goes", "3m5m", "35");
+    row("of two prefixes nothing usable is left", "1k2M", "trash");
 }
 
 void PrefixedValueTest::consumesTheText()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "table.h"
 #include "testmain.h"
 #include "voltagesteps.h"
 
@@ -39,11 +40,7 @@ double combined(int mode, double phase, double left, Operator operation, double 
 
 void VoltageStepsTest::combines_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<double>("phase");
-    QTest::addColumn<double>("sum");
-    QTest::addColumn<double>("difference");
-
+    columns<int, double, double, double>({"mode", "phase", "sum", "difference"});
     // Of 3 mV and 4 mV; where there is no difference it is not looked at.
     const auto row = [](const char *tag, int mode, double phase, double sum, double difference) {
         QTest::newRow(tag) << mode << phase << sum << difference;

@@ -4,10 +4,38 @@
 #include "calculatorcase.h"
 
 #include "expressionprofile.h"
+#include "table.h"
+#include "words.h"
 
 #include <QTest>
 
 using namespace Dezimo;
+
+namespace {
+
+constexpr int kTheShownOne = -1;
+
+/// The unit at the end of @p result.
+int unitOf(const ExpressionProfile &calculator, const QString &result)
+{
+    int unit = 0;
+    while (unit < calculator.plainUnit() &&
+           !result.endsWith(QLatin1Char(' ') + calculator.unitText(unit)))
+        ++unit;
+    return unit;
+}
+
+/// Powers and voltages have several units, a ratio and a plain number one.
+QString usualUnits(const QString &shown)
+{
+    for (const char *units : {"dBm mW W µW dBW", "mV V"}) {
+        if (words(units).contains(shown))
+            return QString::fromUtf8(units);
+    }
+    return shown.isEmpty() ? QStringLiteral("none") : shown;
+}
+
+} // namespace
 
 QMap<int, bool> allVoltageUnits()
 {
@@ -32,38 +60,41 @@ void calculate(ExpressionProfile &calculator, const char *input)
     calculator.calculate();
 }
 
-void addCalculatorCases(std::initializer_list<CalculatorCase> cases)
+void CalculatorRows::operator()(const char *tag, const char *input, const char *result,
+                                const char *offered) const
 {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("chosenUnit");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<int>("shownUnit");
-    QTest::addColumn<QString>("offered");
-    QTest::addColumn<double>("phase");
-    for (const CalculatorCase &row : cases) {
-        QTest::newRow(row.tag) << QString::fromUtf8(row.input) << row.mode << row.chosenUnit
-                               << QString::fromUtf8(row.output) << row.shownUnit
-                               << QString::fromUtf8(row.offered) << row.phase;
-    }
+    (*this)(tag, input, result, kTheShownOne, offered);
 }
 
-void checkCalculatorCase(ExpressionProfile &calculator, int decimalPlaces)
+void CalculatorRows::operator()(const char *tag, const char *input, const char *result, int chosen,
+                                const char *offered) const
+{
+    row(tag, input, m_mode, chosen, result, offered, m_phase);
+}
+
+void addCalculatorColumns()
+{
+    columns<QString, int, int, QString, QString, double>(
+        {"input", "mode", "chosen", "result", "offered", "phase"});
+}
+
+void checkCalculatorCase(ExpressionProfile &calculator, int digits)
 {
     QFETCH(QString, input);
     QFETCH(int, mode);
-    QFETCH(int, chosenUnit);
-    QFETCH(QString, output);
-    QFETCH(int, shownUnit);
+    QFETCH(int, chosen);
+    QFETCH(QString, result);
     QFETCH(QString, offered);
 
-    calculator.setSignificantDigits(decimalPlaces);
+    const int shown = unitOf(calculator, result);
+    const QString unit = calculator.unitText(shown);
+    calculator.setSignificantDigits(digits);
     calculator.setMode(mode);
-    calculator.setOutputUnit(chosenUnit);
+    calculator.setOutputUnit(chosen == kTheShownOne ? shown : chosen);
     calculator.setInput(input);
     calculator.calculate();
-    QCOMPARE(calculator.output(), output);
-    QCOMPARE(calculator.outputUnit(), shownUnit);
-    QCOMPARE(offeredUnits(calculator), offered);
+    QCOMPARE(calculator.output(), result.chopped(unit.isEmpty() ? 0 : unit.size() + 1));
+    QCOMPARE(calculator.outputUnit(), shown);
+    QCOMPARE(offeredUnits(calculator), offered.isEmpty() ? usualUnits(unit) : offered);
     QCOMPARE(calculator.input(), input);
 }

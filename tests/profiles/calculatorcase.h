@@ -4,45 +4,64 @@
 #ifndef TESTS_PROFILES_CALCULATORCASE_H
 #define TESTS_PROFILES_CALCULATORCASE_H
 
+#include "moduleprofile.h"
+
 #include <QMap>
 #include <QString>
-
-#include <initializer_list>
 
 namespace Dezimo {
 class ExpressionProfile;
 }
 
-/// What a person types into an expression calculator, and what is shown then.
-struct CalculatorCase
+/**
+ * Rows of one mode in the table of an expression calculator: what a person types and what is shown
+ * then. row("two powers: the mean", "10mW+2mW", "6 mW").
+ *
+ * The result is a number with its unit, or an error text with the unit beside it; a plain number
+ * has none.
+ */
+class CalculatorRows
 {
-    const char *tag;
-    const char *input;
-    int mode;
-    int chosenUnit;
-    const char *output;
-    int shownUnit;
-    /// The texts of the units that are offered, in the order of the selector; "none" is the plain
-    /// number's.
-    const char *offered;
-    /// Of the voltage calculator, in degrees.
-    double phase = 0.0;
+public:
+    /// @p phase is that of the voltage calculator, in degrees.
+    explicit CalculatorRows(int mode, double phase = 0.0) : m_mode(mode), m_phase(phase) {}
+
+    /// For a result in the unit that was chosen. @p offered are the texts of the units that can be
+    /// chosen then, if these are not the usual ones.
+    void operator()(const char *tag, const char *input, const char *result,
+                    const char *offered = "") const;
+    /// For a result in another unit than was chosen.
+    void operator()(const char *tag, const char *input, const char *result, int chosen,
+                    const char *offered = "") const;
+
+private:
+    int m_mode;
+    double m_phase;
 };
 
 /// The valid units of a voltage calculator that offers them all.
 QMap<int, bool> allVoltageUnits();
 
-/// The units that @p calculator offers, as in CalculatorCase.
+/// The texts of the units that @p calculator offers, in the order of the selector; "none" is the
+/// plain number's.
 QString offeredUnits(const Dezimo::ExpressionProfile &calculator);
 
 /// What a person does: types @p input and asks for the result.
 void calculate(Dezimo::ExpressionProfile &calculator, const char *input);
 
-/// Makes the columns of checkCalculatorCase() and "phase", and one row of each case.
-void addCalculatorCases(std::initializer_list<CalculatorCase> cases);
+/// Begins the table of checkCalculatorCase().
+void addCalculatorColumns();
 
 /// Calculates the present row with a fresh @p calculator, whose units are all offered at first, and
 /// compares output, unit and offered units.
-void checkCalculatorCase(Dezimo::ExpressionProfile &calculator, int decimalPlaces);
+void checkCalculatorCase(Dezimo::ExpressionProfile &calculator,
+                         int digits = Dezimo::ModuleProfile::kDefaultSignificantDigits);
+
+template <typename Calculator>
+void checkCalculatorCase(int digits = Dezimo::ModuleProfile::kDefaultSignificantDigits)
+{
+    Calculator calculator;
+    checkCalculatorCase(calculator, digits);
+}
 
 #endif

@@ -49,31 +49,6 @@ void DbConverterWidget::showModel()
     mirror(m_profile, this, values);
 }
 
-void DbConverterWidget::on_mainTab_currentChanged(int index)
-{
-    m_profile->setCurrentMode(index);
-}
-
-void DbConverterWidget::on_p1LineEdit_editingFinished()
-{
-    m_profile->calculateFromP1();
-}
-
-void DbConverterWidget::on_p2LineEdit_editingFinished()
-{
-    m_profile->calculateFromP2();
-}
-
-void DbConverterWidget::on_pRatioLineEdit_editingFinished()
-{
-    m_profile->calculateFromPRatio();
-}
-
-void DbConverterWidget::on_pDbLineEdit_editingFinished()
-{
-    m_profile->calculateFromPDb();
-}
-
 void DbConverterWidget::on_p1LineEdit_textEdited(const QString &arg1)
 {
     m_profile->setP1(arg1);
@@ -96,26 +71,6 @@ void DbConverterWidget::on_pDbLineEdit_textEdited(const QString &arg1)
 {
     m_profile->setPDb(arg1);
     m_profile->setPLatestRun(0);
-}
-
-void DbConverterWidget::on_v1LineEdit_editingFinished()
-{
-    m_profile->calculateFromV1();
-}
-
-void DbConverterWidget::on_v2LineEdit_editingFinished()
-{
-    m_profile->calculateFromV2();
-}
-
-void DbConverterWidget::on_vRatioLineEdit_editingFinished()
-{
-    m_profile->calculateFromVRatio();
-}
-
-void DbConverterWidget::on_vDbLineEdit_editingFinished()
-{
-    m_profile->calculateFromVDb();
 }
 
 void DbConverterWidget::on_v1LineEdit_textEdited(const QString &arg1)

@@ -4,13 +4,10 @@
 #ifndef VIEWS_DBCONVERTERWIDGET_H
 #define VIEWS_DBCONVERTERWIDGET_H
 
+#include "dbconverterprofile.h"
 #include "modulepage.h"
 
 #include <memory>
-
-namespace Dezimo {
-class DbConverterProfile;
-}
 
 namespace Ui {
 class DbConverterWidget;
@@ -30,21 +27,21 @@ public:
     ~DbConverterWidget() override;
 
 private Q_SLOTS:
-    void on_mainTab_currentChanged(int index);
+    void on_mainTab_currentChanged(int index) { m_profile->setCurrentMode(index); }
 
-    void on_p1LineEdit_editingFinished();
-    void on_p2LineEdit_editingFinished();
-    void on_pRatioLineEdit_editingFinished();
-    void on_pDbLineEdit_editingFinished();
+    void on_p1LineEdit_editingFinished() { m_profile->calculateFromP1(); }
+    void on_p2LineEdit_editingFinished() { m_profile->calculateFromP2(); }
+    void on_pRatioLineEdit_editingFinished() { m_profile->calculateFromPRatio(); }
+    void on_pDbLineEdit_editingFinished() { m_profile->calculateFromPDb(); }
     void on_p1LineEdit_textEdited(const QString &arg1);
     void on_p2LineEdit_textEdited(const QString &arg1);
     void on_pRatioLineEdit_textEdited(const QString &arg1);
     void on_pDbLineEdit_textEdited(const QString &arg1);
 
-    void on_v1LineEdit_editingFinished();
-    void on_v2LineEdit_editingFinished();
-    void on_vRatioLineEdit_editingFinished();
-    void on_vDbLineEdit_editingFinished();
+    void on_v1LineEdit_editingFinished() { m_profile->calculateFromV1(); }
+    void on_v2LineEdit_editingFinished() { m_profile->calculateFromV2(); }
+    void on_vRatioLineEdit_editingFinished() { m_profile->calculateFromVRatio(); }
+    void on_vDbLineEdit_editingFinished() { m_profile->calculateFromVDb(); }
     void on_v1LineEdit_textEdited(const QString &arg1);
     void on_v2LineEdit_textEdited(const QString &arg1);
     void on_vRatioLineEdit_textEdited(const QString &arg1);

@@ -67,56 +67,6 @@ void UnitConverterWidget::showModel()
     mirror(m_profile, this, values);
 }
 
-void UnitConverterWidget::on_dbmLineEdit_textEdited(const QString &arg1)
-{
-    m_profile->setLogPower(arg1);
-}
-
-void UnitConverterWidget::on_wattLineEdit_textEdited(const QString &arg1)
-{
-    m_profile->setLinPower(arg1);
-}
-
-void UnitConverterWidget::on_voltLineEdit_textEdited(const QString &arg1)
-{
-    m_profile->setLinVoltage(arg1);
-}
-
-void UnitConverterWidget::on_dbvLineEdit_textEdited(const QString &arg1)
-{
-    m_profile->setLogVoltage(arg1);
-}
-
-void UnitConverterWidget::on_impedanceLineEdit_textEdited(const QString &arg1)
-{
-    m_profile->setImpedance(arg1);
-}
-
-void UnitConverterWidget::on_dbmLineEdit_editingFinished()
-{
-    m_profile->calculateFromLogPower();
-}
-
-void UnitConverterWidget::on_wattLineEdit_editingFinished()
-{
-    m_profile->calculateFromLinPower();
-}
-
-void UnitConverterWidget::on_voltLineEdit_editingFinished()
-{
-    m_profile->calculateFromLinVoltage();
-}
-
-void UnitConverterWidget::on_dbvLineEdit_editingFinished()
-{
-    m_profile->calculateFromLogVoltage();
-}
-
-void UnitConverterWidget::on_impedanceLineEdit_editingFinished()
-{
-    m_profile->clearAll();
-}
-
 void UnitConverterWidget::on_dbmUnitComboBox_currentIndexChanged(int index)
 {
     if (index == m_profile->logPowerUnit())

@@ -5,12 +5,9 @@
 #define VIEWS_UNITCONVERTERWIDGET_H
 
 #include "modulepage.h"
+#include "unitconverterprofile.h"
 
 #include <memory>
-
-namespace Dezimo {
-class UnitConverterProfile;
-}
 
 namespace Ui {
 class UnitConverterWidget;
@@ -33,17 +30,17 @@ public:
     ~UnitConverterWidget() override;
 
 private Q_SLOTS:
-    void on_dbmLineEdit_textEdited(const QString &arg1);
-    void on_wattLineEdit_textEdited(const QString &arg1);
-    void on_voltLineEdit_textEdited(const QString &arg1);
-    void on_dbvLineEdit_textEdited(const QString &arg1);
-    void on_impedanceLineEdit_textEdited(const QString &arg1);
+    void on_dbmLineEdit_textEdited(const QString &arg1) { m_profile->setLogPower(arg1); }
+    void on_wattLineEdit_textEdited(const QString &arg1) { m_profile->setLinPower(arg1); }
+    void on_voltLineEdit_textEdited(const QString &arg1) { m_profile->setLinVoltage(arg1); }
+    void on_dbvLineEdit_textEdited(const QString &arg1) { m_profile->setLogVoltage(arg1); }
+    void on_impedanceLineEdit_textEdited(const QString &arg1) { m_profile->setImpedance(arg1); }
 
-    void on_dbmLineEdit_editingFinished();
-    void on_wattLineEdit_editingFinished();
-    void on_voltLineEdit_editingFinished();
-    void on_dbvLineEdit_editingFinished();
-    void on_impedanceLineEdit_editingFinished();
+    void on_dbmLineEdit_editingFinished() { m_profile->calculateFromLogPower(); }
+    void on_wattLineEdit_editingFinished() { m_profile->calculateFromLinPower(); }
+    void on_voltLineEdit_editingFinished() { m_profile->calculateFromLinVoltage(); }
+    void on_dbvLineEdit_editingFinished() { m_profile->calculateFromLogVoltage(); }
+    void on_impedanceLineEdit_editingFinished() { m_profile->clearAll(); }
 
     void on_dbmUnitComboBox_currentIndexChanged(int index);
     void on_wattUnitComboBox_currentIndexChanged(int index);

@@ -5,12 +5,9 @@
 #define VIEWS_VSWRCONVERTERWIDGET_H
 
 #include "modulepage.h"
+#include "vswrconverterprofile.h"
 
 #include <memory>
-
-namespace Dezimo {
-class VswrConverterProfile;
-}
 
 namespace Ui {
 class VswrConverterWidget;
@@ -32,25 +29,52 @@ public:
     ~VswrConverterWidget() override;
 
 private Q_SLOTS:
-    void on_vswrLineEdit_textEdited(const QString &arg1);
-    void on_rLineEdit_textEdited(const QString &arg1);
-    void on_r2LineEdit_textEdited(const QString &arg1);
-    void on_arLineEdit_textEdited(const QString &arg1);
-    void on_amLineEdit_textEdited(const QString &arg1);
-    void on_forwardPowerLineEdit_textEdited(const QString &arg1);
-    void on_reflectedPowerLineEdit_textEdited(const QString &arg1);
-    void on_absorbedPowerLineEdit_textEdited(const QString &arg1);
-    void on_forwardVoltageLineEdit_textEdited(const QString &arg1);
-    void on_reflectedVoltageLineEdit_textEdited(const QString &arg1);
-    void on_absorbedVoltageLineEdit_textEdited(const QString &arg1);
+    void on_vswrLineEdit_textEdited(const QString &arg1) { m_profile->setVswr(arg1); }
+    void on_rLineEdit_textEdited(const QString &arg1) { m_profile->setR(arg1); }
+    void on_r2LineEdit_textEdited(const QString &arg1) { m_profile->setR2(arg1); }
+    void on_arLineEdit_textEdited(const QString &arg1) { m_profile->setAr(arg1); }
+    void on_amLineEdit_textEdited(const QString &arg1) { m_profile->setAm(arg1); }
+    void on_forwardPowerLineEdit_textEdited(const QString &arg1) { m_profile->setPForward(arg1); }
+    void on_reflectedPowerLineEdit_textEdited(const QString &arg1)
+    {
+        m_profile->setPReflected(arg1);
+    }
+    void on_absorbedPowerLineEdit_textEdited(const QString &arg1) { m_profile->setPAbsorbed(arg1); }
+    void on_forwardVoltageLineEdit_textEdited(const QString &arg1) { m_profile->setVForward(arg1); }
+    void on_reflectedVoltageLineEdit_textEdited(const QString &arg1)
+    {
+        m_profile->setVReflected(arg1);
+    }
+    void on_absorbedVoltageLineEdit_textEdited(const QString &arg1)
+    {
+        m_profile->setVAbsorbed(arg1);
+    }
 
-    void on_forwardPowerUnitComboBox_currentIndexChanged(int index);
-    void on_reflectedPowerUnitComboBox_currentIndexChanged(int index);
-    void on_absorbedPowerUnitComboBox_currentIndexChanged(int index);
-    void on_forwardVoltageUnitComboBox_currentIndexChanged(int index);
-    void on_reflectedVoltageUnitComboBox_currentIndexChanged(int index);
-    void on_absorbedVoltageUnitComboBox_currentIndexChanged(int index);
-    void on_mainTab_currentChanged(int index);
+    void on_forwardPowerUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setPForwardUnit(index);
+    }
+    void on_reflectedPowerUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setPReflectedUnit(index);
+    }
+    void on_absorbedPowerUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setPAbsorbedUnit(index);
+    }
+    void on_forwardVoltageUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setVForwardUnit(index);
+    }
+    void on_reflectedVoltageUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setVReflectedUnit(index);
+    }
+    void on_absorbedVoltageUnitComboBox_currentIndexChanged(int index)
+    {
+        m_profile->setVAbsorbedUnit(index);
+    }
+    void on_mainTab_currentChanged(int index) { m_profile->setCurrentMode(index); }
 
     void onVswrChanged();
     void onRChanged();

@@ -4,11 +4,12 @@
 #include "unitconverterprofile.h"
 
 #include "errortexts.h"
-#include "pi.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
 #include "units.h"
 #include "valuetext.h"
+
+#include <QtMath>
 
 #include <algorithm>
 #include <iterator>
@@ -21,7 +22,7 @@ namespace {
 /// computed as 2 * sqrt(2); ten digits show the difference.
 constexpr double kPeakToPeakPerRms = 2.82842714;
 /// Average of a rectified sine of 1 V RMS.
-constexpr double kAveragePerRms = kPeakToPeakPerRms / kPi;
+constexpr double kAveragePerRms = kPeakToPeakPerRms / M_PI;
 
 /// What a voltage field shows of a sine of 1 V RMS, in the order of the voltage modes.
 constexpr double kShownPerRms[] = {1.0, kPeakToPeakPerRms, kAveragePerRms};

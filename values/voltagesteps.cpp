@@ -3,7 +3,7 @@
 
 #include "voltagesteps.h"
 
-#include "pi.h"
+#include <QtMath>
 
 #include <cmath>
 
@@ -20,7 +20,7 @@ constexpr double kFullTurn = 360.0;
 /// length cancel exactly after any number of turns.
 double thirdSide(double a, double b, double degrees)
 {
-    const double angle = std::remainder(degrees, kFullTurn) / kHalfTurn * kPi;
+    const double angle = std::remainder(degrees, kFullTurn) / kHalfTurn * M_PI;
     return std::hypot(a - b * std::cos(angle), b * std::sin(angle));
 }
 

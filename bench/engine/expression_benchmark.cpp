@@ -1,6 +1,4 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
-
-using namespace Dezimo;
 // SPDX-License-Identifier: MIT
 
 /**
@@ -15,6 +13,8 @@ using namespace Dezimo;
 #include "voltagecalculatorprofile.h"
 
 #include <benchmark/benchmark.h>
+
+using namespace Dezimo;
 
 namespace {
 

@@ -1,6 +1,4 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
-
-using namespace Dezimo;
 // SPDX-License-Identifier: MIT
 
 /**
@@ -16,6 +14,8 @@ using namespace Dezimo;
 #include "valuetext.h"
 
 #include <benchmark/benchmark.h>
+
+using namespace Dezimo;
 
 namespace {
 
@@ -37,9 +37,8 @@ void keyPress(benchmark::State &state)
 
 void keyPressReading(benchmark::State &state)
 {
-    const ExpressionUnits units{{0, QStringLiteral("dBm")}, {1, QStringLiteral("dBW")},
-                                {2, QStringLiteral("dB")},  {3, QStringLiteral("mW")},
-                                {4, QStringLiteral("W")},   {5, QString()}};
+    const ExpressionUnits units{{0, &Units::kDbm},       {1, &Units::kDbw},  {2, &Units::kDb},
+                                {3, &Units::kMilliwatt}, {4, &Units::kWatt}, {5, &Units::kNone}};
     const QString input = Expressions::powers(kLength);
     while (state.KeepRunning()) {
         const QString text = ExpressionText::cleaned(input);

@@ -1,6 +1,4 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
-
-using namespace Dezimo;
 // SPDX-License-Identifier: MIT
 
 /**
@@ -17,6 +15,8 @@ using namespace Dezimo;
 
 #include <chrono>
 #include <string>
+
+using namespace Dezimo;
 
 namespace {
 

@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 
-# Compiles for Windows, without linking them, the sources of sysinfo/ and the sources and tests that only
-# Windows has, so that a change made elsewhere cannot break them unseen. The compiler is the one of Debian's package
-# g++-mingw-w64-x86-64-posix; Qt's headers are those of the host (Debian's qtbase5-dev), of which
-# QtCore's take their Windows branch from the compiler's own definitions. Language, definitions and
-# warnings are read from cmake/DezimoOptions.cmake; every warning is an error.
+# Compiles the sources of sysinfo/ and the sources and tests that only Windows has, without linking
+# them, so that a change made on another system cannot break them unnoticed. The compiler comes from
+# Debian's package g++-mingw-w64-x86-64-posix. Qt's headers are those of the host (Debian's
+# qtbase5-dev): the compiler's own definitions make QtCore's take their Windows branch. Language,
+# definitions and warnings are read from cmake/DezimoOptions.cmake; every warning is an error.
 
 set -eu
 cd "$(dirname "$0")/.."
@@ -27,7 +27,7 @@ trap 'rm -rf "$made"' EXIT
 
 for source in sysinfo/*.cpp app/endrequests_windows.cpp tests/support/privateregistry.cpp tests/support/testmain.cpp \
     tests/sysinfo/windowsmachine.cpp tests/sysinfo/tst_win32host.cpp tests/sysinfo/tst_windowsfacts.cpp; do
-    # What sysinfo/CMakeLists.txt leaves out on Windows.
+    # sysinfo/CMakeLists.txt leaves these out on Windows.
     case $source in
         */localesetting.cpp | */osrelease.cpp | */unixosinfo.cpp | */visalibrary.cpp) continue ;;
     esac

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# tools/coverage.sh: which lines of the program the tests run. Names those that they do not, and
-# fails if there are any in values/, store/ or profiles/, or more than one line in twenty in the whole.
+# tools/coverage.sh: shows which lines of the program the tests do not run. Fails if there is one in
+# values/, store/ or profiles/, or if it is more than one line in twenty of the whole program.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # tools/memcheck.sh: runs the tests of the models under valgrind, which sees what the sanitizers
-# cannot: memory that is read before it is written, also inside Qt. Takes some ten minutes. Fails if
-# a test fails, or valgrind finds an error or memory that nothing refers to any more.
+# cannot: memory that is read before it is written, also inside Qt. Takes about ten minutes. Fails if
+# a test fails, or if valgrind finds an error or memory that nothing refers to any more.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -18,7 +18,7 @@ cmake --build --preset dev --target "${tests[@]}"
 
 # Qt's regular expressions compile themselves into code that valgrind cannot follow.
 export QT_ENABLE_REGEXP_JIT=0
-# Qt Test ends a function after five minutes otherwise.
+# By default Qt Test ends a function after five minutes.
 export QTEST_FUNCTION_TIMEOUT=3600000 # ms
 
 memcheck() {

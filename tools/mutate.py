@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""Do the tests notice? Change one place of the models, or of what they are made from, at a time.
+"""Change the models, or what they are made from, in one place at a time, and see if a test fails.
 
-Places are drawn by chance from a fixed seed. A mutant is one operator, constant or comparison
-changed or one statement removed; one that does not compile does not count and another one is drawn
-in its place. It is caught if a test fails, crashes or takes ten times as long as it did. The
-survivors are listed at the end; the status is 0 if more than 95 % were caught.
+Places are chosen at random, from a fixed seed. In a mutant one operator, constant or comparison is
+changed, or one statement is removed. If it does not compile, another one replaces it. A mutant is
+caught if a test fails, crashes or takes ten times as long as before. The survivors are listed at the
+end. The status is 0 if more than 95 % were caught.
 
-All of it happens in a copy of the sources below build/.
+All of this happens in a copy of the sources below build/.
 """
 
 import argparse
@@ -29,12 +29,12 @@ COPY = ROOT / "build" / "mutants"
 BUILD = COPY / "build" / "mutation"
 FOLDERS = ("values", "store", "profiles")
 LIBRARIES = [f"dezimo_{folder}" for folder in FOLDERS]
-TESTED_IN_WINDOWS = ("checkedsettings",)  # by tests that take too long for each mutant
+TESTED_IN_WINDOWS = ("checkedsettings",)  # its tests open windows and take too long for each mutant
 NEEDED_SHARE = 0.95
-MEMORY_LIMIT = 4 << 30  # bytes; a mutant may allocate without end
-BASELINE_SECONDS = 300  # for the tests as they are
+MEMORY_LIMIT = 4 << 30  # bytes, because a mutant may allocate without end
+BASELINE_SECONDS = 300  # for one test of the unchanged sources
 
-# Texts and comments, which rules for code must not see.
+# Texts and comments, to which the rules for code do not apply.
 LITERAL = re.compile(r'"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'|//[^\n]*|/\*.*?\*/', re.DOTALL)
 # clang-format puts blanks around binary operators and nowhere else.
 OPERATORS = {
@@ -71,7 +71,7 @@ def other_number(literal: str) -> str:
 
 
 def is_whole_statement(code: str, match: re.Match) -> bool:
-    """Whether the line can be left out: it starts a statement, and is no return at the end."""
+    """Whether the line is a statement that can be left out; a last return cannot."""
     before = code[:match.start()].rstrip()
     after = code[match.end():].lstrip()
     is_last_return = match[0].lstrip().startswith("return") and after.startswith(("}", "case"))
@@ -106,7 +106,7 @@ def copy_sources() -> None:
     for name in filter(None, tracked.split("\0")):
         target = COPY / name
         target.parent.mkdir(parents=True, exist_ok=True)
-        # A new time where the last run has left a mutant, so that it is compiled again.
+        # Where the last run has left a mutant, the copy gets a new time and is compiled again.
         if not target.exists() or not filecmp.cmp(ROOT / name, target, shallow=False):
             shutil.copyfile(ROOT / name, target)
 
@@ -122,7 +122,7 @@ def seconds_of_children() -> float:
 
 
 class Tests:
-    """The tests of the models, each with the seconds that it takes of a processor."""
+    """The tests of the models, and how many seconds of processor time each takes."""
 
     def __init__(self) -> None:
         self.seconds: dict[str, float] = {}
@@ -147,8 +147,8 @@ class Tests:
     def catcher(self, file: Path) -> str | None:
         """The first test that fails, None if there is none, "" if one does not compile.
 
-        Those named after the file come first, then short ones. Each is built when it is needed,
-        because a mutant in a header changes them all.
+        Tests named after the file come first, then short ones. A test is built only when it is
+        needed, because a mutant in a header makes all of them out of date.
         """
         def rank(name: str) -> tuple[bool, float]:
             return not name.startswith(f"tst_{file.stem}"), self.seconds[name]
@@ -179,15 +179,15 @@ def main() -> int:
                         help="only in these files (default all)")
     arguments = parser.parse_args()
 
-    os.environ["CCACHE_DISABLE"] = "1"  # no mutant is built twice
+    os.environ["CCACHE_DISABLE"] = "1"  # no mutant is built twice, so the cache would only fill up
     copy_sources()
     subprocess.run(["cmake", "--preset", "mutation"], cwd=COPY, check=True,
                    stdout=subprocess.DEVNULL)
     tests = Tests()
     if not build(tests.names):
-        sys.exit("The tests do not build as they are.")
+        sys.exit("The tests do not build even without a mutant.")
     if failing := tests.failing_before():
-        sys.exit(f"The tests fail as they are: {' '.join(failing)}")
+        sys.exit(f"These tests fail even without a mutant: {' '.join(failing)}")
 
     files = sorted(path.relative_to(ROOT) for path in ROOT.glob("*/*.[ch]*")
                    if path.parent.name in FOLDERS and path.stem not in TESTED_IN_WINDOWS
@@ -200,7 +200,7 @@ def main() -> int:
     while tried < arguments.count and candidates:
         batch = candidates[:arguments.count - tried]
         candidates = candidates[len(batch):]
-        # In the order of the files, each is compiled again as it was only once.
+        # In the order of the files, so that each file is compiled without a mutant only once.
         for mutant in sorted(batch):
             text = texts[mutant.file]
             catcher = try_out(mutant, text, tests)

@@ -2,12 +2,12 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# tools/packages.sh GROUP...: the one install step. Brings in those Debian packages of the named
-# groups that are missing, and says which. Where it cannot install (no apt, or neither root nor
-# sudo) it names them and succeeds if the commands that they bring are there.
+# tools/packages.sh GROUP...: installs the Debian packages of the named groups that are missing, and
+# says which. Nothing else in this project installs packages. Where it cannot install (no apt, or
+# neither root nor sudo), it names them and succeeds if the commands that they bring are there.
 set -euo pipefail
 
-# Debian's packages, and the commands by which other systems can tell that they have the same.
+# Debian's packages, and the commands that show that a system without apt has the same.
 declare -A packages=(
     [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
         python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core librsvg2-bin"
@@ -51,14 +51,14 @@ declare -A commands=(
     [windows-test]="Xvfb openbox xprop xdotool import unzip xmllint"
 )
 
-# All that the installed packages offer, a name in a line: their own, and those that they provide. A
-# package that has got another name in a later release provides the old one.
+# The names that the installed packages offer, one per line: their own and those that they provide. A
+# package that has a new name in a later release provides the old one.
 offered() {
     dpkg-query --show --showformat='${db:Status-Status} ${Package} ${Provides}\n' |
         sed --quiet 's/^installed //; T; s/([^)]*)//g; s/[ ,]\+/\n/g; p'
 }
 
-# Those of the given packages that are not there, under their own or another name.
+# Prints which of the given packages are missing under any name.
 missing_of() {
     printf '%s\n' "$@" | grep --invert-match --line-regexp --fixed-strings --file=<(offered) || true
 }
@@ -68,8 +68,8 @@ apt_get() {
         apt-get --quiet --quiet -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "$@"
 }
 
-# A fresh machine has no package lists and an old one has outdated lists. Both show in a first
-# attempt that fails; only then are they fetched.
+# A fresh machine has no package lists, and an old one has outdated lists. In both cases the first
+# attempt fails, and only then are the lists fetched.
 apt_install() {
     local install=(install --yes --no-install-recommends "$@")
     apt_get "${install[@]}" >/dev/null 2>&1 || { apt_get update && apt_get "${install[@]}" >/dev/null; }
@@ -97,7 +97,7 @@ as_root=()
 [[ $EUID -eq 0 ]] || as_root=(sudo)
 
 if ! command -v apt-get >/dev/null; then
-    echo "No apt here. Needed are what Debian calls: ${wanted[*]}"
+    echo "No apt here. These packages are needed, by their Debian names: ${wanted[*]}"
     require_commands "${wanted_commands[@]}"
     exit
 fi
@@ -106,7 +106,7 @@ mapfile -t missing < <(missing_of "${wanted[@]}")
 [[ ${#missing[@]} -gt 0 ]] || exit 0
 
 if [[ $EUID -ne 0 ]] && ! command -v sudo >/dev/null; then
-    echo "Neither root nor sudo to install: ${missing[*]}"
+    echo "Cannot install without root or sudo: ${missing[*]}"
     require_commands "${wanted_commands[@]}"
     exit
 fi

@@ -9,7 +9,7 @@ set -euo pipefail
 [[ $# -eq 1 ]] || { echo "usage: tools/play_tour.sh FOLDER" >&2; exit 2; }
 tour=$(dirname "$0")/../build/release/bin/dezimo-tour
 
-# A home of its own, so that the tour neither shows nor changes the person's settings.
+# The tour gets a home of its own, so that it neither shows nor changes the user's settings.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 mkdir -m 0700 "$home/runtime"

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# tools/windows_sdk.sh [--where]: prints the folder of Qt for Windows. It is made once, which takes
-# half an hour, and kept in the user's cache under the checksum of its recipe. With --where nothing
-# is made: the status is 1 if the folder is not there yet.
+# tools/windows_sdk.sh [--where]: prints the folder of Qt for Windows. The first run builds it, which
+# takes half an hour, and keeps it in the user's cache, named after the checksum of its recipe. With
+# --where it builds nothing, and its status is 1 if the folder is not there yet.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -25,18 +25,18 @@ make_sdk() {
     # shellcheck disable=SC2064
     trap "rm -rf '$scratch'" EXIT
     mkdir "$scratch/sdk" "$scratch/work"
-    echo "Making Qt for Windows; this takes half an hour, once. The log: $log" >&2
+    echo "Building Qt for Windows. This takes half an hour, but only once. The log: $log" >&2
     "$recipe" "$scratch/sdk" "$scratch/work" >"$log" 2>&1 || {
         tail --lines=20 "$log" >&2
         exit 1
     }
-    # A name that exists is a whole SDK.
+    # The SDK gets its name only when it is complete.
     mv "$scratch/sdk" "$sdk"
 }
 
 tools/packages.sh windows >&2
 mkdir -p "$cache"
-# Who comes second waits for what the first one makes.
+# If two runs start at once, the second one waits for what the first one builds.
 exec {lock}>"$cache/windows-sdk.lock"
 flock "$lock"
 [[ -d $sdk ]] || make_sdk

@@ -3,18 +3,19 @@
 # SPDX-License-Identifier: MIT
 #
 # tools/wine.sh PROGRAM [ARGUMENT...]: runs a program of the Windows build under Wine, with a display
-# and a Windows of its own, and ends with its status.
+# and a Windows of its own, and returns its status.
 set -euo pipefail
 tools=$(dirname "$0")
 # shellcheck source=/dev/null
 . "$tools/wine_session.sh"
 sdk=$("$tools/windows_sdk.sh" --where)
 
-# As of env and timeout: the program could not be run.
+# The status when the program could not be run, the same as that of env and timeout.
 not_started=125
 
-# Wine withholds the variables of this machine's Qt from its programs; a test's own are meant for it.
-# Qt writes to a debugger unless told that there is a console.
+# Wine does not pass on QT_ variables, because they are for this machine's Qt. Those that a test sets are
+# for the program, so a batch file sets them again. Qt writes its messages to a debugger unless it is
+# told that there is a console.
 batch_file() {
     local name word
     printf '@set QT_ASSUME_STDERR_HAS_CONSOLE=1\r\n@set QT_PLUGIN_PATH=Z:%s/plugins\r\n' "$sdk"
@@ -36,7 +37,7 @@ batch_file "$@" >"$WINEPREFIX/drive_c/run.bat"
 for attempt in first last; do
     status=0
     wine cmd /c 'C:\run.bat' </dev/null || status=$?
-    # Now and then Wine does not find a program that is there; a second look does.
+    # Now and then Wine does not find a program although it is there. The second attempt finds it.
     [[ $status -eq $not_started && $attempt == first ]] || break
     wineserver --kill || true
 done

@@ -2,26 +2,27 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# To be sourced. start_wine gives the shell a display with a window manager
-# and a Windows of its own; end_wine ends all of it. Several shells get one each, kept for later
-# ones under build/windows/wine, because making one takes longer than most tests.
+# To be sourced. start_wine gives the shell a display with a window manager and a Windows of its own;
+# end_wine ends all of it. Shells that run at the same time get one Windows each. These are kept under
+# build/windows/wine, because making one takes longer than most tests.
 
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/x_windows.sh"
 
 wine_prefixes=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")/build/windows/wine
 
-# Debian's packages put no command of these names on PATH.
+# Debian's packages do not put these commands on PATH.
 wine() { /usr/lib/wine/wine64 "$@"; }
 wineserver() { /usr/lib/wine/wineserver "$@"; }
 
 export WINEDEBUG=-all
-# No offers to fetch what no test needs, and no entries in the menu of this machine's desktop.
+# Without these libraries Wine neither offers to fetch what no test needs nor adds entries to the menu
+# of this machine's desktop.
 export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
-# Names of files are UTF-8 on both sides.
+# So that file names are UTF-8 on both sides.
 export LC_ALL=C.UTF-8
 
-# The first of the kept installations that no other shell uses.
+# Takes the first of the kept installations that no other shell uses.
 take_wine_prefix() {
     local number=1
     mkdir -p "$wine_prefixes"
@@ -32,13 +33,13 @@ take_wine_prefix() {
         exec {wine_lock}>"$wine_prefixes/$number.lock"
     done
     export WINEPREFIX=$wine_prefixes/$number
-    # Wine would lead the folders of its user into the home of the one who runs it.
+    # Otherwise the folders of Wine's user would point into the home of the person who runs this.
     export HOME=$WINEPREFIX.home
     mkdir -p "$HOME"
 }
 
-# One server per test: it shows nothing but that test's windows, and the one in front has the keys.
-# It is larger than the largest window of a test.
+# Each test has an X server of its own, so that no other window covers the test's or takes its keyboard.
+# The screen is larger than the largest window of a test.
 start_display() {
     coproc display { exec Xvfb -displayfd 1 -screen 0 2560x1600x24 -noreset -nolisten tcp -ac 2>/dev/null; }
     # shellcheck disable=SC2154
@@ -52,14 +53,14 @@ start_display() {
 
 folder_of() { dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name="$1")"; }
 
-# find_libraries SDK: Windows finds the libraries that the packages carry beside the program.
+# find_libraries SDK: lets Windows find the libraries that the packages have beside the program.
 find_libraries() {
     WINEPATH="Z:$1/bin;Z:$(folder_of libstdc++-6.dll);Z:$(folder_of libwinpthread-1.dll)"
     export WINEPATH
 }
 
-# Windows' own fonts are not there, and Wine would take a serif. A program that crashes shall end and
-# not wait for a person in a debugger.
+# Wine does not have Windows' own fonts and would take a serif instead. And a program that crashes must
+# end instead of waiting in a debugger for a person.
 adapt_wine() {
     local reg=$WINEPREFIX/adapt.reg name version='Software\Microsoft\Windows NT\CurrentVersion'
     {
@@ -77,7 +78,7 @@ adapt_wine() {
 start_wine() {
     take_wine_prefix
     start_display
-    # A server that was started without the display would show black windows.
+    # With a Wine server that was started without the display, windows would be black.
     wineserver --kill 2>/dev/null || true
     [[ ! -e $WINEPREFIX/made ]] || return 0
     rm -rf "$WINEPREFIX"

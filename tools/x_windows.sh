@@ -4,7 +4,7 @@
 #
 # To be sourced by scripts that start programs on an X display and wait for their windows.
 
-# start_window_manager: one for the display, with its process in $window_manager.
+# start_window_manager: starts one for the display and leaves its process in $window_manager.
 start_window_manager() {
     openbox --sm-disable >/dev/null 2>&1 &
     window_manager=$!
@@ -13,8 +13,8 @@ start_window_manager() {
     done
 }
 
-# window_named SECONDS PATTERN: the visible window of such a name, as soon as there is one. xdotool
-# fails when it meets a window that is just going, so that asking again is part of the waiting.
+# window_named SECONDS PATTERN: prints the visible window of such a name as soon as there is one.
+# xdotool fails when it meets a window that is just closing, so it is asked again until the time is up.
 window_named() {
     local end=$((SECONDS + $1)) rest=$1
     until timeout "$rest" xdotool search --sync --onlyvisible --name "$2" 2>/dev/null; do

@@ -2,10 +2,10 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# tools/endurance/everywhere.sh: a session of the program and then the whole test suite, in four
+# tools/endurance/everywhere.sh: runs a session of the program and then the whole test suite, in four
 # locales on the offscreen platform, under a window manager of X, and on a Wayland compositor. A
-# session must end with status 0 and print nothing. The tests of the package are left out: they fix
-# their own surroundings. The log is build/everywhere.log; a table closes the run.
+# session must end with status 0 and print nothing. The tests of the package are left out, because they
+# set up their own environment. The log is build/everywhere.log; a table ends the run.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -38,10 +38,10 @@ row() {
     printf '%-22s %-7s %s\n' "$1" "$result" "$3"
 }
 
-# Qt's own words about what the offscreen platform lacks.
+# Leaves out what Qt prints about the limits of the offscreen platform.
 own_words() { { grep --invert-match 'This plugin does not support' || true; } <"$1"; }
 
-# session NAME COMMAND...: COMMAND runs what follows it in the right surroundings.
+# session NAME COMMAND...: COMMAND runs what follows it, in the locale and on the display of the row.
 session() {
     local name=$1 status=0 said
     shift
@@ -70,10 +70,11 @@ for locale in de_DE.UTF-8 ar_EG.UTF-8 tr_TR.UTF-8 C; do
     tests "$locale" env LC_ALL="$locale" LANG="$locale" QT_QPA_PLATFORM=offscreen
 done
 
-# The windows of two tests at once would take the keyboard from each other.
+# If two tests ran at once, their windows would take the keyboard from each other.
 export CTEST_PARALLEL_LEVEL=1
 
-# Without a window manager no window gets the focus. It has a last word when the server goes.
+# Without a window manager no window gets the focus. It complains when the server goes, so its output
+# is dropped.
 with_manager='openbox >/dev/null 2>&1 & exec "$@"'
 x_server=(env QT_QPA_PLATFORM=xcb xvfb-run --auto-servernum '--server-args=-screen 0 1920x1080x24'
     bash -c "$with_manager" -)

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""hostile_files.py: opens files that nobody in his senses made, as calculation files and as the
-application settings, and prints how long each took.
+"""hostile_files.py: opens damaged and malicious files, as calculation files and as the application
+settings, and prints how long each took.
 
-A session must end with status 0, say nothing but one line about a file that cannot be read at all,
-keep its window as it is, and open within a second, or three for files of 100 MiB. To be run as root: it
-takes on the rights of nobody for the unreadable file.
+A session must end with status 0, keep its window as it is, and open within a second, or three for files
+of 100 MiB. It must print nothing, except one line about a file that cannot be read at all. Run it as
+root, because it becomes the user nobody for the unreadable file.
 """
 
 import os
@@ -56,24 +56,24 @@ def hostile_texts(store):
 
 
 def milliseconds(out, what):
-    """How long a step of a session took, as it says."""
+    """How long a step took, from what the session printed."""
     return int(re.search(rf"^{what} (\d+) ms", out, re.MULTILINE)[1])
 
 
 def size(out):
-    """The window's size, as a session says."""
+    """The window's size, from what the session printed."""
     return re.search(r"size (.*)$", out, re.MULTILINE)[1]
 
 
 def sparse(path, size):
-    """A file of @p size bytes that takes no room on the disk."""
+    """Makes a file of @p size bytes that takes no room on the disk."""
     path.touch()
     os.truncate(path, size)
 
 
 def measure(name, length, prepare, prefix=(), complaint=None):
-    """@p prepare makes the file at a path, @p complaint is why it cannot be opened. Prints a row of
-    the table, returns whether it is good."""
+    """Prints a row of the table and returns whether it is good. @p prepare makes the file at a path,
+    @p complaint is why it cannot be opened."""
     home = Home()
     file = home.folder / "hostile.dezimo"
     prepare(file)

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""idle.py: what the program does while nobody does anything.
+"""idle.py: shows what the program does while nobody uses it.
 
-Starts it, lets it come to rest, and measures for 30 s: first the processor time that the kernel has
-counted for all its threads, then with strace every wait for something to happen. The only timer is
-the caret's, which blinks twice a second.
+Starts it, waits until it has settled, and measures twice for 30 s: first the processor time of all its
+threads, as the kernel counts it, then with strace every wait for an event. The only timer should be that
+of the caret, which blinks twice a second.
 """
 
 import collections
@@ -22,13 +22,13 @@ CARET_MILLISECONDS = 500
 
 
 def processor_milliseconds(pid):
-    """Of all threads, in the kernel's nanoseconds."""
+    """The time of all threads, which the kernel counts in nanoseconds."""
     tasks = pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")
     return sum(int(task.read_text().split()[0]) for task in tasks) / 1e6
 
 
 def waits(pid, home):
-    """The time limits of all waits within the measured time, and how often each occurred."""
+    """All calls that wait, with their time limits as last argument, and how often each occurred."""
     log = home.folder / "strace.log"
     strace = subprocess.Popen(["strace", "--follow-forks", "--output", log,
                                "--trace=poll,ppoll,select,pselect6,epoll_wait,epoll_pwait,"

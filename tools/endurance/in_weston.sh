@@ -3,9 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # tools/endurance/in_weston.sh COMMAND...: runs COMMAND on a Wayland compositor and returns its status.
-# A headless Weston has no keyboard to give, without which no window gets the focus; as a window of X
-# it has that of X, which
-# a window manager gives. What they say goes to build/weston.log.
+# No window gets the focus without a keyboard, and a headless Weston has none. So Weston runs as a window
+# of X, and a window manager gives it the keyboard. Both write to build/weston.log.
 set -euo pipefail
 
 if [[ -z ${DISPLAY:-} ]]; then

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""losing_nothing.py [KILLS]: what is stored survives.
+"""losing_nothing.py [KILLS]: checks that what is stored survives.
 
-Kills sessions at random moments while they write the settings and a calculation file (200 times
-each, unless said otherwise), lets two sessions write at once, and lets sessions write to a full disk
-and into a folder that must not be written. The stored file must be the old one or the new one, whole.
-To be run as root: it mounts a small disk and takes on the rights of nobody.
+Kills sessions at random moments while they write the settings and a calculation file (200 times each
+by default), lets two sessions write at once, and lets sessions write to a full disk and into a folder
+that is read-only for them. Each time the stored file must be the whole old one or the whole new one. Run
+it as root, because it mounts a small disk and becomes the user nobody.
 """
 
 import os
@@ -19,7 +19,7 @@ import time
 
 from sessions import NOBODY, Home, build, generation
 
-FOREVER = 1000000  # writes of one session, and so generations
+FOREVER = 1000000  # writes of one session, each of a new generation
 
 
 def check(condition, what):
@@ -29,7 +29,7 @@ def check(condition, what):
 
 
 def whole(path, fields):
-    """The generation of the file, which must be whole and have as many texts as the first had."""
+    """The generation of the file. The file must be whole and have as many texts as the first one."""
     found = generation(path.read_text())
     check(found and found[1] == fields, f"{path} is not whole:\n{path.read_text()}")
     return found[0]
@@ -37,7 +37,7 @@ def whole(path, fields):
 
 def kill(name, kills, home, path, command, *arguments):
     """Kills a session that writes @p path over and over, each time at another moment. Every other
-    time it is while a file that is not finished lies beside."""
+    time it waits until there is an unfinished file beside @p path."""
     home.run(command, 1, 1, *arguments)
     fields = generation(path.read_text())[1]
     new = unfinished = 0
@@ -55,12 +55,12 @@ def kill(name, kills, home, path, command, *arguments):
         unfinished += len(left) > 0
         for rest in left:
             os.unlink(path.parent / rest)
-    print(f"{name}: {kills} kills, then the file is whole and old {kills - new} times, whole and new {new} "
-          f"times; {unfinished} kills left an unfinished file beside", flush=True)
+    print(f"{name}: after {kills} kills the file was whole each time, {kills - new} times the old one and "
+          f"{new} times the new one; {unfinished} kills left an unfinished file", flush=True)
 
 
 def two_at_once(rounds):
-    """Pairs of sessions that write the same settings at once, to their clean end."""
+    """Lets pairs of sessions write the same settings at once and end by themselves."""
     home = Home()
     home.run("exit", 1, 1)
     fields = generation(home.store.read_text())[1]
@@ -74,18 +74,18 @@ def two_at_once(rounds):
 
 
 def cannot_write(name, home, file, prefix=()):
-    """Neither the settings nor the calculation file change, and nothing is said."""
+    """Checks that neither the settings nor the calculation file change and nothing is printed."""
     old = {path: path.read_bytes() for path in (home.store, file)}
     home.run("exit", 2, 2, prefix=prefix)
     home.run("save", 2, 2, file, prefix=prefix)
     for path, text in old.items():
         check(path.read_bytes() == text, f"{name}: {path}")
     names = sorted(f.name for f in file.parent.iterdir())
-    print(f"{name}: settings and file as they were, status 0, nothing said, beside lies {names}")
+    print(f"{name}: settings and file as they were, status 0, nothing printed; in the folder are {names}")
 
 
 def full_disk():
-    """A disk of 256 KiB without a free byte."""
+    """Writes to a disk of 256 KiB without a free byte."""
     disk = pathlib.Path(tempfile.mkdtemp())
     subprocess.run(["mount", "-t", "tmpfs", "-o", "size=256k", "tmpfs", disk], check=True)
     try:
@@ -105,7 +105,7 @@ def full_disk():
 
 
 def read_only_folder():
-    """A folder of another user."""
+    """Writes into a folder of another user."""
     home = Home()
     file = home.store.parent / "a.dezimo"
     home.run("exit", 1, 1)

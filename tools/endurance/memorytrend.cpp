@@ -16,7 +16,7 @@ namespace {
 constexpr double kKibibyte = 1024.0;
 constexpr size_t kMostSamples = 10000;
 
-/// Through the C++ and C allocators, small blocks and those with pages of their own.
+/// What the C++ and C allocators have given out, small blocks and those with pages of their own.
 double allocated()
 {
     const struct mallinfo2 info = mallinfo2();

@@ -7,22 +7,23 @@
 #include <vector>
 
 /**
- * The memory of this process over a run, in KiB: what is allocated, and what the system has lent
- * for it, which is more, as freed pieces lie between those in use. A run that leaks has more
- * allocated in its last quarter than in its second; the first quarter fills caches.
+ * The memory of this process over a run, in KiB: what is allocated, and what is resident. The
+ * latter is more, because freed pieces lie between those in use. A run that leaks has more
+ * allocated in its last quarter than in its second. The first quarter fills caches, so it is not
+ * compared.
  */
 class MemoryTrend
 {
 public:
-    /// Takes room for all samples at once, so that they are no trend themselves.
+    /// Reserves the room for all samples, so that they do not look like a trend themselves.
     MemoryTrend();
 
-    /// Notes what the process holds now.
+    /// Records how much memory the process has now.
     void sample();
     /// Prints the mean of each quarter.
     void print() const;
-    /// Whether the last quarter's mean of what is allocated is above the second's by more than a
-    /// fiftieth.
+    /// Whether the mean of what is allocated is more than 2 % higher in the last quarter than in
+    /// the second.
     bool isUpward() const;
 
 private:

@@ -58,7 +58,7 @@ QList<QWidget *> shownWindows()
     return shown;
 }
 
-/// Not by QPixmapCache::clear(), which keeps the names of what it forgets.
+/// QPixmapCache::clear() is not enough, because it keeps the names of the pictures.
 void emptyPictureCache()
 {
     const int limit = QPixmapCache::cacheLimit();
@@ -100,8 +100,8 @@ void Monkey::dropLink(const QUrl &)
     ++m_links;
 }
 
-/// The next step is on its way before this one acts, as an action may wait in a dialog's event loop
-/// for what the next steps do.
+/// The timer for the next step starts before this one acts, because an action may open a dialog,
+/// whose event loop waits for what the next steps do.
 void Monkey::step()
 {
     if (m_time.elapsed() > m_milliseconds) {
@@ -127,9 +127,9 @@ bool Monkey::isAtRest()
            QApplication::activeModalWidget() == nullptr;
 }
 
-/// Always in the same state, without what was typed, in a window of one size and with Qt's cache of
-/// pictures empty, which slowly fills up to its 10 MiB: only then the samples compare. What
-/// the program has freed goes back to the system first.
+/// Samples compare only if the program is in the same state each time: the modules at their
+/// defaults, the window in one size, and Qt's cache of pictures empty, which slowly fills up to its
+/// 10 MiB. Before each sample, freed memory goes back to the system.
 void Monkey::sampleMemory()
 {
     m_next.stop();
@@ -171,7 +171,7 @@ void Monkey::act(QWidget &top)
         resizeWindow();
 }
 
-/// One of ten names: an own file, one that is no file, or none at all.
+/// Rejects the dialog, or enters one of ten names, whose file may not be there.
 void Monkey::answer(QFileDialog &dialog)
 {
     ++m_files;
@@ -231,8 +231,8 @@ void Monkey::type(QWidget &top)
 }
 
 /// A field of Qt keeps every character that was typed or pasted for Undo, 20 bytes each, until the
-/// program sets its text, and even then keeps the room for them. The most that one field ever took
-/// would show as a trend of the memory, so it must not become much more.
+/// program sets its text, and even then it keeps the room for them. If that room grew without a
+/// limit, it would look like a leak.
 void Monkey::boundUndo()
 {
     if (m_steps % kStepsBetweenDefaults == 0)
@@ -246,7 +246,7 @@ void Monkey::resizeWindow()
     m_window->resize(below(1600), below(1000));
 }
 
-/// Closes what stands about, and brings the main window back if that is what was closed.
+/// Closes all other windows, and shows the main window again if it was closed.
 void Monkey::tidyUp()
 {
     const QList<QWidget *> windows = shownWindows();

@@ -20,8 +20,8 @@ class QWidget;
 
 /**
  * Clicks and types at random into whatever the program shows, for a given time. It never leaves the
- * program: file dialogs are answered with names in one folder, links are not followed, and the main
- * window is shown again when it was closed. The same seed makes the same choices.
+ * program: it answers file dialogs with names in one folder, follows no links, and shows the main
+ * window again when it was closed. The same seed makes the same choices.
  */
 class Monkey final : public QObject
 {

@@ -14,7 +14,7 @@ namespace {
 
 int unexpectedMessages = 0;
 
-/// Qt's offscreen platform says these of what it lacks. Anything else is a finding.
+/// Qt prints this about the limits of its offscreen platform. Anything else is a finding.
 void countMessage(QtMsgType, const QMessageLogContext &, const QString &message)
 {
     if (message.startsWith(QLatin1String("This plugin does not support")))
@@ -31,7 +31,7 @@ int main(int argc, char *argv[])
         std::fputs("usage: dezimo-monkey <minutes> <seed>\n", stderr);
         return 2;
     }
-    // Neither the person's settings nor the person's files are in reach.
+    // A home of its own, so that the monkey cannot reach the user's settings and files.
     const QTemporaryDir folder;
     qputenv("HOME", QFile::encodeName(folder.path()));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.filePath(QStringLiteral("config"))));

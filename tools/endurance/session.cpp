@@ -20,8 +20,8 @@ using namespace Dezimo;
 
 namespace {
 
-/// Every text of every module says which generation it belongs to, so that a file that mixes two of
-/// them shows it.
+/// Every text of every module says which generation it belongs to, so that one can see if a file
+/// mixes two of them.
 void becomeGeneration(int number)
 {
     const QString text = QStringLiteral("generation %1").arg(number);
@@ -34,7 +34,7 @@ void becomeGeneration(int number)
     }
 }
 
-/// The start, the opening of a file and the end, each timed in milliseconds.
+/// Starts, opens a file and ends, and prints how many milliseconds each took.
 int startAndQuit(const QStringList &arguments)
 {
     QElapsedTimer timer;
@@ -65,7 +65,7 @@ int startAndQuit(const QStringList &arguments)
     return 0;
 }
 
-/// Each window that goes writes the settings.
+/// Each window writes the settings when it is destroyed.
 void exitRepeatedly(int first, int times)
 {
     for (int generation = first; generation < first + times; ++generation) {
@@ -104,7 +104,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     std::fputs("usage: dezimo-session quit [FILE] | exit FIRST TIMES | save FIRST TIMES FILE\n"
-               "FIRST is the number of the first generation of texts that is written\n",
+               "FIRST is the number of the first generation of texts to write\n",
                stderr);
     return 2;
 }

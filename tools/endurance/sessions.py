@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""Sessions of the program for the scripts beside: each has a home and a store of its own."""
+"""Sessions of the program for the scripts in this folder. Each has a home and a store of its own."""
 
 import os
 import pathlib
@@ -15,7 +15,7 @@ NOBODY = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
 
 
 def build():
-    """The optimized program, as it is shipped, and the tools."""
+    """Builds the optimized program, as it is shipped, and the tools."""
     subprocess.run(["tools/packages.sh", "build", "run", "test", "endurance"], cwd=ROOT, check=True)
     subprocess.run(["cmake", "--preset", "endurance"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
     targets = ["dezimo", "dezimo-session", "dezimo-soak", "dezimo-monkey"]
@@ -28,25 +28,25 @@ class Home:
 
     def __init__(self, folder=None):
         self.folder = pathlib.Path(folder or tempfile.mkdtemp())
-        # What an unprivileged user must reach lies in it.
+        # The user nobody must reach what is in it.
         self.folder.chmod(0o755)
         self.store = self.folder / "config/Vantrel/Dezimo.conf"
         self.store.parent.mkdir(parents=True)
         self.runtime = tempfile.mkdtemp()
 
     def environment(self):
-        """The variables of a session here."""
+        """The environment variables of a session in this home."""
         return dict(os.environ, HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder / "config"),
                     XDG_RUNTIME_DIR=self.runtime, QT_QPA_PLATFORM="offscreen")
 
     def start(self, *arguments, program=SESSION, prefix=()):
-        """A session that runs beside."""
+        """Starts a session and does not wait for it."""
         return subprocess.Popen([*prefix, program, *map(str, arguments)], env=self.environment(),
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
 
     def run(self, *arguments, prefix=(), complaint=None):
-        """Runs a session to its end, within a minute. Returns what it printed, or raises if it was
-        not clean: it must say nothing but one line with @p complaint, if there is one."""
+        """Runs a session to its end, within a minute, and returns what it printed. Raises if its
+        status is not 0 or if it complains of anything but, in one line, @p complaint."""
         if prefix:
             os.chown(self.runtime, 65534, 65534)
         process = self.start(*arguments, prefix=prefix)
@@ -62,8 +62,8 @@ class Home:
 
 
 def generation(text):
-    """Which generation a stored text belongs to, or None unless it is whole: six groups, and every
-    text of one and the same generation."""
+    """The generation of a stored text and the number of its texts, or None if it is not whole. A whole
+    one has six groups, and all its texts are of the same generation."""
     groups = re.findall(r"^\[(\w+Profile)\]$", text, re.MULTILINE)
     texts = re.findall(r"^\w+=generation (\d+)$", text, re.MULTILINE)
     whole = len(groups) == 6 and len(set(texts)) == 1 and text.endswith("\n")

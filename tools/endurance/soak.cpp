@@ -37,7 +37,8 @@ QString randomText(Random &random)
     return text;
 }
 
-/// Half of the texts are numbers with a unit that fits somewhere, so that calculations succeed too.
+/// Half of the texts are numbers with a unit that some field accepts, so that some calculations
+/// succeed.
 QString randomInput(Random &random)
 {
     static const std::vector<const char *> units{"", "", "", "dBm", "dB", "W", "mW", "V", "mV"};
@@ -82,7 +83,7 @@ struct Model
     std::vector<QMetaMethod> calculations;
 };
 
-/// A property takes a random value, and a random calculation follows.
+/// Sets a property to a random value and then makes a random calculation.
 void edit(Random &random, const Model &model)
 {
     const QMetaProperty &property = model.properties.at(below(random, model.properties.size()));

@@ -13,7 +13,8 @@
 
 namespace {
 
-/// Qt's offscreen platform says this of every window with a smallest size. All else is passed on.
+/// Qt's offscreen platform prints this for every window with a minimum size. Everything else is
+/// passed on.
 const char kOffscreenSizeHints[] = "This plugin does not support propagateSizeHints()";
 QtMessageHandler passOn = nullptr;
 

@@ -41,7 +41,7 @@ bool choose(QComboBox *selector, const QString &text)
     return selector->currentText() == text;
 }
 
-/// A segmented switch is a row of buttons that carry the items' texts.
+/// A segmented switch is a row of buttons with the texts of the items.
 bool press(QWidget *buttons, const QString &text)
 {
     const QList<QPushButton *> candidates = buttons->findChildren<QPushButton *>();
@@ -71,8 +71,8 @@ bool perform(QWidget &page, const Tour::Step &step)
     return true;
 }
 
-/// What the widget shows, or nothing if there is no such widget. A selector that is hidden, since
-/// the result has no unit, shows an empty text.
+/// What the widget shows, or nothing if there is no such widget. A selector is hidden if the result
+/// has no unit; its text is empty then.
 std::optional<QString> textOf(const QWidget &page, const char *objectName)
 {
     auto *widget = page.findChild<QWidget *>(QLatin1String(objectName));
@@ -150,7 +150,7 @@ Tour::Played Tour::play(QWidget &window, const Example &example)
             played.missing +=
                 QLatin1String(step.objectName) + QLatin1Char(' ') + QString::fromUtf8(step.text);
     }
-    // What was typed last is finished by leaving it, as the fields before were.
+    // The last field is left like those before it, so that its edit is finished.
     if (QWidget *field = page.focusWidget())
         field->clearFocus();
     for (const Shown &shown : example.shown) {

@@ -12,15 +12,15 @@ class QWidget;
 
 namespace Tour {
 
-/// One thing that a person does: type a text into the field and leave it, or choose the item with
-/// that text in a selector, a switch or a tab bar.
+/// One thing that a person does: types a text into the field and leaves it, or chooses the item
+/// with that text in a selector, a switch or a tab bar.
 struct Step
 {
     const char *objectName;
     const char *text;
 };
 
-/// What is read off the window afterwards, with the words around it.
+/// What is read from the window afterwards, with the words around it.
 struct Shown
 {
     const char *before;
@@ -31,7 +31,7 @@ struct Shown
 struct Example
 {
     int module;
-    const char *picture; ///< file name without extension; empty where no picture is taken
+    const char *picture; ///< file name without extension; empty if no picture is taken
     const char *typed;   ///< what is done, in words
     std::vector<Step> steps;
     std::vector<Shown> shown;
@@ -42,10 +42,10 @@ const std::vector<Example> &examples();
 struct Played
 {
     QString line;        ///< what was typed and what the window shows
-    QStringList missing; ///< widgets and items that the example names and the window lacks
+    QStringList missing; ///< widgets and items that the example names and the window does not have
 };
 
-/// Plays @p example in @p window. It failed if anything is missing.
+/// Plays @p example in @p window. If anything is missing, it has failed.
 Played play(QWidget &window, const Example &example);
 
 } // namespace Tour

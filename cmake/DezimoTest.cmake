@@ -61,7 +61,8 @@ endfunction()
 
 # dezimo_add_test(<name> [SOURCES <files>] LINKS <libraries> [LABELS slow] [TIMEOUT <seconds>]):
 # one Qt Test executable, <name>.cpp unless said otherwise, registered with CTest. It runs on Qt's
-# offscreen platform with folders of its own (see tests/support/testmain.h).
+# offscreen platform with folders of its own (see tests/support/testmain.h). Slow tests begin first,
+# so that no processor waits for one at the end.
 function(dezimo_add_test name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
   if(NOT arg_TIMEOUT)
@@ -78,8 +79,13 @@ function(dezimo_add_test name)
     RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE Dezimo::TestSupport ${arg_LINKS})
   dezimo_test_options(${name})
+  set(cost 0)
+  if("slow" IN_LIST arg_LABELS)
+    set(cost 10)
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
+    COST ${cost}
     TIMEOUT ${arg_TIMEOUT}
     LABELS "${arg_LABELS}"
     ENVIRONMENT "${arg_ENVIRONMENT}")

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# bench/compare.sh BASE [NEW]: builds two commits (NEW is HEAD unless given) as the program is
-# shipped and prints what NEW costs in units of BASE: the program on the desktop, and every row of
-# the engine's benchmark that both have. Below 1 is faster or smaller.
+# bench/compare.sh BASE [NEW]: builds two commits as the program is shipped (NEW is HEAD by default) and
+# prints the cost of NEW as a multiple of BASE's: for the program on the desktop, and for every row of
+# the engine's benchmark that both have. Below 1 means that NEW is faster or smaller.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -23,7 +23,7 @@ trap remove_trees EXIT
 
 binaries() { echo "$folder/$1/build/bench/bin"; }
 
-# build SIDE: the program and, where the commit has it, the engine's benchmark.
+# build SIDE: builds the program and, if the commit has it, the engine's benchmark.
 build() {
     local targets=(dezimo)
     git worktree add --quiet --detach "$folder/$1" "${commits[$1]}"
@@ -35,7 +35,7 @@ build() {
     )
 }
 
-# The shortest time of each row in all rounds, as lines "name time".
+# shortest FILE: prints the shortest time of each row in all rounds, as lines "name time".
 shortest() {
     awk -F, '/^"/ && !/_(BigO|RMS)"/ {
         gsub(/"/, "", $1)
@@ -57,7 +57,7 @@ xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
     build/bench/bin/desktop_benchmark --compare "$(binaries base)/dezimo" "$(binaries new)/dezimo"
 
 if [[ ! -x $(binaries base)/engine_benchmark || ! -x $(binaries new)/engine_benchmark ]]; then
-    echo "One of the commits has no benchmark of the engine." >&2
+    echo "At least one of the commits has no benchmark of the engine." >&2
     exit
 fi
 for ((round = 0; round < rounds; ++round)); do

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# bench/desktop.sh [--runs NUMBER] [WORD...]: installs what is missing, builds as the program is
-# shipped, and compares Dezimo with a floor program and its peers on a display of its own. With
-# words, only the programs whose name contains one of them. The table goes to the standard output.
+# bench/desktop.sh [--runs NUMBER] [WORD...]: installs what is missing, builds the program as it is
+# shipped, and compares Dezimo with a floor program and its peers on a display of its own. With words,
+# it measures only the programs whose names contain one of them. It prints the table to standard output.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -12,13 +12,13 @@
 
 namespace {
 
-/// What the toolkits' helper windows stay below, in pixels.
+/// The toolkits' helper windows are smaller than this, in pixels.
 constexpr int kMainWindowSize = 100;
 
-/// Beside every control: the last pixel of the window.
+/// The last pixel of the window, where no control is.
 constexpr int kRestingInset = 1;
 
-/// A reply of the server, which the library leaves to its reader to free.
+/// A reply of the server, which whoever reads it must free.
 template <typename T>
 using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
@@ -180,7 +180,7 @@ std::optional<Display::Event> Display::translated(const xcb_generic_event_t &eve
     }
 }
 
-/// A window that has gone meanwhile makes an error event, which nobody reads.
+/// If the window has gone meanwhile, the server sends an error event, which nobody reads.
 void Display::watch(xcb_window_t window)
 {
     xcb_connection_t *connection = m_connection.get();

@@ -15,9 +15,9 @@
 #include <string>
 
 /**
- * The X server as one client sees it: which windows are mapped, painted and gone, and when; and the
- * keyboard and the pointer, moved as if a person did. Every window that appears is watched for
- * damage from its creation on. It throws std::runtime_error where there is no such server.
+ * The X server as one client sees it: which windows are mapped, painted and gone, and when. It also
+ * presses keys and moves the pointer as a person would. It watches every window for damage from its
+ * creation on. It throws std::runtime_error if there is no such server.
  */
 class Display final
 {
@@ -38,15 +38,16 @@ public:
     /// Forgets what has happened so far.
     void discardEvents();
 
-    /// Whether this is a program's window, not one of the helpers that toolkits create, or a popup.
+    /// Whether this is a program's main window, and neither a toolkit's helper window nor a popup.
     bool isMainWindow(xcb_window_t window) const;
-    /// Whether more than one color is seen; a window that was only mapped shows its background.
+    /// Whether the window shows more than one color; if it was only mapped, it shows its
+    /// background.
     bool hasContent(xcb_window_t window) const;
     std::string title(xcb_window_t window) const;
 
-    /// Gives the window the keyboard. The pointer goes where no control reacts to it.
+    /// Gives the window the keyboard, and moves the pointer to where no control reacts to it.
     void focus(xcb_window_t window);
-    /// Presses and lets go the key with the symbol; that of a character of ASCII is its code.
+    /// Presses and releases the key with the symbol. The symbol of an ASCII character is its code.
     void typeKey(xcb_keysym_t symbol);
     void movePointer(xcb_window_t window, int x, int y);
     void click();

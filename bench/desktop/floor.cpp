@@ -3,7 +3,8 @@
 
 /**
  * The least that a program of this kind can be: a bare main window of the same size, with two line
- * edits of which the second mirrors the first. What it needs, every program on this toolkit needs.
+ * edits of which the second mirrors the first. Every program on this toolkit needs at least as
+ * much.
  */
 
 #include <QApplication>

@@ -8,8 +8,8 @@
  * usage: desktop_benchmark [--runs NUMBER] [WORD...]
  *        desktop_benchmark [--runs NUMBER] --compare BASE NEW
  *
- * With words, only those programs are measured whose name contains one of them. The second form
- * measures two builds of Dezimo against each other.
+ * With words, only the programs whose names contain one of them are measured. The second form
+ * compares two builds of Dezimo.
  */
 
 #include "display.h"
@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A folder that goes with the object.
+/// A folder that is removed with the object.
 class TemporaryFolder final
 {
 public:
@@ -84,8 +84,8 @@ void keepWanted(std::vector<Program> &programs, const std::vector<std::string> &
     programs.erase(std::remove_if(programs.begin(), programs.end(), isUnwanted), programs.end());
 }
 
-/// The programs take turns, so that whatever else the machine does meets all of them. Each has its
-/// own home, in which a first start that is not counted leaves what the program caches.
+/// The programs take turns, so that whatever else the machine does slows down all of them alike.
+/// Each has its own home. A first start that is not counted leaves there what the program caches.
 std::vector<Row> measured(const std::vector<Program> &programs, int runs)
 {
     const TemporaryFolder homes;

@@ -11,9 +11,8 @@
 #include <filesystem>
 
 /**
- * A running program with a home of its own, which it finds as its HOME and its XDG folders; it
- * inherits nothing else of the environment but the display. It is killed at the end of its life, so
- * that it writes nothing.
+ * A running program with a home of its own, which its HOME and XDG folders name. Of the environment
+ * it inherits only the display. The destructor kills it, so that it writes nothing.
  */
 class Process final
 {
@@ -25,7 +24,7 @@ public:
     Process &operator=(const Process &) = delete;
 
     Clock::time_point startTime() const { return m_startTime; }
-    /// User and system time of all its threads so far, in ms.
+    /// User and system time of all threads so far, in ms.
     double processorMilliseconds() const;
     /// Memory that it shares with no other process, in MiB.
     double privateMebibytes() const;

@@ -48,12 +48,12 @@ std::vector<Program> programsToCompare(const fs::path &folder)
         if (const auto path = installed(peer))
             programs.push_back({peer, *path, std::nullopt});
         else
-            std::cerr << "Left out, as it is not installed: " << peer << '\n';
+            std::cerr << "Not installed and so left out: " << peer << '\n';
     }
     return programs;
 }
 
-/// Calculations in which every digit that is typed changes the result.
+/// The settings hold calculations in which every digit that is typed changes the result.
 void prepareSettings(const Program &program, const fs::path &home)
 {
     if (!program.module)

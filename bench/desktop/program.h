@@ -14,14 +14,14 @@ struct Program
 {
     std::string name;
     std::filesystem::path path;
-    std::optional<int> module; ///< of Dezimo: the module that its settings name as the current one
+    std::optional<int> module; ///< for Dezimo, the module that its settings name as the current one
 };
 
-/// Dezimo with each of its modules, the floor, and those of the peers that are installed; the
-/// others are named on the standard error output. @p folder is where the first two lie.
+/// Dezimo with each of its modules, the floor, and those of the peers that are installed. The names
+/// of the other peers are printed to standard error. @p folder is where Dezimo and the floor are.
 std::vector<Program> programsToCompare(const std::filesystem::path &folder);
 
-/// Writes the settings that the program is to find at its start.
+/// Writes the settings that the program finds at its start.
 void prepareSettings(const Program &program, const std::filesystem::path &home);
 
 #endif

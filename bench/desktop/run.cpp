@@ -18,15 +18,15 @@ namespace {
 constexpr auto kLongestStart = 30s;
 constexpr auto kSettledPause = 300ms;
 /// A program may show its answer only after the key on its keypad has come up again, 100 ms later.
-/// What is painted later still answers no key: a fading tooltip, or a cursor that blinks.
+/// What is painted even later is no answer to a key: a fading tooltip, or a cursor that blinks.
 constexpr auto kBurstPause = 150ms;
-/// Between two keys.
+/// The pause between two keys.
 constexpr auto kTypingPause = 200ms;
 
 constexpr char kDigits[] = "12345678";
 constexpr xcb_keysym_t kHomeKey = 0xff50;
 
-/// Where Dezimo's module list has its rows in the window.
+/// Where the rows of Dezimo's module list are in the window.
 constexpr int kRows = 5;
 constexpr int kRowX = 20;
 constexpr int kFirstRowY = 48;
@@ -105,7 +105,7 @@ void Measurement::waitForPause()
         m_run.settled = sinceStart(start->last);
 }
 
-/// Dezimo's voltage calculator starts with a unit, before which the digits belong.
+/// Dezimo's voltage calculator starts with a unit, and the digits belong before it.
 void Measurement::prepareTyping()
 {
     m_display.focus(m_window);
@@ -128,8 +128,8 @@ void Measurement::typeDigits()
     }
 }
 
-/// Every row once, beginning with the one after the current module's, so that each but the last
-/// shows its page for the first time.
+/// Clicks every row once, beginning with the one after the current module's, so that every page but
+/// the last is shown for the first time.
 void Measurement::clickRows(int current)
 {
     for (int i = 1; i <= kRows; ++i) {
@@ -146,7 +146,7 @@ void Measurement::clickRows(int current)
     }
 }
 
-/// What is painted until nothing is for that long, if anything is.
+/// The first and the last painting before nothing is painted for @p pause, if there is any.
 std::optional<Measurement::Burst> Measurement::burst(Clock::duration pause)
 {
     std::optional<Burst> burst;
@@ -176,7 +176,7 @@ double Measurement::sinceStart(Clock::time_point time) const
     return milliseconds(time - m_process.startTime());
 }
 
-/// The windows of a program that has ended go a little later.
+/// The windows of a program disappear a little after it has ended, so this waits for it.
 void forgetWindows(Display &display)
 {
     while (display.nextEvent(Clock::now() + kTypingPause)) {

@@ -11,8 +11,9 @@ class Display;
 struct Program;
 
 /**
- * What one start of a program showed. Times are in ms, from the start of the process or from the
- * press of the key or the button; a key or a click that changed nothing on the screen is left out.
+ * What was measured in one run of a program. Times are in ms, from the start of the process or from
+ * the press of the key or the button. A key or a click that changed nothing on the screen is left
+ * out.
  */
 struct Run
 {
@@ -26,7 +27,7 @@ struct Run
     std::vector<double> clickLast; ///< on the rows of Dezimo's module list
 };
 
-/// Throws std::runtime_error where the program shows no window.
+/// Throws std::runtime_error if the program shows no window.
 Run measuredRun(Display &display, const Program &program, const std::filesystem::path &home);
 
 #endif

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Values without any measurement have no median.
+/// Without any measurement there is no median.
 double median(std::vector<double> values)
 {
     if (values.empty())

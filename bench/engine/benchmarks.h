@@ -4,7 +4,7 @@
 #ifndef BENCH_ENGINE_BENCHMARKS_H
 #define BENCH_ENGINE_BENCHMARKS_H
 
-/// Each adds its rows to those that the program measures.
+/// Each of these functions adds its rows to those that the program measures.
 void registerConverters();
 void registerExpressions();
 void registerFiles();

@@ -18,7 +18,8 @@ using namespace Dezimo;
 
 namespace {
 
-/// Which field was calculated last, so that leaving it again does nothing; an edit clears that.
+/// A model notes which field it calculated last, so that leaving that field again does nothing. An
+/// edit clears the note.
 void beginEdit(DbConverterProfile &converter)
 {
     converter.setPLatestRun(0);
@@ -29,7 +30,7 @@ void beginEdit(UnitConverterProfile &) {}
 
 void beginEdit(VswrConverterProfile &) {}
 
-/// What the fields need beside the one that is typed into.
+/// What the other fields must hold when something is typed into one.
 void fill(UnitConverterProfile &) {}
 
 void fill(DbConverterProfile &converter)

@@ -3,7 +3,7 @@
 
 /**
  * How long an expression calculator takes for a text of n characters. The fitted complexity in the
- * last rows is to be linear, and the longest text (about what a line edit holds) a matter of
+ * last rows should be linear. The longest text, about what a line edit holds, should take only
  * milliseconds.
  */
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// As many whole copies of @p term after @p first as @p length has room for.
+/// @p first and as many whole copies of @p term as fit into @p length.
 QString chain(const char *first, const char *term, int length)
 {
     const QString repeated = QString::fromLatin1(term);

@@ -17,13 +17,14 @@ QString voltages(int length);
 
 QString groupsInARow(int length);
 
-/// Each group adds to the value of the one within: (1+(1+(1))).
+/// Each group adds 1 to the value of the group inside it: (1+(1+(1))).
 QString nestedSums(int length);
 
-/// Nothing but brackets around a value of its own length.
+/// A value in brackets, with as many digits as pairs of brackets: (((111))).
 QString nestedValue(int length);
 
-/// Nested around a value that no number is, so that the evaluation starts again without brackets.
+/// Nested around a value that is not a number, so that the evaluation starts again without
+/// brackets.
 QString nestedError(int length);
 
 } // namespace Expressions

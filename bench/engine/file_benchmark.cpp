@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 /**
- * Loading and saving a calculation file, with all that the file system makes of it.
+ * Loading and saving a calculation file, including what the file system takes.
  */
 
 #include "benchmarks.h"
@@ -18,7 +18,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// Runs @p access on a new store over the file, as each command of the File menu does.
+/// Runs @p access on a new store for the file, as each command of the File menu does.
 template <typename Access>
 void accessFile(benchmark::State &state, Access access)
 {
@@ -34,7 +34,7 @@ void accessFile(benchmark::State &state, Access access)
     content.close();
     bool isLonger = true;
     while (state.KeepRunning()) {
-        // Qt remembers what it has read until the file has another size.
+        // Qt keeps what it has read until the size of the file changes.
         state.PauseTiming();
         content.remove();
         content.open(QIODevice::WriteOnly);

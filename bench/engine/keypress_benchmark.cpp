@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 /**
- * What the model does for one key press on an expression of 100 characters, and the two parts of it
- * that read operands and that write the numbers between two steps.
+ * What the model does for one key press on an expression of 100 characters. Two parts of it are
+ * also measured alone: reading operands, and writing the numbers between two steps.
  */
 
 #include "benchmarks.h"

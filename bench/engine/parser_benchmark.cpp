@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 /**
- * The numeric calculation beside a plain expression library that evaluates the same sums. The two
- * take turns within one measurement; the counter is the ratio of their times.
+ * The numeric calculation compared with a plain expression library that evaluates the same sums.
+ * The two take turns within one measurement; the counter is the ratio of their times.
  */
 
 #include "benchmarks.h"

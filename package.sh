@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # ./package.sh [windows]: installs what is missing, builds the Debian package, or the zip and the
-# installer for Windows, and says where it lies. The same sources give the same bytes: every time in
-# a package is that of the release.
+# installer for Windows, and prints where they are. The same sources give the same bytes, because every
+# file in a package has the time of the release.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -14,7 +14,7 @@ umask 022
 
 debian() {
     tools/packages.sh build package
-    export LC_ALL=C.UTF-8 # CPack cannot read a path beyond ASCII otherwise
+    export LC_ALL=C.UTF-8 # without it CPack cannot read paths beyond ASCII
     rm -f build/package/*.deb
     cmake --preset package >/dev/null # warnings and errors still show
     cmake --build --preset package
@@ -24,7 +24,7 @@ debian() {
 }
 
 windows() {
-    # With what runs the result here, so that it can be looked at and tested at once.
+    # windows-test has what runs the result here, so that it can be looked at and tested at once.
     tools/packages.sh build windows windows-test
     local sdk version
     sdk=$(tools/windows_sdk.sh)

@@ -15,5 +15,5 @@ if [[ -n ${DISPLAY:-} || -n ${WAYLAND_DISPLAY:-} ]]; then
     exec build/release/bin/dezimo
 fi
 
-echo "No display (neither DISPLAY nor WAYLAND_DISPLAY): playing the guided tour into build/tour/"
+echo "No display: neither DISPLAY nor WAYLAND_DISPLAY is set. Playing the guided tour into build/tour/"
 tools/play_tour.sh build/tour

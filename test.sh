@@ -39,13 +39,13 @@ if [[ -n $windows ]]; then
     exec ctest --preset windows --parallel 2 "${choice[@]}"
 fi
 
-# Where there is no dpkg, CTest leaves out what looks into the Debian package.
+# Without dpkg, CTest leaves out the tests of the Debian package.
 groups=(build run test)
 ! command -v dpkg-deb >/dev/null || groups+=(package package-test)
 tools/packages.sh "${groups[@]}"
 
-# The sanitizers lay their shadow memory at fixed addresses. Kernels that spread mappings over more
-# than 28 bits sometimes put the program there, so it is loaded at fixed addresses where allowed.
+# The sanitizers' shadow memory is at fixed addresses. Kernels that spread mappings over more than 28
+# bits sometimes put the program there, so it is loaded at fixed addresses where that is allowed.
 loaded=()
 if setarch --addr-no-randomize true 2>/dev/null; then
     loaded=(setarch --addr-no-randomize)
@@ -55,7 +55,8 @@ export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
 export TSAN_OPTIONS=suppressions=$PWD/tests/tsan.supp
 export UBSAN_OPTIONS=print_stacktrace=1
 
-# The one object that threads may create at once; ThreadSanitizer needs a build of its own.
+# This tests the one object that several threads may create at once. ThreadSanitizer needs a build of
+# its own.
 threads=tst_mainprofile_threads
 build tsan "$threads"
 "${loaded[@]}" ctest --preset tsan --tests-regex "^$threads\$"

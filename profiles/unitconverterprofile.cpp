@@ -34,7 +34,7 @@ double zero(double)
 }
 
 /// A voltage level in an unknown unit is 0, whatever the voltage.
-constexpr Unit kNoUnit{QLatin1String(""), zero, zero};
+constexpr Unit kNoUnit{latin1(""), zero, zero};
 
 constexpr Unit kLogPowerRows[] = {Units::kDbm, Units::kDbw};
 constexpr Unit kLinPowerRows[] = {Units::kMilliwatt, Units::kWatt};

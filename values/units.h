@@ -4,9 +4,8 @@
 #ifndef VALUES_UNITS_H
 #define VALUES_UNITS_H
 
+#include "latin1.h"
 #include "levels.h"
-
-#include <QLatin1String>
 
 #include <cstddef>
 
@@ -36,26 +35,22 @@ double over(double value)
     return value / divisor;
 }
 
-inline constexpr Unit kMilliwatt{QLatin1String("mW"), times<1>, over<1>};
-inline constexpr Unit kMicrowatt{QLatin1String("\xB5W"), over<1000>, times<1000>};
-inline constexpr Unit kWatt{QLatin1String("W"), times<1000>, over<1000>};
-inline constexpr Unit kDbm{QLatin1String("dBm"), Levels::milliwattFromDbm,
-                           Levels::dbmFromMilliwatt};
-inline constexpr Unit kDbw{QLatin1String("dBW"), Levels::milliwattFromDbw,
-                           Levels::dbwFromMilliwatt};
+inline constexpr Unit kMilliwatt{latin1("mW"), times<1>, over<1>};
+inline constexpr Unit kMicrowatt{latin1("\xB5W"), over<1000>, times<1000>};
+inline constexpr Unit kWatt{latin1("W"), times<1000>, over<1000>};
+inline constexpr Unit kDbm{latin1("dBm"), Levels::milliwattFromDbm, Levels::dbmFromMilliwatt};
+inline constexpr Unit kDbw{latin1("dBW"), Levels::milliwattFromDbw, Levels::dbwFromMilliwatt};
 
-inline constexpr Unit kMillivolt{QLatin1String("mV"), times<1>, over<1>};
-inline constexpr Unit kVolt{QLatin1String("V"), times<1000>, over<1000>};
-inline constexpr Unit kDbv{QLatin1String("dBV"), Levels::millivoltFromDbv,
-                           Levels::dbvFromMillivolt};
-inline constexpr Unit kDbmicrovolt{QLatin1String("dB\xB5V"), Levels::millivoltFromDbmicrovolt,
+inline constexpr Unit kMillivolt{latin1("mV"), times<1>, over<1>};
+inline constexpr Unit kVolt{latin1("V"), times<1000>, over<1000>};
+inline constexpr Unit kDbv{latin1("dBV"), Levels::millivoltFromDbv, Levels::dbvFromMillivolt};
+inline constexpr Unit kDbmicrovolt{latin1("dB\xB5V"), Levels::millivoltFromDbmicrovolt,
                                    Levels::dbmicrovoltFromMillivolt};
-inline constexpr Unit kDbu{QLatin1String("dBu"), Levels::millivoltFromDbu,
-                           Levels::dbuFromMillivolt};
+inline constexpr Unit kDbu{latin1("dBu"), Levels::millivoltFromDbu, Levels::dbuFromMillivolt};
 
 /// A ratio and a plain number have no base unit but themselves.
-inline constexpr Unit kDb{QLatin1String("dB"), times<1>, over<1>};
-inline constexpr Unit kNone{QLatin1String(""), times<1>, over<1>};
+inline constexpr Unit kDb{latin1("dB"), times<1>, over<1>};
+inline constexpr Unit kNone{latin1(""), times<1>, over<1>};
 
 } // namespace Units
 

@@ -42,7 +42,7 @@ private Q_SLOTS:
 namespace {
 
 /// What QSettings calls the group of keys that are in none.
-constexpr QLatin1String kGroup("");
+constexpr QLatin1String kGroup("", 0);
 constexpr QLatin1String kText("default", 7);
 constexpr int kInteger = 42;
 constexpr double kDouble = 4.25;

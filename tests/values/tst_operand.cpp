@@ -26,8 +26,8 @@ private Q_SLOTS:
 namespace {
 
 /// Units of which one begins as another does.
-constexpr Unit kI{QLatin1String("i"), Units::times<1>, Units::over<1>};
-constexpr Unit kIn{QLatin1String("in"), Units::times<1>, Units::over<1>};
+constexpr Unit kI{latin1("i"), Units::times<1>, Units::over<1>};
+constexpr Unit kIn{latin1("in"), Units::times<1>, Units::over<1>};
 
 /// A calculator of lengths, in the order of the search.
 const ExpressionUnits &lengths()

@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr Unit kYard{QLatin1String("y"), Units::times<1>, Units::over<1>};
+constexpr Unit kYard{latin1("y"), Units::times<1>, Units::over<1>};
 
 const ExpressionUnits &lengths()
 {

@@ -57,6 +57,12 @@ if(DEZIMO_SANITIZERS)
   target_compile_options(dezimo_options INTERFACE
     -fsanitize=${DEZIMO_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(dezimo_options INTERFACE -fsanitize=${DEZIMO_SANITIZERS})
+  # Links a hundred test programs in a third of the time, where binutils still come with it.
+  find_program(DEZIMO_GOLD ld.gold)
+  mark_as_advanced(DEZIMO_GOLD)
+  if(DEZIMO_GOLD)
+    target_link_options(dezimo_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fuse-ld=gold>)
+  endif()
 endif()
 
 # dezimo_sees(<variable> <target> <library>): whether the target may include what the library publishes.

@@ -23,7 +23,10 @@ public:
     explicit Profile(QObject *parent = nullptr) : QObject(parent) {}
 
     /// The name of the profile's group in a store: that of its class, without the namespace.
-    QString group() const;
+    QString group() const
+    {
+        return QString::fromLatin1(metaObject()->className()).section(QLatin1String("::"), -1);
+    }
 
     /// Writes the profile's group into @p settings.
     virtual void saveSettings(QSettings &settings) = 0;

@@ -14,11 +14,6 @@ namespace Dezimo {
 
 namespace {
 
-bool isText(const QVariant &stored)
-{
-    return stored.userType() == QMetaType::QString;
-}
-
 /// INI files keep every number as a text, the registry keeps integers as integers.
 bool isNumberOrText(const QVariant &stored)
 {
@@ -37,9 +32,8 @@ bool isNumberOrText(const QVariant &stored)
 
 QVariant textOrNothing(const QVariant &stored)
 {
-    if (!isText(stored) || stored.toString().size() > kMaximumTextLength)
-        return {};
-    return stored;
+    const bool isText = stored.userType() == QMetaType::QString;
+    return isText && stored.toString().size() <= kMaximumTextLength ? stored : QVariant();
 }
 
 /// Read as a text whatever its type, since a variant cuts a number that is no int down to one.

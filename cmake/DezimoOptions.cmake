@@ -127,6 +127,26 @@ function(dezimo_precompile target core widgets)
   endif()
 endfunction()
 
+# dezimo_add_forms(<target> <files>): makes the headers of those files that are forms, each by itself.
+# With AUTOUIC, a change of one page's source has the sources of all pages compiled again.
+function(dezimo_add_forms target)
+  list(FILTER ARGN INCLUDE REGEX "\\.ui$")
+  set(folder "${CMAKE_CURRENT_BINARY_DIR}/${target}_forms/include")
+  foreach(form IN LISTS ARGN)
+    cmake_path(GET form STEM name)
+    set(header "${folder}/ui_${name}.h")
+    add_custom_command(
+      OUTPUT "${header}"
+      COMMAND Qt5::uic -o "${header}" "${CMAKE_CURRENT_SOURCE_DIR}/${form}"
+      DEPENDS "${form}"
+      COMMENT "Making ui_${name}.h"
+      VERBATIM)
+    target_sources(${target} PRIVATE "${header}")
+  endforeach()
+  set_target_properties(${target} PROPERTIES AUTOUIC OFF)
+  target_include_directories(${target} PRIVATE "${folder}")
+endfunction()
+
 # dezimo_library(<folder> LINKS <public libraries> SOURCES <files>): the one library of a folder,
 # as the library dezimo_<folder> with the alias Dezimo::<Folder>; it is static unless
 # BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer
@@ -139,6 +159,7 @@ function(dezimo_library folder)
   string(SUBSTRING ${folder} 1 -1 rest)
   add_library(${target} ${arg_SOURCES})
   add_library(Dezimo::${initial}${rest} ALIAS ${target})
+  dezimo_add_forms(${target} ${arg_SOURCES})
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
   target_link_libraries(${target}
     PUBLIC ${arg_LINKS}

@@ -48,7 +48,7 @@ QString ExpressionProfile::unitText(int unit) const
 {
     for (const ExpressionUnit &row : m_table.units) {
         if (row.index == unit)
-            return row.unit->symbol;
+            return row.text;
     }
     return {};
 }

@@ -25,7 +25,8 @@ public:
     /// The name of the profile's group in a store: that of its class, without the namespace.
     QString group() const
     {
-        return QString::fromLatin1(metaObject()->className()).section(QLatin1String("::"), -1);
+        const QLatin1String name(metaObject()->className());
+        return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
     }
 
     /// Writes the profile's group into @p settings.

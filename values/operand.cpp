@@ -13,9 +13,9 @@ std::optional<Operand> parseOperand(QString text, const ExpressionUnits &units)
 {
     // Every text contains the empty one, so a plain number finds the last unit.
     const auto row = std::find_if(units.begin(), units.end(), [&text](const ExpressionUnit &each) {
-        return text.contains(each.unit->symbol);
+        return text.contains(each.text);
     });
-    text.remove(row->unit->symbol);
+    text.remove(row->text);
     const std::optional<double> value = readPrefixedValue(text);
     return value ? std::optional<Operand>({*value, row->unit}) : std::nullopt;
 }

@@ -63,7 +63,7 @@ AboutWindowCase::messagesOf(const std::function<void()> &action) const
 {
     QVector<Message> messages;
     QTimer watcher;
-    // Nothing is compared while the message is shown: a failure must not leave it open.
+    // A failed comparison would leave the message open, so nothing is compared while it is shown.
     connect(&watcher, &QTimer::timeout, m_window, [&messages] {
         auto *box = qobject_cast<KelMessageBox *>(QApplication::activeModalWidget());
         if (!box)

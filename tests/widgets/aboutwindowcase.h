@@ -17,15 +17,15 @@
 class QLabel;
 
 /**
- * A test of the About window. Before each test function product and host are reset to plain values,
- * with drivers found; after it the window is gone, and so are clipboard and style sheet.
+ * A test of the About window. Before each test function, product and host get plain values, and
+ * drivers are found. After it, the window is deleted, and clipboard and style sheet are empty.
  */
 class AboutWindowCase : public QObject
 {
     Q_OBJECT
 
 protected:
-    /// A message as it was shown.
+    /// A message as the program showed it.
     struct Message
     {
         QString title;
@@ -43,9 +43,9 @@ protected:
     void open();
     /// The label in a cell of the system information.
     QLabel *cell(int row, int column) const;
-    /// Presses the copy button and closes what is then shown.
+    /// Presses the copy button and closes the messages that it shows.
     QVector<Message> pressCopy() const;
-    /// Does what leads to messages, and closes each as soon as it is shown.
+    /// Runs @p action and closes each message as soon as it is shown.
     QVector<Message> messagesOf(const std::function<void()> &action) const;
 
     KelAboutWindow::Product m_product;
@@ -59,11 +59,11 @@ private Q_SLOTS:
 
 /// The format of a label's text, which is one link or one span.
 QTextCharFormat markupFormat(const QLabel *label);
-/// What a label shows of its markup.
+/// The text that a label shows, without its markup.
 QString plainText(const QLabel *label);
 /// A text file of the resources. Empty if it cannot be read.
 QString fileText(const QString &path);
-/// All style sheets but those whose names end with @p otherTheme, in one.
+/// All style sheets in one, except those whose names end with @p otherTheme.
 QString themeSheet(const QString &otherTheme);
 void addApplicationFonts();
 

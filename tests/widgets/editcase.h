@@ -14,8 +14,8 @@
 #include <vector>
 
 /**
- * A test of an edit that a person works in. Before each test function it stands in a window with a
- * neighbor and a menu, has the focus and holds a text of the program's.
+ * A test of an edit that a person works in. Before each test function, the edit stands in a window
+ * with a neighbor and a menu. It has the focus and holds a text that the program has set.
  */
 class EditCase : public QObject
 {
@@ -40,11 +40,11 @@ protected:
     const Steps &leavings() const { return m_leavings; }
 
     void type(const char *text);
-    /// Presses the keys that are named: "3 Return Ctrl+Z".
+    /// Presses the named keys, such as "3 Return Ctrl+Z".
     void keys(const char *names);
     void drop(const QString &text);
     void predict(const QString &word);
-    /// As the means of a screen reader do, which need not go there.
+    /// Writes as a screen reader does, which need not give the edit the focus.
     void writeFromOutside(const QString &text);
     QMenu &openContextMenu();
     void chooseFromContextMenu(const QString &entry);

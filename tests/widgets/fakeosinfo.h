@@ -8,7 +8,7 @@
 
 #include <QStringList>
 
-/// What a host is made to say. It outlives the provider that says it.
+/// The facts that a test gives to a host. They must outlive the provider that tells them.
 struct FakeFacts
 {
     QVector<OSInfo::Section> system;
@@ -18,7 +18,7 @@ struct FakeFacts
     QStringList questions;
 };
 
-/// Says what a FakeFacts holds at the moment of the question.
+/// Tells what a FakeFacts holds when it is asked.
 class FakeOsInfo final : public OSInfo
 {
 public:

@@ -73,7 +73,7 @@ void AccessibleComboBoxTest::theChoiceIsReadableAsText()
     QVERIFY(!interface()->editableTextInterface());
 }
 
-/// What a screen reader may try all the same does nothing.
+/// Whatever a screen reader tries, nothing changes.
 void AccessibleComboBoxTest::theTextCannotBeChanged()
 {
     QAccessibleTextInterface *text = interface()->textInterface();

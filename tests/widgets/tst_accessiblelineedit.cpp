@@ -251,7 +251,7 @@ void AccessibleLineEditTest::theWholeTextLooksAlike()
     QCOMPARE(end, 6);
 }
 
-/// Wherever the cursor is, a point in a character's place is found again as that character.
+/// A point inside a character leads back to that character, wherever the cursor is.
 void AccessibleLineEditTest::knowsWhereACharacterIs()
 {
     m_edit->resize(200, 30);

@@ -10,8 +10,8 @@
 #include <QPointer>
 #include <QTest>
 
-/// An edit selects an error that it shows, so that typing replaces it, and opens a context menu
-/// that leaves it as it is.
+/// Typing should replace an error, so an edit selects an error that it shows. Its context menu
+/// leaves cursor and selection as they are.
 class EditErrorsTest : public EditCase
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ void EditErrorsTest::aSecondClickPlacesTheCursor()
     QCOMPARE(m_edit->text(), QStringLiteral("1NAN"));
 }
 
-/// With the press that brings the focus.
+/// The press that starts the drag also gives the edit the focus.
 void EditErrorsTest::aPartOfAnErrorIsSelectedByDragging()
 {
     m_neighbor->setFocus();
@@ -138,7 +138,7 @@ void EditErrorsTest::theContextMenuHasTheFontOfMenus()
     QTest::keyClick(&menu, Qt::Key_Escape);
 }
 
-/// It belongs to the window, where one for each click would pile up.
+/// The window owns the menu. If closed menus stayed, they would pile up there.
 void EditErrorsTest::theContextMenuGoesWhenItIsClosed()
 {
     const QPointer<QMenu> left = &openContextMenu();

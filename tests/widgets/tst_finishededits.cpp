@@ -11,7 +11,7 @@
 #include <QIntValidator>
 #include <QTest>
 
-/// When an edit is finished: by Return, and by leaving the edit if the person has changed it.
+/// Return finishes an edit. Leaving it does so only if the person has changed the text.
 class FinishedEditsTest : public EditCase
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private:
 
     /// Every way in which a person changes the text.
     Steps m_changes;
-    /// Every way of being there without changing anything.
+    /// Everything that happens in the edit without a change by the person.
     Steps m_looks;
 };
 
@@ -199,7 +199,7 @@ void FinishedEditsTest::anEditAfterReturnIsFinishedAgain()
     QCOMPARE(m_finished->count(), 2);
 }
 
-/// As a model does that puts an error word into the field.
+/// A model does so to show an error word in the field.
 void FinishedEditsTest::aSlotMayReplaceTheText()
 {
     connect(m_edit, &QLineEdit::editingFinished, m_edit,
@@ -212,7 +212,7 @@ void FinishedEditsTest::aSlotMayReplaceTheText()
     QCOMPARE(m_finished->count(), 1);
 }
 
-/// Which is to leave it once more.
+/// Hiding the edit leaves it once more, but finishes it only once.
 void FinishedEditsTest::aSlotMayHideTheEdit()
 {
     connect(m_edit, &QLineEdit::editingFinished, m_edit, &QWidget::hide);
@@ -222,7 +222,8 @@ void FinishedEditsTest::aSlotMayHideTheEdit()
     QCOMPARE(m_finished->count(), 1);
 }
 
-/// The edit stays open until the text is acceptable, as Return finishes none before.
+/// Return does not finish a text that is not acceptable, and neither does leaving. The edit stays
+/// open until the text is acceptable.
 void FinishedEditsTest::aTextThatMustNotStayIsNotFinished()
 {
     QIntValidator twoDigits(10, 99);
@@ -260,7 +261,8 @@ void FinishedEditsTest::everyLeavingFinishesWhereItIsAskedFor()
     run(leavings(), leaving);
     QTRY_VERIFY(m_finished->count() > 0);
     QCoreApplication::processEvents();
-    // Where the focus may come back by itself, the platform decides how often it is lost.
+    // In these ways the focus may come back by itself, so the platform decides how often it is
+    // lost.
     for (const char *way : {"by a menu", "by minimizing", "by another window"}) {
         if (leaving.startsWith(QLatin1String(way)))
             return;
@@ -268,7 +270,7 @@ void FinishedEditsTest::everyLeavingFinishesWhereItIsAskedFor()
     QCOMPARE(m_finished->count(), 1);
 }
 
-/// The means of a screen reader write without going there.
+/// A screen reader writes into an edit without giving it the focus.
 void FinishedEditsTest::anUnfocusedEditIsFinishedByHiding()
 {
     m_neighbor->setFocus();

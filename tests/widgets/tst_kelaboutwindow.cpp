@@ -137,7 +137,7 @@ void KelAboutWindowTest::designTexts()
     QCOMPARE(dialog.windowTitle(), QStringLiteral("AboutWindow"));
     QCOMPARE(form.title->text(), QStringLiteral("SupportTool"));
     QCOMPARE(form.version->text(), QStringLiteral("Version 2.0.0 (01.03.2014)"));
-    // The typing error is the form's own.
+    // The form itself has this typing error.
     QCOMPARE(form.subtitle->text(), QStringLiteral("a tool to get imortant system information"));
     QCOMPARE(form.product_page->text(), QStringLiteral("Product page"));
     QCOMPARE(form.mail->text(), QStringLiteral("Support mail"));
@@ -196,7 +196,7 @@ void KelAboutWindowTest::listsTheDrivers()
 void KelAboutWindowTest::listsTheSystem()
 {
     open();
-    // Row, column, text; a row of its own has the same label in both columns.
+    // By row and column. A label with a row of its own is in both columns.
     QCOMPARE(cell(0, 0)->text(), heading(QStringLiteral("Operating System")));
     QCOMPARE(cell(0, 1), cell(0, 0));
     QCOMPARE(cell(1, 0)->text(), QStringLiteral("Product name"));
@@ -222,7 +222,7 @@ void KelAboutWindowTest::listsTheSystem()
 void KelAboutWindowTest::headingsAreLargeAndBold()
 {
     open();
-    // Large letters are 19 pixels and bold, or more.
+    // Bold text is large from 19 pixels on.
     QCOMPARE(cell(0, 0)->font().pixelSize(), 19);
     const QTextCharFormat format = markupFormat(cell(0, 0));
     // Qt's weights are an eighth of the markup's: 600 / 8 = 75.
@@ -285,7 +285,7 @@ void KelAboutWindowTest::legalPageNamesTheLicenses()
     QFETCH(QString, words);
 
     open();
-    // Line breaks, and the blanks that no line breaks at, are a matter of layout.
+    // Line breaks and non-breaking blanks only concern the layout.
     const QString page = child<QTextEdit>("license_box")->toPlainText().simplified();
     QVERIFY2(page.contains(words), qPrintable(words));
 }

@@ -34,13 +34,13 @@ void KelAboutWindowFocusTest::initTestCase()
     addApplicationFonts();
 }
 
-/// The names of what has the focus, one press of the key after the other, from the tab bar until
-/// the focus comes round to it again. A link takes one press more, which stays on its label.
+/// Presses the key until the focus is back on the tab bar. Returns the names of the widgets that it
+/// visits. A label with a link takes two presses but is named once.
 QStringList KelAboutWindowFocusTest::focusRound(Qt::Key key) const
 {
     child<QTabWidget>("tabs")->tabBar()->setFocus(Qt::TabFocusReason);
     QStringList names{m_window->focusWidget()->objectName()};
-    // More presses than a round of the window can take.
+    // No round of the window takes as many presses.
     for (int press = 0; press < 50; ++press) {
         QTest::keyClick(m_window->focusWidget(), key);
         const QString name = m_window->focusWidget()->objectName();
@@ -80,7 +80,7 @@ void KelAboutWindowFocusTest::reachesAllInOrder()
 
     if (!hasDrivers)
         m_facts.drivers.clear();
-    // In the plain style the tabs need buttons to scroll, which take the focus too.
+    // Without this style sheet the tabs need scroll buttons, which would take the focus too.
     qApp->setStyleSheet(themeSheet(QStringLiteral("_dark")));
     open();
     m_window->activateWindow();
@@ -88,7 +88,7 @@ void KelAboutWindowFocusTest::reachesAllInOrder()
     child<QTabWidget>("tabs")->setCurrentIndex(tab);
     QCOMPARE(focusRound(Qt::Key_Tab), names);
 
-    // Backwards from the tab bar on.
+    // Backward the order is reversed, and again begins with the tab bar.
     std::reverse(names.begin() + 1, names.end());
     QCOMPARE(focusRound(Qt::Key_Backtab), names);
 }

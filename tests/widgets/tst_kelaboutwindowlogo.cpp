@@ -108,7 +108,7 @@ void KelAboutWindowLogoTest::isDrawnForTheTheme()
     QCOMPARE(image, drawing(path, QSize(152, 61)));
 }
 
-/// The last function of all: it takes the icons away.
+/// This must run last because it removes the icons.
 void KelAboutWindowLogoTest::staysEmptyWithoutADrawing()
 {
     removeIcons();

@@ -94,7 +94,7 @@ void KelAboutWindowSupportTest::collectsOnceToShow()
     open();
     QStringList questions{QStringLiteral("drivers"), QStringLiteral("system")};
     QCOMPARE(m_facts.questions, questions);
-    // A change of colors is no reason to ask again.
+    // A new theme only changes colors, so the window does not ask again.
     m_window->onThemeChanged(Dark);
     QCOMPARE(m_facts.questions, questions);
 
@@ -115,7 +115,7 @@ void KelAboutWindowSupportTest::everyCopyCollectsAnew()
     QCOMPARE(QGuiApplication::clipboard()->text(),
              QStringLiteral("*** Global Setup ***\nProduct: Dezimo\nVersion: 3.2.1.0\nDate: 2022\n"
                             "\n*** A ***\nb: µ c\n\n***  ***\n\n"));
-    // What is shown stays as it was.
+    // The window still shows what it did before.
     QCOMPARE(plainText(cell(0, 0)), QStringLiteral("Operating System"));
 }
 
@@ -136,7 +136,7 @@ void KelAboutWindowSupportTest::copyReplacesAllFormats()
     earlier->setHtml(QStringLiteral("<b>earlier</b>"));
     QGuiApplication::clipboard()->setMimeData(earlier);
     pressCopy();
-    // Some window systems name the encoding in a second format.
+    // Some window systems add a second format, which names the encoding.
     const QStringList formats = QGuiApplication::clipboard()->mimeData()->formats();
     QVERIFY(formats.contains(QStringLiteral("text/plain")));
     for (const QString &format : formats)
@@ -149,7 +149,7 @@ void KelAboutWindowSupportTest::onlyTheButtonItselfCopies()
     child<QTabWidget>("tabs")->setCurrentIndex(2);
     const auto *button = child<QWidget>("scroll_content")->findChild<QPushButton *>();
     QVERIFY(button->isVisible());
-    // A dialog's default button would take Return from everywhere.
+    // A default button would react to Return anywhere in the dialog.
     QVERIFY(!button->isDefault());
     QTest::keyClick(m_window, Qt::Key_Return);
     QVERIFY(QGuiApplication::clipboard()->text().isEmpty());

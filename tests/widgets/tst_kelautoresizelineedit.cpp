@@ -67,7 +67,7 @@ void KelAutoResizeLineEditTest::sizeByHeight_data()
     QTest::addColumn<int>("height");
     QTest::addColumn<int>("size");
 
-    // Without text the first size, height - 12, fits, and one less is applied.
+    // Without text the first size, height - 12, fits. The edit then applies one less.
     QTest::newRow("an edit of a result line") << 61 << 48;
     QTest::newRow("the lowest edit of a form") << 24 << 11;
     QTest::newRow("the first size is the smallest one") << 23 << 10;
@@ -125,7 +125,7 @@ void KelAutoResizeLineEditTest::shrinksToTheFirstSizeThatFits()
 {
     QFETCH(int, fitting);
 
-    // 12 pixels of the width are the frame's, and a text as wide as the rest fits.
+    // The frame takes 12 pixels of the width. A text as wide as the rest fits.
     const QString text = QStringLiteral("-12.50 dBm + 3.25 mW - 7.25 dBW");
     m_edit->resize(textWidth(text, fitting) + 12, 60);
     m_edit->setText(text);

@@ -58,7 +58,7 @@ QStringList units()
     return {QStringLiteral("dBm"), QStringLiteral("mW"), QStringLiteral("W")};
 }
 
-/// Fills the box with units, shows it, and then its list.
+/// Fills the box with units, shows it and opens its list.
 void openList(KelComboBox &box)
 {
     box.addItems(units());
@@ -147,7 +147,7 @@ void KelComboBoxTest::opensBelowTheBox()
     QTRY_VERIFY(box.view()->isVisible());
     const QWidget *popup = box.view()->window();
     QVERIFY(popup != &window);
-    // Whatever item is chosen: 100 + 30 and, below the box, 50 + 20 + 28.
+    // The list opens below the box, whatever item is chosen: at 100 + 30 and 50 + 20 + 28.
     QCOMPARE(popup->pos(), QPoint(130, 98));
     QCOMPARE(box.view()->minimumWidth(), 250);
     QCOMPARE(box.view()->sizePolicy().horizontalPolicy(), QSizePolicy::MinimumExpanding);
@@ -171,7 +171,8 @@ void KelComboBoxTest::choosesByKeyboard()
     QTRY_VERIFY(!box.view()->isVisible());
 }
 
-/// Who scrolls a page by the wheel passes over its boxes and means none of them.
+/// A person who scrolls a page with the wheel passes over its boxes and does not mean to change
+/// them.
 void KelComboBoxTest::theWheelChoosesOnlyWithTheFocus()
 {
     QWidget window;
@@ -240,7 +241,7 @@ void KelComboBoxTest::isNotUnderAPointerThatLeftWhileTheListWasOpen()
     QTRY_VERIFY(!box.underMouse());
 }
 
-/// As when the session ends while a unit is being chosen.
+/// The session may end while a person chooses a unit.
 void KelComboBoxTest::goesWhileTheListIsOpen()
 {
     const ExpectedMessages messages(offscreenPopupMessages());

@@ -48,7 +48,7 @@ const QColor kCorner(200, 0, 0);
 const QColor kRest(0, 0, 200);
 const QColor kBackground(255, 255, 255);
 
-/// An icon whose top left quarter differs from the rest, so that its direction can be told.
+/// An icon whose top left quarter differs from the rest, so that a test sees how it is turned.
 QIcon makeIcon(int side)
 {
     QPixmap pixmap(side, side);
@@ -163,7 +163,7 @@ void KelIconWidgetTest::turnsTheIconAboutTheCenter_data()
     QTest::addColumn<int>("degrees");
     QTest::addColumn<QPoint>("corner");
 
-    // The icon covers 12 to 27 by 7 to 22; 4 pixels inside lies the middle of each quarter.
+    // The icon covers 12 to 27 by 7 to 22. The middle of each quarter is 4 pixels inside.
     QTest::newRow("not turned") << 0 << QPoint(16, 11);
     QTest::newRow("a quarter clockwise") << 90 << QPoint(24, 11);
     QTest::newRow("upside down") << 180 << QPoint(24, 19);

@@ -46,7 +46,7 @@ QLabel *fill(KelLatePage &page)
     return label;
 }
 
-/// Adds a page that is shown first and one that is not. Returns that one.
+/// Adds two pages, of which only the first is shown. Returns the second one.
 KelLatePage *addPages(QStackedWidget &stack)
 {
     auto *unseen = new KelLatePage;
@@ -169,7 +169,7 @@ void KelLatePagesTest::aScrollPageOfAnotherWidgetStaysItsChild()
     QCOMPARE(page.parentWidget(), &parent);
 }
 
-/// What is painted next is what is there before any further event.
+/// The next paint may come before any other event, so the scroll bars must be gone by then.
 void KelLatePagesTest::anAreaThatIsLargeEnoughLosesItsScrollBarsAtOnce()
 {
     KelScrollArea area;

@@ -71,7 +71,7 @@ void KelListWidgetTest::showsNoFocusRectangleOfThePlatform()
     QVERIFY(!m_list->testAttribute(Qt::WA_MacShowFocusRect));
 }
 
-/// This is all that a screen reader does.
+/// A screen reader only selects the item.
 void KelListWidgetTest::anItemThatIsSelectedBecomesCurrent()
 {
     m_list->setCurrentRow(0);

@@ -54,9 +54,9 @@ namespace {
 using Buttons = QDialogButtonBox::StandardButtons;
 using Answer = std::function<void(KelMessageBox &)>;
 
-/// Asks and, once the message is shown, answers as told; an answer that leaves it open has it
-/// closed, and the answer compares nothing itself, so that no failure keeps it open. Returns the
-/// standard button, or -1 if no message was shown.
+/// Asks, and answers as told once the message is shown. An answer that leaves the message open has
+/// it closed. It must not compare anything, because a failure would keep the message open. Returns
+/// the standard button, or -1 if no message was shown.
 int askAndAnswer(Buttons buttons, const Answer &answer)
 {
     bool wasShown = false;
@@ -198,7 +198,7 @@ void KelMessageBoxTest::aLongTextIsShownWhole()
     QVERIFY(box.width() >= 480);
 }
 
-/// As it comes out on Wayland where the scale is no whole number.
+/// Wayland makes such a window where the scale is not a whole number.
 void KelMessageBoxTest::aWindowThatIsOnePixelLowerShowsItsTextWhole()
 {
     KelMessageBox box(KelMessageBox::StateNormal, QString(),

@@ -33,7 +33,7 @@ QString styleSheet(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What a message of that state draws at the left of its text.
+/// The icon that a message of this state draws at the left of its text.
 QImage drawnIcon(KelMessageBox::State state)
 {
     KelMessageBox box(state, QString(), QStringLiteral("Text"), QDialogButtonBox::Ok);

@@ -35,7 +35,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Types as a person does, one key at a time. A key that does not fit leaves no trace.
+/// Types as a person does, one key at a time. A key that does not fit changes nothing.
 void type(QLineEdit &edit, const QString &keys)
 {
     for (const QChar key : keys) {
@@ -237,7 +237,7 @@ void KelNumericLineEditTest::settings()
     QCOMPARE(int(edit.decimals()), 2);
     QCOMPARE(int(edit.integerDigits()), 3);
 
-    // As a form sets them.
+    // A form sets them by name.
     QVERIFY(edit.setProperty("unitText", QStringLiteral("dBm")));
     QVERIFY(edit.setProperty("decimals", 4));
     QVERIFY(edit.setProperty("integerDigits", 5));

@@ -180,13 +180,13 @@ void KelPanelSubWidgetTest::collapseFixesTheHeaderHeight()
 
 void KelPanelSubWidgetTest::collapseEndsWithARepaintOfTheFrame()
 {
-    // With nothing to fold only the arrow is drawn again before the end.
+    // Nothing folds here, so only the arrow is drawn again before the end.
     m_content->setMaximumHeight(0);
     QTRY_COMPARE(m_content->height(), 0);
     QCoreApplication::processEvents();
     child<QFrame>("frame")->installEventFilter(this);
     m_section->collapse();
-    // Until the end a window system may have the frame painted for reasons of its own.
+    // A window system may repaint the frame for reasons of its own, so counting starts at the end.
     connect(folding(), &QAbstractAnimation::finished, this, [this] { m_framePaints = 0; });
     QTRY_VERIFY(!folding());
     QTRY_COMPARE(m_framePaints, 1);
@@ -249,7 +249,7 @@ void KelPanelSubWidgetTest::turnsAroundInTheMiddle()
     QTRY_COMPARE(m_content->height(), 0);
     QCOMPARE(m_arrow->rotation(), 0);
 
-    // What it unfolds to is still the whole height.
+    // It still unfolds to its whole height.
     m_section->expand();
     QTRY_VERIFY(!folding());
     QTRY_COMPARE(m_content->height(), kContentHeight);

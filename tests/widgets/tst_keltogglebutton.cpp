@@ -143,7 +143,7 @@ void KelToggleButtonTest::setCurrentIndexChecksWithoutEmitting()
     QVERIFY(!buttons().at(2)->isChecked());
     QCOMPARE(indexes.count(), 0);
 
-    // Afterwards a click is heard again, and once.
+    // A click still emits the signal, and only once.
     buttons().at(1)->click();
     QCOMPARE(indexes.count(), 1);
 }
@@ -169,7 +169,7 @@ void KelToggleButtonTest::ignoresAnIndexWithoutButton()
     QCOMPARE(m_switch->currentIndex(), 1);
     QCOMPARE(indexes.count(), 0);
 
-    // The switch still listens.
+    // A click still works.
     buttons().at(0)->click();
     QCOMPARE(indexes.count(), 1);
 }
@@ -224,7 +224,7 @@ void KelToggleButtonTest::arrowKeysMoveTheChoice()
     QCOMPARE(indexes.count(), 1);
 }
 
-/// Also before the switch had the keyboard for the first time, and after a choice by the program.
+/// This holds even before the switch first gets the focus, and after the program has made a choice.
 void KelToggleButtonTest::tabStopsAtTheCheckedButtonOnly()
 {
     const auto stops = [this] {
@@ -285,7 +285,7 @@ void KelToggleButtonTest::screenReadersChooseAnItem()
     QCOMPARE(indexes.count(), 1);
     QVERIFY(last->state().checked);
 
-    // What every widget can do, it still can.
+    // The actions that every widget has still work.
     m_switch->show();
     QVERIFY(waitForKeyboard(*m_switch));
     last->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());

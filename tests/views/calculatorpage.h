@@ -37,13 +37,13 @@ public:
     QWidget &outputRow() const { return find<QWidget>("outputWidget"); }
     QComboBox &unit() const { return find<QComboBox>("outputUnitComboBox"); }
     QComboBox &mode() const { return find<QComboBox>("calcModeComboBox"); }
-    /// By the part of its name after the underscore.
+    /// Finds a key by the part of its name after the underscore.
     QPushButton &key(const QString &name) const;
 
-    /// The result with the unit beside it, as a person reads it.
+    /// The result and the unit beside it, as a person reads them.
     QString result() const;
     QStringList texts(const QComboBox &box) const;
-    /// The units that can be chosen.
+    /// The units that a person can choose.
     QStringList offeredUnits() const;
     /// Where the result row and the input line are on the page.
     std::vector<QPoint> places() const;
@@ -73,8 +73,8 @@ private:
 /// The keys that both calculators have: a table of "key", as in CalculatorPage::key(), and "typed".
 void addPlainKeys();
 
-/// Presses the key of the present row with the cursor between two brackets, and requires that its
-/// text stands there then, with the cursor behind it.
+/// Presses the key of the present row with the cursor between two brackets. Its text must then
+/// stand there, with the cursor behind it.
 void checkTypedKey(CalculatorPage &page, const Dezimo::ExpressionProfile &profile);
 
 /// Notes each place to which a widget moves within its parent.

@@ -14,14 +14,13 @@ class QComboBox;
 class QLabel;
 
 /**
- * A converter's page as a person meets it: shown, active, and operated by keys. Widgets are found
- * by their object name; a name that is missing, or that stands for another kind of widget, ends the
- * test.
+ * A converter's page as a person meets it: shown, active, and operated by keys. It finds widgets by
+ * their object name. If there is none of that name and type, the test ends.
  */
 class ConverterPage
 {
 public:
-    /// Shows @p page at the size that the main window gives it at first.
+    /// Shows @p page at the size that the main window first gives it.
     explicit ConverterPage(QWidget &page);
 
     template <typename Widget>
@@ -43,8 +42,8 @@ public:
     /// Goes to the selector and presses @p key there @p times times.
     void press(const QString &name, Qt::Key key, int times = 1) const;
 
-    /// What the Tab key visits from the widget @p first until it is back there: object names, or
-    /// the text of a button that has none.
+    /// What the Tab key visits from the widget @p first until it is back there, by object name. A
+    /// button without a name goes by its text.
     QStringList tabStops(const QString &first) const;
     QStringList items(const QString &combo) const;
     /// The texts of all fields in tab order, hidden ones too, with " | " between them.
@@ -56,7 +55,7 @@ private:
     QWidget &m_page;
 };
 
-/// A table of the column "size", from a small window to a large screen.
+/// Adds a column "size" with rows from a small window to a large screen.
 void addPageSizes();
 
 #endif

@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-/// Brings all models back to what they hold at the first start.
+/// Resets all models to what they hold at the first start.
 void loadDefaults();
 /// Loads all modules from a calculation file with these lines.
 void loadFile(const QStringList &lines);

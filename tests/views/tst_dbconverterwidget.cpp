@@ -100,7 +100,7 @@ void DbConverterWidgetTest::typingStoresTheTextAndForgetsTheLatestRun()
     QTest::keyClicks(edit(property + QLatin1String("LineEdit")), QStringLiteral("12"));
     QCOMPARE(m_model.property(property.toLatin1().constData()).toString(), QStringLiteral("12"));
     QCOMPARE(m_model.property(latestRun.constData()).toInt(), 0);
-    // Nothing is calculated before the field is left.
+    // The page calculates only when the person leaves the field.
     int filled = 0;
     for (const char *name : {"p1", "p2", "pRatio", "pDb", "v1", "v2", "vRatio", "vDb"})
         filled += m_model.property(name).toString().isEmpty() ? 0 : 1;
@@ -186,8 +186,8 @@ void DbConverterWidgetTest::tabbingOutAndBackTwiceCalculatesNothing()
     QTest::keyClicks(edit("p1LineEdit"), QStringLiteral("4W"));
     QTest::keyClick(edit("p1LineEdit"), Qt::Key_Tab);
     QCOMPARE(m_model.pLatestRun(), 1);
-    // P2 is empty, and leaving it only writes the code of P1 again, as the latest run reads
-    // already. A P1 calculation would now replace the text by an error.
+    // P2 is empty. Leaving it only stores the code of P1 as the latest run, which it is already. A
+    // calculation of P1 would now replace the text by an error.
     m_model.setP1(QStringLiteral("changed"));
     for (int i = 0; i < 2; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
@@ -199,8 +199,8 @@ void DbConverterWidgetTest::tabbingOutAndBackTwiceCalculatesNothing()
     QCOMPARE(edit("pRatioLineEdit")->text(), QString());
 }
 
-/// Leaving the second operand always calculates, and the message that stands in it is then read as
-/// an operand. This is meant.
+/// Leaving the second operand always calculates, on purpose. So it reads the message in the field
+/// as an operand.
 void DbConverterWidgetTest::finishingAMismatchTwiceFindsTheErrorTextInvalid()
 {
     m_model.setP1(QStringLiteral("1W"));
@@ -211,7 +211,7 @@ void DbConverterWidgetTest::finishingAMismatchTwiceFindsTheErrorTextInvalid()
     QCOMPARE(edit("p2LineEdit")->text(), QStringLiteral("invalid input"));
 }
 
-/// The ratio is shown rounded, and looking at it calculates nothing from that.
+/// The field shows a rounded ratio. Passing through it must not calculate from the rounded value.
 void DbConverterWidgetTest::tabbingThroughTheRatioKeepsTheDecibels()
 {
     MainProfile::instance().setDecimalPlaces(1);
@@ -223,7 +223,7 @@ void DbConverterWidgetTest::tabbingThroughTheRatioKeepsTheDecibels()
     QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("1.76")); // 10 lg 1.5
     QTest::keyClick(edit("pRatioLineEdit"), Qt::Key_Tab);
     QCOMPARE(edit("pDbLineEdit")->text(), QStringLiteral("1.76"));
-    // Typed, it is what the person means: 10 lg 2
+    // A person who types the 2 means it: 10 lg 2
     QTest::keyClick(edit("pDbLineEdit"), Qt::Key_Backtab, Qt::ShiftModifier);
     QTest::keyClicks(edit("pRatioLineEdit"), QStringLiteral("2"));
     QTest::keyClick(edit("pRatioLineEdit"), Qt::Key_Tab);

@@ -211,7 +211,7 @@ void DbmCalculatorWidgetTest::calculatesWithTheKeypadAlone()
     QCOMPARE(page.result(), QStringLiteral("-13.50 dBm"));
 }
 
-/// As when the window is closed within the slide: what is stored then must not be an error.
+/// The window may be closed during the slide. The model must not store an error then.
 void DbmCalculatorWidgetTest::hidingDuringTheTakeOverLeavesNoError()
 {
     CalculatorPage page = shownPage();
@@ -326,7 +326,7 @@ void DbmCalculatorWidgetTest::aDisabledUnitCannotBeChosen()
     CalculatorPage page = shownPage();
     page.type("10dBm+10dBm");
     const ExpectedMessages popups(offscreenPopupMessages());
-    // Within this time a list takes a release for the end of the click that opened it.
+    // A list ignores a release within this time, because it may end the click that opened the list.
     QApplication::setDoubleClickInterval(0);
     const auto click = [&page](int row) {
         QAbstractItemView &list = *page.unit().view();

@@ -121,8 +121,8 @@ void KeypadCalculatorWidgetTest::showsTheModelOnce()
     QCOMPARE(outputs.count(), 0);
 }
 
-/// Setting the input calculates, as every change of the input line does; what was stored comes
-/// after it.
+/// Every change of the input line calculates, and loading changes it too. The stored result and
+/// unit must still win.
 void KeypadCalculatorWidgetTest::showsALoadedStateAsItWasStored()
 {
     CalculatorPage page = shownPage();

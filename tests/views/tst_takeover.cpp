@@ -37,7 +37,7 @@ private:
 
 namespace {
 
-/// Stands for the calculate key among keys of the keyboard.
+/// Stands for the page's own calculate key in a table of keys of the keyboard.
 constexpr Qt::Key kKeypad = Qt::Key_unknown;
 
 CalculatorPage shownPage()
@@ -133,7 +133,7 @@ void TakeOverTest::whatIsTypedDuringTheSlideStays()
     page.type("+1dB");
     QCOMPARE(m_profile.output(), QStringLiteral("11.00"));
     QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
-    // A second press meets a result that it could take over, but not yet.
+    // A second press could take the new result over, but not before the slide ends.
     page.press(QStringLiteral("calc"));
     QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm+1dB"));
 

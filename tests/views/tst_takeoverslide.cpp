@@ -36,8 +36,8 @@ private:
     std::unique_ptr<QSignalSpy> m_finished;
 };
 
-/// An input in a frame of its own at the top, and a row below that takes the rest: 40 and 160
-/// pixels of 200.
+/// Of the window's 200 pixels, a frame with the input takes the upper 40, and a row takes the 160
+/// below.
 void TakeOverSlideTest::init()
 {
     m_window = std::make_unique<QWidget>();

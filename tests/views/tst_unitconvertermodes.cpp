@@ -47,7 +47,7 @@ private:
 
 namespace {
 
-/// 10 mW, 500 mV and 0 dBV do not belong together, so that a calculation would be seen.
+/// These values do not belong together, so any calculation would show.
 PropertyValues unrelatedValues()
 {
     return {

@@ -61,7 +61,7 @@ namespace {
 
 const QString kFirstField = QStringLiteral("dbmLineEdit");
 
-/// 10 mW, 500 mV and 0 dBV do not belong together, so that a calculation would be seen.
+/// These values do not belong together, so any calculation would show.
 PropertyValues unrelatedValues()
 {
     return {
@@ -237,7 +237,7 @@ void UnitConverterWidgetTest::aChosenUnitRewritesItsFieldOnly()
     page.press(combo, Qt::Key_Down, steps);
     QCOMPARE(lines(), expected);
 
-    // And back again: the quantity has stayed the same.
+    // The quantity has not changed, so the way back restores every text.
     page.press(combo, Qt::Key_Up, steps);
     QCOMPARE(lines(), lines(unrelatedValues()));
 }
@@ -283,8 +283,8 @@ void UnitConverterWidgetTest::aLoadedFileIsShownAsItIs()
     QCOMPARE(page.combo(chosen).currentText(), QStringLiteral("dBu"));
     QCOMPARE(page.child<KelToggleButton>(QStringLiteral("vModeToggle")).currentIndex(), 1);
 
-    // The new unit is the one that the text stands in: 3.456 dBu = 0.775 V * 10^(3.456 / 20),
-    // 20 log10 of 1153.74 mV / 0.001 mV = 121.24 dBµV.
+    // The text is now in the loaded unit: 3.456 dBu = 0.775 V * 10^(3.456 / 20), and 20 log10 of
+    // 1153.74 mV / 0.001 mV = 121.24 dBµV.
     page.press(chosen, Qt::Key_Up);
     QCOMPARE(m_model.logVoltage(), QStringLiteral("121.24"));
 }

@@ -14,8 +14,8 @@
 
 Q_DECLARE_METATYPE(const QMetaObject *)
 
-/// The slots of the pages. Qt connects most of them by their names, so that a wrong one is never
-/// called and no compiler says so.
+/// The slots of the pages. Qt connects most of them by their names. It never calls a slot with a
+/// wrong name, and no compiler complains.
 class ViewSlotsTest : public QObject
 {
     Q_OBJECT

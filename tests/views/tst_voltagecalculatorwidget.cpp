@@ -64,7 +64,7 @@ QSpinBox &phaseOf(const CalculatorPage &page)
 
 void VoltageCalculatorWidgetTest::initTestCase()
 {
-    // The program's locale, so that the phase has no digits of the system's language.
+    // In the program's locale the phase never has the digits of the system's language.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::AnyCountry));
     applyStyleSheet();
 }
@@ -214,7 +214,8 @@ void VoltageCalculatorWidgetTest::showsALoadedStateAsItWasStored_data()
     row("an empty result", "");
 }
 
-/// Neither the text, nor the phase that the box shows without its decimals, calculates.
+/// Loading must not calculate. Neither the text nor the phase, which the box shows without its
+/// decimals, may cause that.
 void VoltageCalculatorWidgetTest::showsALoadedStateAsItWasStored()
 {
     QFETCH(QString, output);

@@ -67,7 +67,7 @@ const QStringList &voltageRows()
     return value;
 }
 
-/// The text of a symbol: a part that is marked by underscores around it stands below the line.
+/// The text of a symbol. A part between underscores is a subscript.
 QString symbol(const QString &marked)
 {
     if (!marked.contains(QLatin1Char('_')))

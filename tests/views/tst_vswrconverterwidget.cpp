@@ -67,7 +67,7 @@ namespace {
 const QString kVswr = QStringLiteral("vswrLineEdit");
 const QString kTabs = QStringLiteral("mainTab");
 
-/// Texts that do not belong together, so that a calculation would be seen.
+/// These texts do not belong together, so any calculation would show.
 const PropertyValues &unrelatedTexts()
 {
     static const PropertyValues value{
@@ -205,7 +205,8 @@ void VswrConverterWidgetTest::leavingTheVswrFillsTheReflectionGroup()
     page.type(kVswr, QStringLiteral("2"));
     QCOMPARE(page.fieldTexts(), QStringLiteral("2 |  |  |  |  |  |  |  |  |  | "));
     QTest::keyClick(&page.field(kVswr), Qt::Key(key));
-    // Γ = (2 - 1) / (2 + 1), Γ² = 11.1 %, -10 log10(1 - Γ²) = 0.51 dB; no return loss but for 1.
+    // Γ = (2 - 1) / (2 + 1), Γ² = 11.1 %, -10 log10(1 - Γ²) = 0.51 dB. Only a VSWR of 1 fills the
+    // return loss.
     QCOMPARE(page.fieldTexts(), QStringLiteral("2 | 0.333 | 11.1 |  | 0.51 |  |  |  |  |  | "));
 }
 
@@ -257,7 +258,7 @@ void VswrConverterWidgetTest::aChosenUnitRewritesItsRowOnly()
     QCOMPARE(lines(), expected);
 }
 
-/// The model re-expresses the text by itself, once, as for a chosen unit.
+/// The model rewrites the text for the new unit by itself, and only once.
 void VswrConverterWidgetTest::aMirroredUnitIsShown()
 {
     QFETCH(QString, row);

@@ -25,7 +25,8 @@ int unitOf(const ExpressionProfile &calculator, const QString &result)
     return unit;
 }
 
-/// Powers and voltages have several units, a ratio and a plain number one.
+/// The selector offers several units for a power or a voltage, and one for a ratio or a plain
+/// number.
 QString usualUnits(const QString &shown)
 {
     for (const char *units : {"dBm mW W µW dBW", "mV V"}) {

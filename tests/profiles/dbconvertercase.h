@@ -56,11 +56,11 @@ PropertyValues valuesOf(const DbHalf &half, const DbFields &fields);
 /// Makes the columns of checkDbCase().
 void addDbColumns();
 
-/// Two rows: what the fields of either half read before a calculation, and what they read then.
+/// Two rows, one for each half: what its fields read before a calculation and after it.
 void addDbCase(const char *tag, const DbFields &given, const DbFields &powers,
                const DbFields &voltages, int decimalPlaces = 3);
 
-/// Where no decibels are calculated both halves read the same.
+/// Without a calculation of decibels, both halves read the same.
 void addDbCase(const char *tag, const DbFields &given, const DbFields &expected,
                int decimalPlaces = 3);
 

@@ -29,7 +29,7 @@ QMap<int, bool> withFirstFlipped(QMap<int, bool> units)
 
 std::vector<Profile *> everyProfile(MainProfile &root)
 {
-    // Without it two variants with the same map do not compare as equal.
+    // Without this comparator, two variants with the same map are not equal.
     static const bool registered = QMetaType::registerEqualsComparator<QMap<int, bool>>();
     Q_UNUSED(registered)
 

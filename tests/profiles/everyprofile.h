@@ -21,8 +21,8 @@ class Profile;
 /// compare as equal from the first call on.
 std::vector<Dezimo::Profile *> everyProfile(Dezimo::MainProfile &root);
 
-/// A value of the same type that differs from @p value. Of a default value it is one that each
-/// property may have.
+/// A value of the same type that differs from @p value. If that is a default value, every property
+/// accepts the result.
 QVariant otherValue(const QVariant &value);
 
 /// Gives each property of each profile another value, in the order of declaration.

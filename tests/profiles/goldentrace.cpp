@@ -82,8 +82,8 @@ QByteArray GoldenTrace::checksum(const QStringList &lines)
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
 }
 
-/// Compilers are free in the order in which they evaluate the parts of an expression, so each draw
-/// has a statement of its own.
+/// Compilers choose the order in which they evaluate the parts of an expression, so each draw has a
+/// statement of its own.
 QString GoldenTrace::anyNumber()
 {
     static const Words prefixes{"", "", "", "", "", "m", "k", "u", "M", "G"};
@@ -103,7 +103,7 @@ QString GoldenTrace::anyOperand()
     return number + QString::fromUtf8(anyOf(units));
 }
 
-/// An expression, an operand, a plain number, or what nobody means.
+/// An expression, an operand, a plain number, or nonsense.
 QString GoldenTrace::anyText()
 {
     static const Words signs{"+", "-", "+", "-", "+-", " + ", "-("};
@@ -141,7 +141,7 @@ QVariant GoldenTrace::anyValue(const QMetaProperty &property)
     }
 }
 
-/// A unit or another property, or a text that a calculation follows.
+/// Sets a unit, a text or another property.
 void GoldenTrace::edit(const Model &model)
 {
     const QMetaProperty property = anyOf(model.properties);
@@ -178,7 +178,8 @@ void GoldenTrace::load()
         m_root.loadModuleSettings(store);
 }
 
-/// A store in which one value is of another kind or out of range, and another one is missing.
+/// Loads a store in which one value has the wrong type or is out of range, and another one is
+/// missing.
 void GoldenTrace::loadForeign()
 {
     static const Words values{"", "-1", "7", "1.5", "12 dBm", "@Size(1 2)", "true", "1e30"};

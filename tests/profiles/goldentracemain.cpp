@@ -7,8 +7,8 @@
 
 #include <cstdio>
 
-/// Prints the whole trace, so that those of two versions can be compared line by line, or what the
-/// test of it compares.
+/// Prints the whole trace, to compare two versions line by line, or the checksums that the test
+/// compares.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);

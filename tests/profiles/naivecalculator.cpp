@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kUnknown = std::numeric_limits<double>::infinity();
 constexpr double kPi = 3.14159265358979323846;
-/// What rounding to 12 and to 10 digits does to a number, at most, and what doubles do besides.
+/// The most by which rounding to 12 or 10 digits changes a number, with the rounding of doubles.
 constexpr double kPowerRounding = 5e-12 + 1e-14;
 constexpr double kVoltageRounding = 5e-10 + 1e-14;
 
@@ -43,7 +43,7 @@ Approximate combined(const Approximate &left, bool isSubtracted, const Approxima
     return {value, error, left.unit};
 }
 
-/// The mean of powers. The running mean is rounded as often as there are inputs.
+/// The mean of powers. The calculator rounds its running mean once for each input.
 Approximate mean(const std::vector<Approximate> &powers)
 {
     const double count = double(powers.size());
@@ -54,7 +54,7 @@ Approximate mean(const std::vector<Approximate> &powers)
     return {value, sum.error / count + std::abs(value) * kPowerRounding * count};
 }
 
-/// Why a step fails whatever the calculator is.
+/// Why a step fails in either calculator.
 Failure failureOf(const Approximate &left, const Approximate &right)
 {
     if (left.failure != Failure::None || right.failure != Failure::None)
@@ -101,8 +101,8 @@ Approximate level(const Approximate &power)
     return {value, uncertainty < 0.01 ? 10 * uncertainty : kUnknown, Quantity::Level};
 }
 
-/// Groups are read from the right. One that is invalid ends this, and it and those to its left stay
-/// as texts, which are no numbers either.
+/// The calculator reads groups from the right and stops at an invalid one. That group and those to
+/// its left stay as texts, which are not numbers either.
 Approximate NaiveCalculator::value(const Chain &chain) const
 {
     std::vector<Approximate> values = operands(chain);
@@ -115,7 +115,7 @@ Approximate NaiveCalculator::value(const Chain &chain) const
     return reduced(chain, values);
 }
 
-/// A group is invalid as soon as one inside it is.
+/// A group is invalid if one inside it is.
 Approximate NaiveCalculator::group(const Chain &chain) const
 {
     const std::vector<Approximate> values = operands(chain);
@@ -154,7 +154,7 @@ Approximate NaivePowers::operand(const QString &text) const
     return {milliwatts, std::abs(milliwatts) * 1e-15};
 }
 
-/// The mean of an incoherent combiner is taken anew from the list of its inputs.
+/// An incoherent combiner takes each mean anew from the list of its inputs.
 Approximate NaivePowers::reduced(const Chain &chain, const std::vector<Approximate> &operands) const
 {
     Approximate left = operands.front();
@@ -212,7 +212,7 @@ Approximate NaiveVoltages::reduced(const Chain &chain,
     return left;
 }
 
-/// Correlated voltages are phasors of the plane, and their sum is the length of the sum.
+/// Correlated voltages are phasors. The result is the length of their sum.
 Approximate NaiveVoltages::step(const Approximate &left, bool isSubtracted,
                                 const Approximate &right) const
 {

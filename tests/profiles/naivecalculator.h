@@ -10,7 +10,7 @@
 
 struct Term;
 
-/// Terms that are added to or subtracted from what stands before them, in this order.
+/// Terms in the order in which each is added to or subtracted from what stands before it.
 using Chain = std::vector<Term>;
 
 /// A number with its unit, or a group in brackets.
@@ -21,16 +21,16 @@ struct Term
     Chain group;
 };
 
-/// The chain as it is typed.
+/// The chain as a person types it.
 QString chainText(const Chain &chain);
 
 enum class Quantity { Linear, Level, Ratio, Plain };
 
-/// Why an expression has no number.
+/// Why an expression has no result.
 enum class Failure { None, InvalidInput, UnitMissing };
 
-/// A number that may be off by an error; an infinite error says that nothing is known about it.
-/// Linear quantities are in mW or mV, levels in dBm.
+/// A number that may be off by an error. If the error is infinite, nothing is known about the
+/// number. Linear quantities are in mW or mV, levels in dBm.
 struct Approximate
 {
     double value = 0.0;
@@ -42,14 +42,14 @@ struct Approximate
 /// A level or a linear power in mW.
 Approximate milliwatt(const Approximate &power);
 
-/// A linear power in dBm; a level and a ratio as they stand. The logarithm of a power that may as
-/// well be zero or below is unknown.
+/// A linear power in dBm; levels and ratios stay as they are. If the power may be zero or below,
+/// its logarithm is unknown.
 Approximate level(const Approximate &power);
 
 /**
- * A second evaluation of expressions, from the structure that they were written from instead of
- * from their text, and with numbers instead of rounded texts. What rounding each step to a number
- * of digits may do to the result is carried along as an error. Operands must be numbers.
+ * A second evaluation of expressions, from their structure instead of their text, and with numbers
+ * instead of rounded texts. It adds up the errors that rounding each step may cause. Operands must
+ * be numbers.
  */
 class NaiveCalculator
 {
@@ -60,9 +60,9 @@ public:
     Approximate value(const Chain &chain) const;
 
 protected:
-    /// An operand that was typed.
+    /// The value of a typed operand.
     virtual Approximate operand(const QString &text) const = 0;
-    /// What the terms of a chain give, of which @p operands are the values.
+    /// The result of a chain whose terms have the values @p operands.
     virtual Approximate reduced(const Chain &chain,
                                 const std::vector<Approximate> &operands) const = 0;
 

@@ -8,7 +8,7 @@
 
 #include <limits>
 
-/// The number that a field shows; none, which compares as unequal to all, for any other text.
+/// The number that a field shows. Any other text gives NaN, which equals nothing.
 inline double shownNumber(const QString &text)
 {
     bool ok = false;

@@ -32,7 +32,7 @@ namespace {
 
 constexpr int kDigits = 10;
 constexpr double kLevelRounding = 0.005;
-/// What one unit of the 12th digit of an input can move a result by, relative to it.
+/// The most by which one unit of an input's 12th digit can move a result, relative to that result.
 constexpr double kInputRounding = 1e-11;
 /// The same where the input is a level of 12 digits: 5e-10 dB.
 constexpr double kLevelInputRounding = 2e-10;

@@ -13,8 +13,9 @@
 
 using namespace Dezimo;
 
-/// There and back again, a thousand times each with random values: the difference is no larger than
-/// what the texts on the way lose, ten digits of a linear value and two decimals of a level.
+/// There and back again, a thousand times each with random values. The difference must not exceed
+/// what the texts on the way lose by rounding: a linear value has ten digits and a level two
+/// decimals.
 class ConverterRoundTripsTest : public QObject
 {
     Q_OBJECT
@@ -45,13 +46,13 @@ namespace {
 constexpr int kRuns = 1000;
 constexpr quint32 kSeed = 20261121;
 constexpr int kDigits = 10;
-/// Ten digits, rounded.
+/// The relative loss of rounding to ten digits.
 constexpr double kDigitLoss = 5e-10;
-/// Two decimals, rounded.
+/// The loss of rounding to two decimals.
 constexpr double kLevelLoss = 0.005;
-/// For sums of losses that are reached exactly.
+/// Some differences are exactly as large as the sum of their losses.
 constexpr double kSlack = 1e-9;
-/// A relative change of a voltage by x is one by 8.69 x in dB.
+/// If a voltage changes by the small fraction x, its level changes by 8.69 x in dB.
 constexpr double kDbPerNeper = 8.685889638;
 
 bool isNear(const QString &after, const QString &before, double tolerance)
@@ -94,7 +95,7 @@ void ConverterRoundTripsTest::powerToVoltage()
         profile.setLinPower(before);
         profile.calculateFromLinPower();
         profile.calculateFromLinVoltage();
-        // The square doubles what the voltage lost; then the power is rounded once more.
+        // Squaring doubles the loss of the voltage. Then the power is rounded once more.
         QVERIFY2(isNear(profile.linPower(), before, 3.1 * kDigitLoss * shownNumber(before)),
                  qPrintable(before));
     }
@@ -153,8 +154,7 @@ void ConverterRoundTripsTest::reflectionCoefficientToReturnLoss()
     }
 }
 
-/// A VSWR has no return loss of its own, so the way leads over the reflection coefficient, there
-/// and back.
+/// A VSWR does not give a return loss, so this goes through the reflection coefficient both ways.
 void ConverterRoundTripsTest::vswrToReturnLoss()
 {
     for (int run = 0; run < kRuns; ++run) {
@@ -168,8 +168,8 @@ void ConverterRoundTripsTest::vswrToReturnLoss()
         profile.calculateFromAr();
         profile.setVswr(QString());
         profile.calculateFromR();
-        // The VSWR grows the faster the larger the coefficient is, so it is off by most where the
-        // two decimals of the return loss made the coefficient larger.
+        // The larger the coefficient is, the faster the VSWR grows. So the VSWR is off most where
+        // the rounded return loss made the coefficient larger.
         const double r = (shownNumber(before) - 1) / (shownNumber(before) + 1);
         const double largest = r * std::pow(10, kLevelLoss * 1.01 / 20);
         const double tolerance = (1 + largest) / (1 - largest) - shownNumber(before);
@@ -194,7 +194,7 @@ void ConverterRoundTripsTest::rescaledLinearUnits()
             profile.setLinVoltageUnit(next);
             profile.rescaleLinVoltage();
         }
-        // A factor of 1000 moves the point only.
+        // A factor of 1000 only moves the decimal point.
         QVERIFY2(isNear(profile.linPower(), before, 1e-15 * shownNumber(before)),
                  qPrintable(before));
         QVERIFY2(isNear(profile.linVoltage(), before, 1e-15 * shownNumber(before)),
@@ -243,8 +243,8 @@ void ConverterRoundTripsTest::unitThereAndBack(const QByteArray &field)
         profile.setProperty(field.constData(), before);
         profile.setProperty(unitName.constData(), other);
         profile.setProperty(unitName.constData(), unit);
-        // A level on the way costs a linear value 5e-8 dB * 0.23 for a power, half of it for a
-        // voltage; a linear value costs a level 5e-10 * 8.69 dB at most.
+        // On the way as a level, a linear power loses 5e-8 dB * 0.23, and a voltage half of that.
+        // On the way as a linear value, a level loses at most 5e-10 * 8.69 dB.
         const double tolerance =
             isLevel ? 2.1 * kLevelDigitLoss : shownNumber(before) * (0.25 * kLevelDigitLoss);
         const QString after = profile.property(field.constData()).toString();

@@ -6,8 +6,8 @@
 
 #include <QTest>
 
-/// What finishing an operand of the dB converter does. Every row is run on the powers and on the
-/// voltages; only the decibels differ, 10 lg of a power ratio and 20 lg of a voltage ratio.
+/// What finishing an operand of the dB converter does. Every row runs on the powers and on the
+/// voltages. Only the decibels differ, 10 lg of a power ratio and 20 lg of a voltage ratio.
 class DbConverterOperandsTest : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ void operands(const char *tag, const Operands &given, const Results &expected, i
               {given.first, given.second, expected.ratio, expected.voltageDb}, places);
 }
 
-/// Whichever operand is finished, these read the same.
+/// These give the same results whichever operand is finished.
 void addCommonOperands()
 {
     // 10 lg 1.5 = 1.7609, 20 lg 1.5 = 3.5218

@@ -44,7 +44,7 @@ const PropertyValues &everythingChanged()
     return values;
 }
 
-/// Makes one row of each field of both halves.
+/// Adds one row for each field of both halves.
 template <typename AddRow>
 void forEachField(const AddRow &addRow)
 {
@@ -76,7 +76,7 @@ void DbConverterProfileTest::declaresItsSignalsInOrder()
                    "vDbChanged currentModeChanged pLatestRunChanged vLatestRunChanged"));
 }
 
-/// Every code from 0 to 9 is tried, so that a calculation is seen to skip after its own code only.
+/// Tries every code from 0 to 9, to see that a calculation skips after its own code only.
 void DbConverterProfileTest::skipsAfterItsOwnRun_data()
 {
     columns<bool, QByteArray, int, bool, int>(
@@ -90,8 +90,8 @@ void DbConverterProfileTest::skipsAfterItsOwnRun_data()
     });
 }
 
-/// No calculation leaves these four texts as they are: a new ratio is 4, and new decibels are
-/// others than 1.
+/// Every calculation changes at least one of these four texts: a new ratio is 4, and new decibels
+/// are not 1.
 void DbConverterProfileTest::skipsAfterItsOwnRun()
 {
     QFETCH(bool, isPower);
@@ -128,8 +128,8 @@ void DbConverterProfileTest::calculatesTwice_data()
     });
 }
 
-/// Finishing a field again without typing does nothing; only the second operand calculates again.
-/// In between all four texts are replaced by others, as no one but the test does.
+/// Finishing a field again without typing does nothing, except for the second operand, which
+/// calculates again. The test replaces all four texts in between, so a second calculation shows.
 void DbConverterProfileTest::calculatesTwice()
 {
     QFETCH(bool, isPower);

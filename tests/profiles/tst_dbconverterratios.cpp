@@ -6,8 +6,8 @@
 
 #include <QTest>
 
-/// What finishing the ratio or the decibels of the dB converter does. Every row is run on the
-/// powers and on the voltages.
+/// What finishing the ratio or the decibels of the dB converter does. Every row runs on the powers
+/// and on the voltages.
 class DbConverterRatiosTest : public QObject
 {
     Q_OBJECT
@@ -115,8 +115,8 @@ void DbConverterRatiosTest::fromDb_data()
     // 10^(-240/20) = 1e-12, and 10^(-240/10) = 1e-24
     ratios("-240 dB count as a ratio of zero", "1", "", "-240", "1E-24", "1E-12");
 
-    // Of the shown ratios 2 and 1.41 the results would be 6.67 and 4.70; of 1.995262315 and
-    // 1.412537545 the power would end in 936.
+    // The calculation uses the unrounded ratio. The shown ratios 2 and 1.41 would give 6.67 and
+    // 4.70. The ratios 1.995262315 and 1.412537545 would give a power that ends in 936.
     addDbCase("first: a plain number", {"", "3.333", "7", "3"}, {"6.65", "3.333", "2", "3"},
               {"4.71", "3.333", "1.41", "3"});
     addDbCase("first: watts, 10 decimal places", {"", "0.017W", "7", "3"},

@@ -33,7 +33,7 @@ constexpr int kCoherent = 1;
 constexpr int kNumeric = 2;
 
 const char kLinear[] = "mW W µW";
-/// A defect of the brackets leaves everything offered, as it is at first.
+/// An error in the brackets keeps all units on offer, as they are at first.
 const char kAll[] = "dBm mW W µW dBW dB none";
 
 } // namespace

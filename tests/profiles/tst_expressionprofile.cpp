@@ -128,8 +128,9 @@ void ExpressionProfileTest::calculationSignalsEachChangeOnce()
     QCOMPARE(counts(), (QList<int>{5, 1, 2}));
     calculate(calculator, "1mW-2mW"); // -1 mW, no level
     QCOMPARE(counts(), (QList<int>{6, 2, 3}));
-    // The sign of the exponent makes the group an expression, which has no operator: its error text
-    // is there at once, and then the one of the sum in front of it. All power units again.
+    // The minus sign of the exponent makes the group look like an expression, but one without an
+    // operator. The group's error text shows first, then that of the sum before it. All power units
+    // are back.
     calculate(calculator, "1mW+1+(1e-3mW)");
     QCOMPARE(counts(), (QList<int>{8, 2, 4}));
     QCOMPARE(calculator.output(), QStringLiteral("unit missing"));

@@ -18,7 +18,7 @@
 
 using namespace Dezimo;
 
-/// How the expression calculators are kept in a settings store.
+/// How a settings store keeps the expression calculators.
 class ExpressionStorageTest : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ private Q_SLOTS:
 
 void ExpressionStorageTest::initTestCase()
 {
-    // Without it two variants with the same map do not compare as equal.
+    // Without this comparator, two variants with the same map are not equal.
     QMetaType::registerEqualsComparator<QMap<int, bool>>();
 }
 
@@ -184,7 +184,7 @@ void ExpressionStorageTest::loadsInOrderAndSignalsEachChangeOnce_data()
     row("the voltage calculator", true, words("input output outputUnit mode phase validUnits"));
 }
 
-/// The valid units have a key each and are announced once, after all others.
+/// Each valid unit has a key of its own, but one signal announces them all, after the others.
 void ExpressionStorageTest::loadsInOrderAndSignalsEachChangeOnce()
 {
     QFETCH(bool, isVoltage);

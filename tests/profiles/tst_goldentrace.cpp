@@ -15,10 +15,9 @@
 
 using namespace Dezimo;
 
-/// What all models announce and store through ten thousand steps is what it was when the file of
-/// checksums was made. Where that is meant to change, "dezimo-goldentrace --checksums" prints the
-/// new ones, and without an argument it prints the lines themselves, of which two versions can be
-/// compared.
+/// What all models announce and store in ten thousand steps must match the stored checksums. When a
+/// change is on purpose, "dezimo-goldentrace --checksums" prints the new ones. Without an argument
+/// it prints the lines themselves, to compare two versions.
 class GoldenTraceTest : public QObject
 {
     Q_OBJECT

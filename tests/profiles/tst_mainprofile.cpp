@@ -12,7 +12,7 @@
 
 using namespace Dezimo;
 
-/// The root profile as an object; how it is kept is another test's.
+/// The root profile as an object. Another test covers its storage.
 class MainProfileTest : public QObject
 {
     Q_OBJECT
@@ -78,7 +78,7 @@ void MainProfileTest::destroysTheModulesInReverseOrder()
                                 "VoltageCalculatorProfile DbmCalculatorProfile"));
 }
 
-/// Whoever hears of the change may calculate at once.
+/// A slot may calculate as soon as it hears of the change, so the modules must know it by then.
 void MainProfileTest::handsItsDecimalPlacesToTheModules()
 {
     MainProfile profile;

@@ -14,8 +14,8 @@
 
 using namespace Dezimo;
 
-/// The first use of the one MainProfile by several threads at once. Nothing else in this program
-/// may touch it before.
+/// Several threads are the first to use the one MainProfile, all at once. Nothing else in this
+/// program may touch it before.
 class MainProfileThreadsTest : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ struct Seen
     std::size_t modules = 0;
 };
 
-/// Lets all threads go at once, as soon as the last one is there.
+/// Holds all threads back until the last one is there.
 class StartBarrier
 {
 public:

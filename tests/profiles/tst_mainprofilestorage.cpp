@@ -18,7 +18,7 @@
 
 using namespace Dezimo;
 
-/// How the state of the whole program is kept, in the application's settings and in files.
+/// How the application's settings and files keep the state of the whole program.
 class MainProfileStorageTest : public QObject
 {
     Q_OBJECT
@@ -53,8 +53,8 @@ const QStringList &windowProperties()
     return names;
 }
 
-/// The bytes of a file that @p root was saved in. A store that is made of them knows nothing of the
-/// types that were written.
+/// The bytes of a file with the state of @p root. A store that reads them does not know the types
+/// of the values.
 QByteArray savedText(MainProfile &root)
 {
     SettingsFile file;
@@ -72,7 +72,7 @@ const QByteArray &savedChanges()
     return text;
 }
 
-/// The text of a file after the line of "group/key" was replaced.
+/// The text of a file with @p replacement for the line of "group/key".
 QByteArray withLine(const QByteArray &text, const QString &key, const QByteArray &replacement)
 {
     const QByteArray group = '[' + key.section(QLatin1Char('/'), 0, 0).toLatin1() + ']';
@@ -89,8 +89,8 @@ QByteArray withLine(const QByteArray &text, const QString &key, const QByteArray
     return result;
 }
 
-/// What a missing key changes. A unit's validity is a part of one property, and of a changed
-/// profile only the first unit's is not the default.
+/// The property that a missing key changes. The keys of the units' validity share one property. In
+/// a changed profile only the first unit's validity differs from the default.
 QStringList propertyOf(const QString &key)
 {
     const QString group = key.section(QLatin1Char('/'), 0, 0) + QLatin1Char('.');
@@ -104,7 +104,7 @@ QStringList propertyOf(const QString &key)
 
 } // namespace
 
-/// The names are a promise to every file that was ever saved.
+/// Every file that was ever saved relies on these names.
 void MainProfileStorageTest::savesEveryKey()
 {
     struct Group
@@ -285,8 +285,8 @@ void MainProfileStorageTest::oneUnusableKeyTakesItsDefaultAlone()
     QCOMPARE(differences(loaded, untouched), changed);
 }
 
-/// Every selector of every module, with the index of its last row. The unit of a calculator's
-/// result may also be none at all, which comes after those that the selector shows.
+/// Every selector of every module, with the index of its last row. A calculator's result may also
+/// have no unit, which comes after the units that the selector shows.
 void MainProfileStorageTest::aSelectorWithoutTheStoredRowTakesItsDefault_data()
 {
     columns<QString, int, int>({"key", "stored", "expected"});

@@ -28,7 +28,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Fresh profiles, of which the present row's one is looked at.
+/// Fresh profiles. A test looks at the one of the present row.
 class Profiles
 {
 public:

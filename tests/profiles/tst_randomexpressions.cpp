@@ -15,7 +15,7 @@
 
 using namespace Dezimo;
 
-/// What holds for every text: each test compares the same 20,000 of them in every run.
+/// What holds for every text. Each test compares 20,000 random texts, the same ones in every run.
 class RandomExpressionsTest : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ QString randomNumber(Random &random)
     return oneOf(random, kSigns) + QString::number(value * scale, 'f', 6) + oneOf(random, kEndings);
 }
 
-/// Levels and ratios stay small, so that powers stay numbers.
+/// Levels and ratios stay small, so that no power overflows.
 QString randomPower(Random &random)
 {
     static const char *const kLevels[] = {"dBm", "dBW", "dB"};
@@ -90,14 +90,14 @@ Chain randomChain(Random &random, Operands operand, int depth)
     return chain;
 }
 
-/// Mostly operands with a unit: somewhere in a chain one is missing.
+/// Mostly operands with a unit. Somewhere in a chain the unit is missing.
 template <QString (*operand)(Random &)>
 QString withoutSomeUnits(Random &random)
 {
     return below(random, 12) == 0 ? randomNumber(random) : operand(random);
 }
 
-/// Half of the chains are of operands with units, the others have none or miss some.
+/// Half of the chains have operands with units. In the others all or some of the units are missing.
 template <QString (*operand)(Random &)>
 Chain randomExpression(Random &random)
 {
@@ -106,14 +106,14 @@ Chain randomExpression(Random &random)
     return randomChain(random, kKinds[below(random, 4)], 3);
 }
 
-/// What is expected to be shown, in which unit of the selector.
+/// The expected result, and its unit in the selector.
 struct Expected
 {
     Approximate number;
     int unit = 0;
 };
 
-/// A power shown where @p chosen is the output unit.
+/// How the calculator shows a power if @p chosen is the output unit.
 Expected shownPower(const Approximate &power, int chosen)
 {
     const bool isLevel = power.unit == Quantity::Level;
@@ -136,7 +136,7 @@ Expected shownPower(const Approximate &power, int chosen)
     return {shown, unit};
 }
 
-/// A result of the dBm calculator shown where @p chosen is the output unit.
+/// How the dBm calculator shows a result if @p chosen is the output unit.
 Expected shownByPowers(const Approximate &result, int chosen)
 {
     if (result.failure != Failure::None)
@@ -166,7 +166,7 @@ Expected shownByVoltages(const Approximate &result, int chosen)
     return {volt, VoltageUnit::V};
 }
 
-/// Whether @p output is @p expected within the digits that it is written with and the error that
+/// Whether @p output equals @p expected, give or take the digits that it shows and the error that
 /// rounding may have added up to.
 bool agrees(const QString &output, const Approximate &expected)
 {
@@ -184,7 +184,7 @@ bool agrees(const QString &output, const Approximate &expected)
     return std::abs(value - expected.value) <= expected.error + written + 1e-300;
 }
 
-/// How often each kind of result was compared.
+/// Counts how often each kind of result was compared.
 class Tally
 {
 public:
@@ -196,7 +196,7 @@ public:
         m_unitMissing += result.failure == Failure::UnitMissing;
     }
     int texts() const { return m_texts; }
-    /// Whether none of the kinds is rarer than one in a hundred.
+    /// Whether each kind makes up more than one in a hundred.
     bool isVaried() const
     {
         const int numbers = m_texts - m_plain - m_invalid - m_unitMissing;

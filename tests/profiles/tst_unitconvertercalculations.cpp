@@ -11,8 +11,8 @@
 
 using namespace Dezimo;
 
-/// The four calculations of the unit converter. A row gives what stood in the fields before, what
-/// is typed into one of them, and what the four read afterwards.
+/// The four calculations of the unit converter. A row gives the texts of the fields before, the
+/// text that is typed into one of them, and what the four fields read afterward.
 class UnitConverterCalculationsTest : public QObject
 {
     Q_OBJECT
@@ -48,8 +48,8 @@ void addColumns()
     columns<int, QString, QString, QString>({"places", "settings", "typed", "after"});
 }
 
-/// @p after is what linear power, power level, linear voltage and voltage level read then, and the
-/// impedance if it changes.
+/// @p after is what linear power, power level, linear voltage and voltage level read afterward, and
+/// the impedance if it changes.
 void add(const char *tag, const char *settings, const char *typed, const char *after,
          int places = ModuleProfile::kDefaultSignificantDigits)
 {

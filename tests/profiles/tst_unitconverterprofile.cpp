@@ -97,7 +97,7 @@ void UnitConverterProfileTest::rescales_data()
     add("10 dBm in dBW", "logPower", 0, "10.00", 1, "-20.00");
     add("-20 dBW in dBm", "logPower", 1, "-20", 0, "10.00");
     add("a power level keeps two decimals at ten digits", "logPower", 0, "1.2345", 1, "-28.77", 10);
-    // 10^400 mW is no number, but 4000 dBm is 3970 dBW
+    // 10^400 mW is too large for a number, but 4000 dBm is 3970 dBW
     add("a power level beyond all powers", "logPower", 0, "4000", 1, "3970.00");
     add("an empty power level", "logPower", 0, "", 1, "");
     add("a power level that is a word", "logPower", 0, "abc", 1, "abc");
@@ -148,8 +148,8 @@ void UnitConverterProfileTest::aUnitSetterOnlyStores()
     QCOMPARE(propertyLines(profile), expected);
 }
 
-/// The level shown at last is 120 dBµV. Whatever happened to the field before, it is rescaled from
-/// dBµV and thus 0 dBV.
+/// The field last shows a level of 120 dBµV. Whatever it held before, it rescales from dBµV, so the
+/// result is 0 dBV.
 void UnitConverterProfileTest::thePreviousUnitFollows_data()
 {
     columns<QString, bool>({"textBefore", "rescaledBefore"});
@@ -228,7 +228,7 @@ void UnitConverterProfileTest::malformedKeysTakeTheirDefaults()
     QCOMPARE(propertyLines(profile), expected);
 }
 
-/// After a load every text is exactly the stored one, and it stands in the loaded unit.
+/// After a load every text is exactly the stored one, in the loaded unit.
 void UnitConverterProfileTest::loadingNeverRewrites()
 {
     SettingsFile file;

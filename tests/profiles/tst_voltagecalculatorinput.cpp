@@ -31,7 +31,7 @@ constexpr int kUncorrelated = VoltageMode::Uncorrelated;
 constexpr int kCorrelated = VoltageMode::Correlated;
 constexpr int kPeak = VoltageMode::Peak;
 
-/// A defect of the brackets leaves everything offered, as it is at first.
+/// An error in the brackets keeps all units on offer, as they are at first.
 const char kAll[] = "mV V none";
 
 } // namespace

@@ -41,7 +41,7 @@ constexpr int kVolt = 2;
 constexpr int kMillivolt = 3;
 constexpr int kUnknown = 4;
 
-/// In the order of loading; the texts are none that a calculation would write.
+/// In the order of loading. No calculation would write these texts.
 const PropertyValues &everythingChanged()
 {
     static const PropertyValues values{
@@ -135,7 +135,7 @@ void VswrConverterProfileTest::unitSetterRewrites_data()
     row("an unknown unit is taken as mW", "pForward", kDbm, "10", kUnknown, "10");
     row("and as mV", "vForward", kUnknown, "1000", kDbv, "0");
 
-    // each setter on nothing and on a word, which is 0: 0 dBm = 1 mW, 0 dBV = 1000 mV
+    // Each setter gets an empty text, and a word, which reads as 0: 0 dBm = 1 mW, 0 dBV = 1000 mV.
     const auto oddTexts = [&row](const QByteArray &field, const char *zeroLevel) {
         row("nothing in " + field, field, 0, "", 3, "");
         row("a word in " + field, field, 0, "invalid input", 3, zeroLevel);
@@ -147,7 +147,7 @@ void VswrConverterProfileTest::unitSetterRewrites_data()
         oddTexts(field, "1000");
 }
 
-/// The square and the other rows are filled, so a recalculation would be seen.
+/// The square and the other rows are filled, so a recalculation would show.
 void VswrConverterProfileTest::unitSetterRewrites()
 {
     QFETCH(int, places);
@@ -244,8 +244,8 @@ void VswrConverterProfileTest::loadsSelectionsBeforeTexts()
     QCOMPARE(log.take(), QStringList());
 }
 
-/// The text that is still held is rewritten for the loaded unit, and then gives way to the stored
-/// one, to the character.
+/// Loading the unit first rewrites the text that is still there. Then the stored text replaces it,
+/// character by character.
 void VswrConverterProfileTest::loadedTextsAreTheStoredOnes()
 {
     SettingsFile file;

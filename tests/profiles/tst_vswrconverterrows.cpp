@@ -23,8 +23,8 @@ void addColumns()
 }
 
 /// @p edited begins with a P for powers or a V for voltages. Units and texts are those of the
-/// forward, the reflected and the absorbed row; without units all rows have their first one. What
-/// is calculated stands in parentheses.
+/// forward, the reflected and the absorbed row. Without units all rows have their first one. The
+/// calculated texts stand in parentheses.
 void add(const char *tag, const char *edited, const char *units, const char *texts,
          const char *r2 = "")
 {
@@ -44,7 +44,8 @@ QStringList rowsOf(QChar half, const char *end = "")
     return names;
 }
 
-/// The number of @p unit in its selector. A number stands for itself, for units that are none.
+/// The number of @p unit in its selector. A number stands for itself, so that a test can name units
+/// that do not exist.
 int unitNumber(QChar half, const QString &unit)
 {
     bool isNumber = false;
@@ -186,7 +187,8 @@ void VswrConverterRowsTest::writesInOrder_data()
     row("calculateFromPAbsorbed", "PAbsorbed", "50", "pForward pAbsorbed");
     row("calculateFromVForward", "VForward", "50", "vReflected vAbsorbed");
     row("calculateFromVAbsorbed", "VAbsorbed", "50", "vForward vAbsorbed");
-    // of 25 %, as 9 / 0.5 - 9 would be the same 9 that stands there
+    // With 50 % the result would be 9 / 0.5 - 9 = 9, which the field holds already, so this takes
+    // 25 %.
     row("calculateFromPReflected", "PReflected", "25", "pForward pAbsorbed");
     row("calculateFromVReflected", "VReflected", "25", "vForward vAbsorbed");
 }
@@ -233,8 +235,9 @@ void VswrConverterRowsTest::converts_data()
         "25");
 }
 
-/// Every row in a unit of its own, with 10 mW forward, 2.5 mW reflected and 7.5 mW absorbed, or
-/// 1000 mV, 250 mV and 750 mV: two of the texts are given and the third is found.
+/// Every row has a unit of its own. The powers are 10 mW forward, 2.5 mW reflected and 7.5 mW
+/// absorbed, the voltages 1000 mV, 250 mV and 750 mV. Two texts are given, and the third is
+/// calculated.
 void VswrConverterRowsTest::solvesInMixedUnits_data()
 {
     addColumns();

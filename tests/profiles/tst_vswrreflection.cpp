@@ -11,8 +11,8 @@
 
 using namespace Dezimo;
 
-/// The five calculations of the reflection group. Every row starts with a 9 in each other field of
-/// the group, so that an emptied field is seen as well.
+/// The five calculations of the reflection group. Every other field of the group starts with a 9,
+/// so that a test also sees when it is emptied.
 class VswrReflectionTest : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ void fill(VswrConverterProfile &profile, const char *edited, const QString &text
 {
     setProperties(profile, values(group(), QStringLiteral("9 | 9 | 9 | 9 | 9")));
     profile.setProperty(edited, text);
-    // Powers and voltages are no business of the reflection group.
+    // The reflection group must leave powers and voltages alone.
     setProperties(profile,
                   values(words("pForward pReflected pAbsorbed vForward vReflected vAbsorbed"),
                          QStringLiteral("1 | 2 | 3 | 4 | 5 | 6")));

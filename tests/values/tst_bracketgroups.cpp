@@ -27,8 +27,8 @@ private Q_SLOTS:
 
 namespace {
 
-/// Finds the innermost group, replaces it by its value, and starts again with the new text: slow,
-/// and the measure of what the one pass has to give.
+/// Finds the innermost group, replaces it by its value, and starts again with the new text. This is
+/// slow but simple, and the single pass must give the same.
 BracketedResult replacedOneByOne(QString text, const Evaluator &evaluate)
 {
     const QLatin1Char opening('(');
@@ -53,7 +53,7 @@ BracketedResult replacedOneByOne(QString text, const Evaluator &evaluate)
     return {spansAll ? Evaluation{text} : evaluate(text)};
 }
 
-/// A text of up to @p terms terms, in which brackets pair.
+/// A random text of up to @p terms terms with matching brackets.
 QString randomText(std::mt19937 &random, int terms)
 {
     static const char *const kTerms[] = {

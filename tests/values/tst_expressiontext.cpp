@@ -90,7 +90,7 @@ void ExpressionTextTest::operatorPositions()
 
 void ExpressionTextTest::cleansAnyCharacter()
 {
-    // 7 of the 65536 code units are dropped, the others stay or become one other.
+    // Cleaning drops 7 of the 65536 code units. It keeps each of the others or replaces it by one.
     QString every;
     for (uint code = 0; code <= 0xFFFF; ++code)
         every += QChar(code);

@@ -25,11 +25,11 @@ private Q_SLOTS:
 
 namespace {
 
-/// Units of which one begins as another does.
+/// Two units, one of which begins with the other.
 constexpr Unit kI{latin1("i"), Units::times<1>, Units::over<1>};
 constexpr Unit kIn{latin1("in"), Units::times<1>, Units::over<1>};
 
-/// A calculator of lengths, in the order of the search.
+/// The units of a calculator of lengths, in the order in which it searches them.
 const ExpressionUnits &lengths()
 {
     static const ExpressionUnits units{{1, &kIn}, {0, &kI}, {2, &Units::kNone, true}};

@@ -90,7 +90,8 @@ void OperatorChainTest::reduces()
 
 void OperatorChainTest::roundsEachStep()
 {
-    // With 2 digits 10 + 0.4 is 10, twice; added at once they would make 10.8 and so 11.
+    // With 2 digits, 10 + 0.4 is 10, and so is the next sum. Without rounding in between, the
+    // result would be 10.8, which rounds to 11.
     SumsOnly rule;
     const QString text = QStringLiteral("10y+0.4y+0.4y");
     QCOMPARE(OperatorChain(text, lengths(), 2).result(rule).text, QStringLiteral("10y"));

@@ -87,7 +87,7 @@ void PowerStepsTest::endsTheMeanAtADifference()
 void PowerStepsTest::endsTheMeanAtARatio()
 {
     PowerSteps steps(true);
-    // A ratio in front of the first mean leaves the mean to be formed.
+    // A first mean is still possible after a ratio.
     QCOMPARE(steps.combine({7.0, &kDbm}, Operator::Plus, {3.0, &kDb})->value, 10.0);
     QCOMPARE(steps.combine({10.0, &kDbm}, Operator::Plus, milliwatt(4))->value, 7.0);
     QCOMPARE(steps.combine(milliwatt(10), Operator::Minus, {3.0, &kDb})->value, 7.0);

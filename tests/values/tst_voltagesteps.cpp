@@ -41,7 +41,7 @@ double combined(int mode, double phase, double left, Operator operation, double 
 void VoltageStepsTest::combines_data()
 {
     columns<int, double, double, double>({"mode", "phase", "sum", "difference"});
-    // Of 3 mV and 4 mV; where there is no difference it is not looked at.
+    // The sum and the difference of 3 mV and 4 mV.
     const auto row = [](const char *tag, int mode, double phase, double sum, double difference) {
         QTest::newRow(tag) << mode << phase << sum << difference;
     };

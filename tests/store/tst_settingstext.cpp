@@ -22,12 +22,12 @@ using namespace Dezimo;
 
 namespace {
 
-/// What QSettings makes of many texts. They are files of one folder: to make and remove a folder
-/// for each takes ten times as long as all the rest.
+/// Tells what QSettings makes of many texts. They are files of one folder, because making and
+/// removing a folder for each takes ten times as long as everything else.
 class Judge
 {
 public:
-    /// Whether QSettings finds a value in the text that it rebuilds from the bytes of an integer.
+    /// Whether QSettings rebuilds an integer from its packed bytes in @p text.
     bool findsPackedNumber(const QByteArray &text)
     {
         const QSettings settings(written(text), QSettings::IniFormat);
@@ -44,7 +44,7 @@ public:
     }
 
 private:
-    /// A new name each time, as QSettings need not notice that a file has changed at once.
+    /// QSettings may not notice at once that a file has changed, so each text gets a new name.
     QString written(const QByteArray &text)
     {
         QFile file(m_folder.filePath(QString::number(++m_files)));
@@ -59,7 +59,7 @@ private:
 
 } // namespace
 
-/// Which lines of an INI file never reach QSettings, and that it is given no others to fear.
+/// Which lines of an INI file never reach QSettings, and that none of the others is harmful.
 class SettingsTextTest : public QObject
 {
     Q_OBJECT
@@ -199,7 +199,7 @@ void SettingsTextTest::dropsOverlongLines()
     QCOMPARE(SettingsText::harmless(longest + "b\nc=d\n"), QByteArray("\nc=d\n"));
 }
 
-/// 32 MiB hold 128 of the longest lines; comments and blanks do not count.
+/// 32 MiB hold 128 of the longest lines. Comments and blanks do not count.
 void SettingsTextTest::boundsTheWhole()
 {
     const QByteArray longest = "a=" + QByteArray(256 * 1024 - 2, 'b') + ";\n";
@@ -253,7 +253,7 @@ void SettingsTextTest::keepsWhatIsSaved()
     }
 }
 
-/// QSettings itself is the judge of texts that are made of all that means something to it.
+/// QSettings itself judges random texts, made of everything that has a meaning for it.
 void SettingsTextTest::leavesNothingPacked()
 {
     const std::vector<QByteArray> pieces{
@@ -262,7 +262,7 @@ void SettingsTextTest::leavesNothingPacked()
         "\t", "\\100",    "@@", "c=", "x",  "\n[d]\n", "e=\"",  "\xef\xbb\xbf",
     };
     const QByteArray packed = "@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)";
-    // Said when what follows the integer is taken for a part of it.
+    // QSettings says so if it takes what follows the integer for a part of it.
     const ExpectedMessages unknownTypes({QStringLiteral("Trying to construct an instance of")});
     std::mt19937 random(20220531);
     Judge judge;
@@ -279,7 +279,7 @@ void SettingsTextTest::leavesNothingPacked()
         QVERIFY2(!judge.findsPackedNumber(SettingsText::harmless(text)),
                  text.toPercentEncoding().constData());
     }
-    QVERIFY(rebuilt > 100); // so that the judge is known to see them
+    QVERIFY(rebuilt > 100); // otherwise the judge sees too few
 }
 
 void SettingsTextTest::arranges_data()

@@ -14,7 +14,7 @@
 
 using namespace Dezimo;
 
-/// Which stored values are taken, and which are malformed and read as the default.
+/// Which stored values the program takes, and which are malformed and give the default.
 class StoredKeysTest : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// What QSettings calls the group of keys that are in none.
+/// The name that QSettings gives the group of all keys without a group.
 constexpr QLatin1String kGroup("", 0);
 constexpr QLatin1String kText("default", 7);
 constexpr int kInteger = 42;
@@ -67,7 +67,7 @@ void StoredKeysTest::readsFiles_data()
 {
     addColumns();
 
-    // What stands in an INI file after "key=".
+    // In an INI file, "stored" is the text after "key=".
     const auto row = [](const char *tag, const char *stored, const QVariant &defaultValue,
                         const QVariant &expected) {
         QTest::newRow(tag) << QVariant(QByteArray(stored)) << defaultValue << expected;
@@ -176,7 +176,7 @@ void StoredKeysTest::readsTypedStores_data()
     row("integer: an unsigned one", 7U, kInteger, 7);
     row("integer: a long one", qlonglong(-7), kInteger, -7);
     row("integer: an unsigned one beyond the largest", 4294967295U, kInteger, kInteger);
-    // whose lower half would be 2
+    // Its lower half alone would be 2.
     row("integer: a long one beyond the largest", qlonglong(4294967298), kInteger, kInteger);
     row("integer: an unsigned long one beyond the largest", qulonglong(4294967298), kInteger,
         kInteger);
@@ -209,7 +209,7 @@ void StoredKeysTest::readsTypedStores()
 
 void StoredKeysTest::aMissingKeyIsTheDefault()
 {
-    // Stores on Windows do not tell capital letters from small ones.
+    // Stores on Windows ignore case.
 #ifdef Q_OS_WIN
     SettingsFile file("[General]\nkeys=2\n");
 #else

@@ -6,8 +6,8 @@
 
 #include <QString>
 
-/// A day of a month as the C library writes it: below ten with a blank before it on Unix, with a
-/// zero on Windows.
+/// A day of a month as the C library writes it. A day below ten follows a blank on Unix and a zero
+/// on Windows.
 inline QString dayText(int day)
 {
 #ifdef Q_OS_WIN

@@ -11,8 +11,8 @@
 /// What a Windows machine holds, as plain tables.
 struct Machine
 {
-    /// By "HKLM\" or "HKCU\", key, backslash and value name; so the default value of a key ends
-    /// with the backslash.
+    /// By "HKLM\" or "HKCU\", key, backslash and value name. The path of a key's default value thus
+    /// ends with a backslash.
     QMap<QString, QString> texts;
     QMap<QString, std::uint32_t> numbers;
     /// By path.
@@ -26,7 +26,7 @@ struct Machine
     QString windowsFolder = QStringLiteral("C:\\Windows");
 };
 
-/// Answers from a machine's tables, which must live as long.
+/// Answers from a machine's tables, which must outlive this object.
 class FakeHost final : public WindowsHost
 {
 public:

@@ -164,7 +164,7 @@ void OsReleaseTest::nameAtTheEndOfWhatIsRead()
 
 void OsReleaseTest::nameBehindWhatIsRead()
 {
-    // Of the line all but its end would be read: it may be half a name, so it does not count.
+    // Reading stops just before the end of this line. The name may be incomplete, so it is ignored.
     const QByteArray line = "NAME=System\n";
     const QByteArray filling(OsRelease::kLongestFile - line.size() + 1, '\n');
     QCOMPARE(OsRelease::systemName(written(filling + line)), QString());

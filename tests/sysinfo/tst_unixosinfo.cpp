@@ -25,7 +25,7 @@ bool write(const QString &path, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/// When the file at @p path was made, in seconds since 1970; 0 where that is not known.
+/// When the file at @p path was created, in seconds since 1970. 0 if that is not known.
 std::time_t birthSeconds(const QString &path)
 {
 #ifdef STATX_BTIME
@@ -175,7 +175,7 @@ void UnixOSInfoTest::birthOfTheRootFolder()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("root")));
     const std::time_t birth = birthSeconds(path("root"));
-    // Not every file system keeps the moment.
+    // Not every file system stores when a folder was created.
     QString expected = QStringLiteral("---");
     if (birth > 0)
         expected = QString::fromLatin1(std::ctime(&birth)).chopped(1);

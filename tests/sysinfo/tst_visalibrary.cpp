@@ -79,7 +79,7 @@ void VisaLibraryTest::findsThroughLinks()
     const QTemporaryDir folder;
     QVERIFY(QFile::link(elsewhere.filePath(QStringLiteral("library")),
                         folder.filePath(QStringLiteral("libvisa.so.5"))));
-    // A link to nothing and a folder are no libraries.
+    // A broken link and a folder are not libraries.
     QVERIFY(QFile::link(elsewhere.filePath(QStringLiteral("removed")),
                         folder.filePath(QStringLiteral("libvisa.so.6"))));
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("libvisa.so.7")));
@@ -121,7 +121,7 @@ void VisaLibraryTest::usualFolders()
 
 void VisaLibraryTest::ownArchitectureComesFirst()
 {
-    // A system with one folder for all libraries has no such name.
+    // A system with one folder for all libraries has no folder per architecture.
     const QString architecture = QStringLiteral(DEZIMO_LIBRARY_ARCHITECTURE);
     const QString first = architecture.isEmpty() ? QStringLiteral("/usr/local/vxipnp/linux/lib64")
                                                  : QStringLiteral("/usr/lib/") + architecture;

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kLongestText = 32768;
 
-/// Somewhere in either root.
+/// A key that the tests use in either root.
 QString key()
 {
     return QStringLiteral("Software\\A maker\\Übertragung");
@@ -53,7 +53,7 @@ void makeFile(const QString &path)
 
 } // namespace
 
-/// The questions to Windows itself, against a registry and libraries that the test prepares.
+/// Asks Windows itself, with a registry and libraries that the test prepares.
 class Win32HostTest : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ QString windowsNt()
     return QStringLiteral("SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion");
 }
 
-/// A copy of one of the test's libraries, which goes with this object.
+/// A copy of one of the test's libraries. It is removed together with this object.
 class CopiedFile
 {
 public:
@@ -47,8 +47,9 @@ private:
 } // namespace
 
 /**
- * The About window's facts as Windows itself gives them: each there, and each missing. What lies in
- * Windows' own folders is copied there and removed, which needs the rights to do so.
+ * The About window's facts as Windows itself gives them. Each fact is tested as present and as
+ * missing. Some tests copy files into Windows' own folders and remove them again, which needs the
+ * rights to do so.
  */
 class WindowsFactsTest : public QObject
 {
@@ -201,7 +202,7 @@ void WindowsFactsTest::takesTheOlderIeeeDriverIfNeeded()
     if (!older.made())
         QSKIP("no right to write into the system folder");
     {
-        // It is there but tells no version.
+        // The file is there but has no version.
         const CopiedFile newer("withoutfields", systemFile("GPIB-32.dll"));
         QVERIFY(newer.made());
         QVERIFY(system().contains(QStringLiteral("IEEE driver: 1.2.3 beta")));
@@ -282,7 +283,7 @@ void WindowsFactsTest::aUsbDriverWithoutItsFileHasNoVersion()
             QSKIP("no right to write into the folders of drivers");
         QCOMPARE(system().last(), QStringLiteral("Drivers: keltest.SYS (Version ---)"));
     }
-    // A driver file that no set-up file names is none of the maker's.
+    // If no set-up file names a driver file, it is not the maker's.
     const CopiedFile driver("withfields", windowsFile("SYSTEM32\\Drivers\\keltest.SYS"));
     QVERIFY(driver.made());
     QCOMPARE(system().last(), QStringLiteral("Drivers: No USB driver found"));

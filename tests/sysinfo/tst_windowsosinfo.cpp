@@ -339,7 +339,7 @@ void WindowsOSInfoTest::noFolderNoSearch()
     Machine machine;
     machine.windowsFolder.clear();
     machine.systemFolder.clear();
-    // What a search from the root of the current drive would find.
+    // Without a folder, a search would start at the root of the current drive and find these files.
     machine.files = {
         {text("\\bin\\kel*.dll"), {text("kelvxi.dll")}},
         {text("\\IVI\\Bin\\kel*.dll"), {text("kelivi.dll")}},

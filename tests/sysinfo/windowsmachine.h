@@ -28,7 +28,8 @@ public:
 
     /// The bytes of a text with its terminator, as the registry keeps it.
     static QByteArray terminated(const QString &text);
-    /// The library that the build made of library.cpp and a version resource of that name.
+    /// The path of the library that the build made from library.cpp and the version resource of
+    /// that name.
     static QString library(const char *name);
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// A library of which only the version resource is read.
+// The tests only read the version resource of this library.
 
 int emptyLibrary()
 {

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# Colors a sheet after a palette of two rows and shows what becomes of it in both themes.
+# Colors a sheet by a palette of two rows and shows the result for both themes.
 # usage: cmake -D FOLDER=<folder> -D ROW=<second row> -D SHEET=<text> -P palette_test.cmake
 
 cmake_minimum_required(VERSION 3.25)

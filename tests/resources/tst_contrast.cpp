@@ -21,10 +21,10 @@
 
 namespace {
 
-/// The least ratio that a pair needs, after the Web Content Accessibility Guidelines 2.1.
+/// The lowest contrast ratios that the Web Content Accessibility Guidelines 2.1 allow.
 constexpr double kText = 4.5;
 constexpr double kMark = 3.0;      ///< large text, borders of controls, icons, the focus mark
-constexpr double kNoMinimum = 1.0; ///< inactive text, shades and lines that tell nothing alone
+constexpr double kNoMinimum = 1.0; ///< inactive text, shades and lines that mean nothing alone
 
 /// Two colors that meet on the screen.
 struct Pair
@@ -73,8 +73,8 @@ QString textOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// Every color that sheets write: "#rrggbb", and any other way of writing a color, by a function or
-/// by its name, which no pair can name.
+/// Every color in the sheets, as "#rrggbb", as a function or as a name. No pair names the last two,
+/// so a sheet that uses them fails the test.
 QSet<QString> colorsOf(const QStringList &files)
 {
     static const QRegularExpression comment(QStringLiteral("/\\*.*?\\*/"),
@@ -97,7 +97,7 @@ QSet<QString> colorsOf(const QStringList &files)
     return colors;
 }
 
-/// Every "#rrggbb" of a text in which it means nothing but a color.
+/// Every "#rrggbb" of a text in which this can only be a color.
 QSet<QString> plainColorsIn(const QString &text)
 {
     static const QRegularExpression color(QStringLiteral("#[0-9a-f]{6}\\b"));
@@ -118,7 +118,7 @@ QSet<QString> iconColors(bool dark)
     return colors;
 }
 
-/// The sheets that only one theme shows.
+/// The sheets that belong to one theme only.
 QStringList themeSheets(bool dark)
 {
     const QDir folder(QStringLiteral(":/Global/Style/"));
@@ -212,7 +212,7 @@ void ContrastTest::computesTheRatioOfTheGuidelines()
 {
     QCOMPARE(ColorContrast::ratio(Qt::white, Qt::black), 21.0);
     QCOMPARE(ColorContrast::ratio(Qt::black, Qt::black), 1.0);
-    // The guidelines' own borderline gray: #767676 on white has 4.54:1.
+    // The gray that just passes the guidelines: #767676 on white has 4.54:1.
     QCOMPARE(std::round(ColorContrast::ratio(QColor(0x76, 0x76, 0x76), Qt::white) * 100), 454.0);
 }
 
@@ -249,7 +249,7 @@ void ContrastTest::everyColorOfTheSheetsIsInAPair()
     QFETCH(bool, dark);
 
     const QSet<QString> used = colorsOf(themeSheets(dark)) + iconColors(dark);
-    // Equal both ways: a pair whose color no sheet or icon uses any more would prove nothing.
+    // The sets must be equal: a pair whose color no sheet or icon uses would prove nothing.
     QCOMPARE(sorted(used), sorted(colorsOfPairs(dark)));
 }
 

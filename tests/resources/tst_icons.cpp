@@ -14,7 +14,7 @@
 
 #include <cstdlib>
 
-/// Every icon of both themes, drawn as the program draws it, at the sizes at which it is shown.
+/// Every icon of both themes, drawn as the program draws it, in the sizes that the program shows.
 class IconsTest : public QObject
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ namespace {
 
 constexpr int kSizes[] = {16, 24, 32, 48};
 
-/// A pixel that a shape covers neither nearly not nor nearly wholly.
+/// Whether a shape covers a clear part of a pixel, but not nearly all of it.
 bool isHalfCovered(int alpha)
 {
     return alpha > 48 && alpha < 208;
@@ -75,8 +75,8 @@ int alphaAt(const QImage &image, int x, int y)
     return qAlpha(image.pixel(x, y));
 }
 
-/// The longest run of neighbors in one line that a shape covers by the same part: a straight edge
-/// that runs through the pixels instead of between them.
+/// The longest run of neighbors in a row or a column of which a shape covers the same part. Such a
+/// run is a straight edge that goes through the pixels instead of between them.
 int longestBlurredEdge(const QImage &image)
 {
     const int size = image.width();
@@ -97,7 +97,7 @@ int longestBlurredEdge(const QImage &image)
     return longest;
 }
 
-/// The name without its size: the same sign may be there in two sizes.
+/// The name without its size, because the same sign may exist in two sizes.
 QString sign(const QString &path)
 {
     return QFileInfo(path).baseName().remove(QStringLiteral("_16")).remove(QStringLiteral("_48"));
@@ -135,7 +135,7 @@ void IconsTest::drawsASign()
     }
 }
 
-/// Drawn with a sixteenth of air around it, the icon leaves that air empty.
+/// Draws the icon with a margin of a sixteenth of its width. The margin must stay empty.
 void IconsTest::staysInsideItsFrame()
 {
     QFETCH(QString, path);
@@ -157,8 +157,8 @@ void IconsTest::staysInsideItsFrame()
     }
 }
 
-/// At the multiples of the grid that the icons are drawn on. A quarter of the icon is what a round
-/// or slanted line may have in common with a straight one.
+/// Edges are sharp at the multiples of the grid that the icons are drawn on. Round and slanted
+/// lines may look straight for up to a quarter of the icon.
 void IconsTest::straightEdgesFallBetweenPixels()
 {
     QFETCH(QString, path);

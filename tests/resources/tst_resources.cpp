@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QTest>
 
-/// The program asks for its resources by name, so each name stays and has something behind it.
+/// The program asks for its resources by name, so each name must stay and have contents.
 class ResourcesTest : public QObject
 {
     Q_OBJECT

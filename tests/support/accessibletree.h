@@ -10,8 +10,8 @@
 class QWidget;
 
 /**
- * A window as a screen reader walks through it: what can be seen, in the order of the tree, less
- * the frames that only hold others.
+ * A window as a screen reader walks through it: what is visible, in the order of the tree, without
+ * the frames that only hold other controls.
  */
 namespace AccessibleTree {
 
@@ -22,8 +22,8 @@ QStringList controls(const QWidget *root);
 /// The texts that a person reads without being able to change them.
 QStringList texts(const QWidget *root);
 
-/// The control with this role and name below @p root, as a screen reader would look for it; none if
-/// there is no such one or if there are several.
+/// The control with this role and name below @p root, as a screen reader would look for it. Null if
+/// there is none or more than one.
 QAccessibleInterface *find(const QWidget *root, QAccessible::Role role, const QString &name);
 
 } // namespace AccessibleTree

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-/// The ratio of two colors by the Web Content Accessibility Guidelines 2.1, from 1 to 21.
+/// The contrast ratio of two colors by the Web Content Accessibility Guidelines 2.1, from 1 to 21.
 namespace ColorContrast {
 
 /// The relative luminance of sRGB, as the guidelines define it.

@@ -8,9 +8,10 @@
 #include <QtGlobal>
 
 /**
- * While it lives, messages that begin with one of the given texts are taken, however often Qt logs
- * them; all others reach the test's log and fail it as ever. For warnings of Qt whose number is not
- * the point; where it is, QTest::ignoreMessage() is the tool. One object at a time.
+ * While it exists, it swallows messages that begin with one of the given texts, however often Qt
+ * logs them. All others reach the test's log and fail the test as usual. Use it for warnings of Qt
+ * whose number does not matter, and QTest::ignoreMessage() where it does. Only one object may exist
+ * at a time.
  */
 class ExpectedMessages
 {
@@ -20,7 +21,7 @@ public:
     ExpectedMessages(const ExpectedMessages &) = delete;
     ExpectedMessages &operator=(const ExpectedMessages &) = delete;
 
-    /// How many messages were taken so far.
+    /// How many messages it has swallowed so far.
     int count() const { return m_count; }
 
 private:

@@ -17,7 +17,7 @@ HKEY handleOf(PrivateRegistry::Root root)
     return root == PrivateRegistry::Root::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
 }
 
-/// Another one for each process, because several tests run at the same time.
+/// Several tests run at the same time, so each process has a key of its own.
 std::wstring pathOf(PrivateRegistry::Root root)
 {
     return L"Software\\DezimoTest-" + std::to_wstring(GetCurrentProcessId()) +

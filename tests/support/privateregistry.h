@@ -7,9 +7,9 @@
 #include <string>
 
 /**
- * While it lives, this process finds an empty key in place of a root of Windows' registry, of which
- * nothing is left afterwards. So no test reads or writes what belongs to the person or the machine
- * that runs it. Several give their roots back in the reverse order.
+ * While it exists, this process sees a temporary key, empty at first, in place of a root of
+ * Windows' registry. So no test reads or writes settings of the person or the machine that runs it.
+ * Several such objects must end in the reverse order.
  */
 class PrivateRegistry
 {
@@ -23,9 +23,9 @@ public:
 
 private:
     Root m_root;
-    /// Below the root of the user, as that is when this object is made.
+    /// Below the user's root as it was when this object was made.
     std::wstring m_path;
-    /// A handle of Windows.
+    /// An HKEY, a type that only Windows' headers know.
     void *m_key = nullptr;
 };
 

@@ -28,26 +28,26 @@ struct PropertyValue
 using PropertyValues = std::vector<PropertyValue>;
 Q_DECLARE_METATYPE(PropertyValues)
 
-/// Reads "name=value, name=value", so that a list takes no more than a part of a line.
+/// Reads "name=value, name=value", so that a list fits on a line.
 PropertyValues values(const QString &text);
 
-/// The properties @p names with the texts that stand between the bars of "a | b | ", in this order.
+/// The properties @p names with the texts between the bars of "a | b | ", in this order.
 PropertyValues values(const QStringList &names, const QString &texts);
 
 /// The properties that the class of @p object and its bases declare, in the order of declaration,
 /// without QObject's own.
 std::vector<QMetaProperty> declaredProperties(const QObject &object);
 
-/// The value of a property with every digit of a number, so that two texts are equal exactly if the
-/// values are. Two variants are not: they are equal for numbers that nearly are.
+/// The value of a property with all digits of a number, so that two texts are equal exactly if the
+/// values are. Comparing two QVariants would not do: numbers that are nearly equal pass as equal.
 QString exactText(const QVariant &value);
 
 /// Sets @p values one after the other. A name that is no property ends the test.
 void setProperties(QObject &object, const PropertyValues &values);
 
 /// Every declared property as a line "name = value", with the values in @p changes in place of the
-/// real ones. Two such lists are equal exactly if the objects are, so nothing that changed
-/// unexpectedly is missed. For properties that have a text: numbers and texts.
+/// real ones. Two such lists are equal exactly if the objects are, so a test misses no unexpected
+/// change. Works for properties that can be written as text: numbers and texts.
 QStringList propertyLines(const QObject &object, const PropertyValues &changes = {});
 
 /// The signals that a class declares, in the order of declaration.

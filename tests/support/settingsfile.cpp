@@ -37,7 +37,7 @@ QStringList SettingsFile::lines()
     return lines;
 }
 
-/// The name of the store's file, which is made with @p text.
+/// Writes @p text into the store's file and returns the file's name.
 QString SettingsFile::written(const QByteArray &text) const
 {
     QFile file(storeIn(m_folder));

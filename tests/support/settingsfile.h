@@ -9,20 +9,20 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A settings store in an INI file of its own, removed at the end.
+/// A settings store in an INI file of its own, which is removed at the end.
 class SettingsFile
 {
 public:
     /// An empty store.
     SettingsFile();
-    /// A store that holds what a file with the bytes of @p text says.
+    /// A store whose file has the bytes of @p text.
     explicit SettingsFile(const QByteArray &text);
 
     QSettings &settings() { return m_settings; }
     QString fileName() const { return m_settings.fileName(); }
-    /// The text of the file as it is on every system.
+    /// The text of the file, with the order and the line ends that are the same on every system.
     QByteArray text();
-    /// The lines of the file, sorted: the store keeps no order of its own.
+    /// The lines of the file. They are sorted, because the store keeps no order.
     QStringList lines();
 
 private:

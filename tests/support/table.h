@@ -17,7 +17,7 @@ void columns(const std::array<const char *, sizeof...(Types)> &names)
     (QTest::addColumn<Types>(names.at(next++)), ...);
 }
 
-/// A row of the table, which fits on a line: row("a sentence", "10dBm", 3). A literal is a QString.
+/// Adds a row to the table, in one line: row("a sentence", "10dBm", 3). Literals become QStrings.
 template <typename... Cells>
 void row(const char *tag, const Cells &...cells)
 {

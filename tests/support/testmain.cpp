@@ -21,8 +21,8 @@
 
 namespace {
 
-/// What Qt's platforms write by themselves: offscreen for every window with a minimum or maximum
-/// size and for every menu that opens, Wayland when a menu closes.
+/// What Qt's platforms log by themselves: offscreen for every window with a minimum or maximum size
+/// and for every menu that opens, Wayland when a menu closes.
 constexpr std::array<const char *, 4> kPlatformMessages = {
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
@@ -44,7 +44,7 @@ bool isOfThePlatform(const QString &line)
                        [&line](const char *end) { return line.endsWith(QLatin1String(end)); });
 }
 
-/// The lines of QTest's text log that report a logged message, less those of the platform.
+/// The lines of QTest's text log that report a logged message, without those of the platform.
 QStringList unexpectedMessages(const QString &log)
 {
     static const QRegularExpression message(
@@ -101,7 +101,7 @@ int runTestStrictly(QObject &test, int argc, char **argv)
 
     QFile log(logName);
     if (!log.open(QIODevice::ReadOnly))
-        return failures; // asked for a list of functions only
+        return failures; // there is no log if only a list of functions was asked for
     const QStringList messages = unexpectedMessages(QString::fromUtf8(log.readAll()));
     for (const QString &message : messages)
         std::fprintf(stderr, "unexpected message: %s\n", qPrintable(message));

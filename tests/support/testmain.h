@@ -10,10 +10,11 @@
 #include <memory>
 
 /**
- * Gives a test a home of its own before any application object exists: settings, cache, data and
- * runtime folders in a fresh temporary folder, on Windows an empty registry, and elsewhere the
- * offscreen platform unless the caller chose one. So no test reads or writes what belongs to the
- * person who runs it. Qt's offscreen platform has no fonts on Windows, so tests show windows there.
+ * Gives a test a home of its own before any application object exists, so that no test reads or
+ * writes files and settings of the person who runs it. Settings, cache, data and runtime folders
+ * are in a fresh temporary folder, and on Windows the registry is empty. Elsewhere the platform is
+ * offscreen unless the caller chose one. Qt's offscreen platform has no fonts on Windows, so tests
+ * show windows there.
  */
 class TestHome
 {
@@ -22,13 +23,13 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    /// On Windows only, where a type is known that nothing here needs to know.
+    /// Set on Windows only. The type behind it exists only there, so this header does not name it.
     std::shared_ptr<void> m_registry;
 };
 
 /**
- * While it lives, the leak check of a sanitized build overlooks what is allocated. Qt's offscreen
- * platform never frees its screen, which it creates together with the application object.
+ * While it exists, the leak check of a sanitized build ignores what is allocated. Qt's offscreen
+ * platform creates its screen together with the application object and never frees it.
  */
 class LeakCheckPause
 {
@@ -39,12 +40,12 @@ public:
     LeakCheckPause &operator=(const LeakCheckPause &) = delete;
 };
 
-/// Runs all test functions of @p test and returns QTest's exit status. Beyond QTest's own judgment
-/// the run fails if anything was logged that no test function expected by QTest::ignoreMessage().
+/// Runs all test functions of @p test and returns QTest's exit status. The run also fails if
+/// anything was logged that no test function expected by QTest::ignoreMessage().
 int runTestStrictly(QObject &test, int argc, char **argv);
 
 /// The main function of a test: @p Application is QCoreApplication for logic, QApplication for
-/// widgets; @p rest is what its constructor takes beyond the command line.
+/// widgets. @p rest is what its constructor takes besides the command line.
 template <typename Application, typename Test, typename... Rest>
 int runTestMain(int argc, char **argv, Rest... rest)
 {

@@ -8,15 +8,15 @@
 #include <QTest>
 #include <QWidget>
 
-/// Waits until @p window has the keyboard. QTest's function for this does not wait on Wayland,
-/// because a window cannot ask for the keyboard there; the compositor gives it all the same.
+/// Waits until @p window has the keyboard. On Wayland a window cannot ask for the keyboard, so
+/// QTest's function does not wait there, although the compositor does give it.
 inline bool waitForKeyboard(const QWidget &window)
 {
     return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
 }
 
-/// Whether windows know where on the screen they are, and can put the pointer anywhere. On Wayland
-/// both are the compositor's own business.
+/// Whether windows know where on the screen they are and can move the pointer. On Wayland only the
+/// compositor can do both.
 inline bool hasScreenPositions()
 {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));

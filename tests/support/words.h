@@ -6,13 +6,14 @@
 
 #include <QStringList>
 
-/// The words of @p line, which blanks part: an expected list of names as one literal.
+/// The words of @p line, separated by blanks, so that a test can write a list of names as one
+/// literal.
 inline QStringList words(const char *line)
 {
     return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/// The lines of @p text without their indentation, as a raw literal holds them.
+/// The lines of @p text without their indentation, for lists that are written as raw literals.
 inline QStringList lines(const char *text)
 {
     QStringList result;

@@ -11,8 +11,8 @@
 #include <vector>
 
 /**
- * Requires that an object announces its properties as every model promises: each announcement is
- * of a real change, and no change goes without one.
+ * Requires that an object announces its properties as every model promises: it announces every
+ * change, and it announces nothing that has not changed.
  */
 class ChangeWatch final : public QObject
 {
@@ -23,7 +23,7 @@ public:
 
     /// Requires that nothing has changed without an announcement.
     void requireAllAnnounced() const;
-    /// What the texts that changed since the last call read now.
+    /// The present contents of those texts that have changed since the last call.
     QStringList takeChangedTexts();
 
 private Q_SLOTS:

@@ -12,10 +12,11 @@ using namespace Dezimo;
 
 namespace {
 
-/// Selectors have fewer entries; what lies beyond them is tried from both ends.
+/// Selectors have fewer entries, so this includes invalid indexes at both ends.
 constexpr int kFarthestIndex = 10;
 
-/// @p text as a value that a widget or a loader could hand to the property; else nothing.
+/// @p text as a value that a widget or a loader could pass to the property. Invalid if neither
+/// would pass it.
 QVariant valueFor(const QMetaProperty &property, const QString &text)
 {
     bool ok = false;
@@ -49,7 +50,7 @@ void callSlot(QObject &object, const QByteArray &name)
     const QMetaObject *type = object.metaObject();
     const QByteArray signature = name + "()";
     const int slot = type->indexOfSlot(signature.constData());
-    // What QObject has itself would delete the model.
+    // QObject's own slots are left out, because deleteLater() would delete the model.
     if (slot >= QObject::staticMetaObject.methodCount())
         type->method(slot).invoke(&object, Qt::DirectConnection);
 }
@@ -89,7 +90,7 @@ bool isResult(const QString &text)
 {
     static const QStringList words = ErrorText::all() << QString() << QStringLiteral("INF")
                                                       << QStringLiteral("-INF");
-    // An operand of the dB converter that follows from the other one takes over its unit.
+    // When the dB converter calculates one operand, it appends the unit of the other one.
     QString number = text;
     for (const char *unit : {"dBm", "dBW", "W"})
         number.remove(QLatin1String(unit));

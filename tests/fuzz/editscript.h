@@ -14,15 +14,15 @@
 #include <memory>
 #include <vector>
 
-/// The lines of an input. What is no UTF-8 reads as replacement characters.
+/// The lines of an input. Bytes that are not valid UTF-8 become replacement characters.
 QStringList linesOf(const std::uint8_t *data, std::size_t size);
 
 /**
- * Models that are edited by lines of text, as the inputs of the fuzz targets are: "name=value" sets
- * a property, "name" calls a slot, on every model that has it. Any other line does nothing.
+ * Edits models by lines of text, which the inputs of the fuzz targets consist of: "name=value" sets
+ * a property and "name" calls a slot, on every model that has it. Any other line does nothing.
  *
- * After each line it is required that announcements are as promised, and that what a slot wrote
- * into a text is a result: a number, a word for one that is none, an error text, or nothing.
+ * After each line it requires that announcements are as promised, and that a text that a slot has
+ * changed is a result: a number, a word for infinity, an error text, or nothing.
  */
 class EditScript
 {

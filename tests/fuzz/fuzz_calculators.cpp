@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// Both expression calculators, driven by the lines that EditScript reads. Each line is followed by
-// a calculation, as each key is in the views.
+// Drives both expression calculators by the lines that EditScript reads. It calculates after each
+// line, as the views do after each key.
 
 #include "dbmcalculatorprofile.h"
 #include "editscript.h"
@@ -16,7 +16,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// The results of @p profile with another input, which it keeps.
+/// Sets the input of @p profile, which stays set, and returns the results.
 QStringList resultsWith(ExpressionProfile &profile, const QString &input)
 {
     profile.setInput(input);

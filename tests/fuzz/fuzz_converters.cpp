@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// The three converters, driven through sequences of edits and calculations by the lines that
-// EditScript reads. A name that several of them have goes to all.
+// Drives the three converters through sequences of edits and calculations by the lines that
+// EditScript reads. If several converters have the name in a line, the line goes to all of them.
 
 #include "dbconverterprofile.h"
 #include "editscript.h"

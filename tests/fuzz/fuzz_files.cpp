@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// The input as a calculation file: what is harmless in it is opened, saved, and what was saved is
-// opened again.
+// Takes the input as a calculation file: opens what is harmless in it, saves that, and opens the
+// saved file again.
 
 #include "changewatch.h"
 #include "everyprofile.h"
@@ -23,7 +23,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// A name that no file had before: Qt remembers the values of a store that is opened again.
+/// A name that no file had before, because Qt remembers the values of a store it has opened.
 QString newFileName()
 {
     static const QTemporaryDir folder;
@@ -39,7 +39,7 @@ QString written(const std::uint8_t *data, std::size_t size)
     return file.fileName();
 }
 
-/// Whether a value is of a kind that takes no more room than its text does.
+/// Whether a value is of a type that takes no more memory than its text.
 bool isHarmless(const QVariant &value)
 {
     switch (value.userType()) {
@@ -59,7 +59,7 @@ bool isHarmless(const QVariant &value)
 void requireHarmlessValues(const QSettings &file)
 {
     QStringList keys = file.allKeys();
-    keys.removeAll(QString()); // read, but never handed out
+    keys.removeAll(QString()); // QSettings lists an empty key but never returns its value
     for (const QString &key : qAsConst(keys)) {
         const QVariant value = file.value(key);
         const bool isList = value.userType() == QMetaType::QVariantList;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// What the system says about itself in texts: an os-release file, the name of a locale, the names
-// of library files. One input is taken for each of them.
+// Reads texts in which a system describes itself: an os-release file, the name of a locale, the
+// names of library files. Each input is read as all three.
 
 #include "localesetting.h"
 #include "osrelease.h"
@@ -55,7 +55,7 @@ void checkLibrary(const QByteArray &text)
     const VisaLibrary library = VisaLibrary::among(files);
     std::reverse(files.begin(), files.end());
     const VisaLibrary reversed = VisaLibrary::among(files);
-    // Except among 7 and 07.
+    // Versions are compared as numbers, because 7 and 07 are equal and either may come first.
     require(library.name == reversed.name && QVersionNumber::fromString(library.version) ==
                                                  QVersionNumber::fromString(reversed.version),
             "the order of the files does not count", library.version);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
-// Stands for libFuzzer where a fuzz target is built as a test: each file in the given folders is
-// one input.
+// Takes the place of libFuzzer where a fuzz target is built as a test: each file in the given
+// folders is one input.
 
 #include "require.h"
 

@@ -6,11 +6,11 @@
 
 #include <QString>
 
-/// Ends the run, which is a finding, with @p rule and @p value on standard error if @p holds is
-/// false.
+/// If @p holds is false, prints @p rule and @p value to standard error and aborts. libFuzzer
+/// reports the abort as a finding.
 void require(bool holds, const char *rule, const QString &value = {});
 
-/// From now on whatever Qt logs is a finding too: the program never logs anything.
+/// From now on a message that Qt logs is a finding, too, because the program never logs anything.
 void requireSilence();
 
 #endif

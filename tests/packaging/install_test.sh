@@ -4,7 +4,7 @@
 #
 # install_test.sh: installs the Debian package into a fresh root of the same Debian release, starts
 # Dezimo from there by the Exec line of its menu entry, without and with a file, closes it, removes
-# the package and looks for what was left behind. Where no fresh root can be made it says why and
+# the package and looks for what was left behind. Where it cannot make a fresh root, it says why and
 # ends with status 77.
 #
 # The root with the package's dependencies is kept under build/install-test, so that only the first
@@ -22,7 +22,7 @@ file="Zwei Geräte, 10 µW.dezimo"
 fail() { echo "$*" >&2; exit 1; }
 skip() { echo "Install test skipped: $*"; exit 77; }
 
-# The archives of Debian that this machine itself installs from, as lines of a sources.list.
+# The archives of Debian that this machine installs from, as lines of a sources.list.
 machine_sources() {
     # shellcheck disable=SC2016
     apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
@@ -39,7 +39,7 @@ apt_in_root() {
         >>"$cache/apt.log" 2>&1 || { tail --lines=20 "$cache/apt.log"; fail "apt-get $1 failed"; }
 }
 
-# A fresh root with what the package depends on, and with a person's account.
+# Makes a fresh root with what the package depends on and with a person's account.
 make_root() {
     local mirror
     mirror=$(awk -v release="$release" '$3 == release { print $2; exit }' <<<"$sources")
@@ -59,7 +59,7 @@ make_root() {
     in_root useradd --create-home --uid "$person" person
 }
 
-# The root as make_root makes it, from the last run where nothing it is made of has changed.
+# Makes the same root as make_root, but takes it from the last run if its parts have not changed.
 fresh_root() {
     local key kept
     key=$(sha256sum <<<"$release $sources $depends" | cut --characters=1-16)
@@ -74,7 +74,7 @@ fresh_root() {
     mv "$kept.part" "$kept"
 }
 
-# Every path in the root with its contents, but for apt's own books and the person's state.
+# Lists every path in the root with its contents, except apt's own records and the person's state.
 snapshot() {
     (
         cd "$root"
@@ -84,7 +84,7 @@ snapshot() {
     )
 }
 
-# start_and_quit [FILE]: starts the program as the person's desktop would, and leaves it.
+# start_and_quit [FILE]: starts the program as the person's desktop would, and quits it.
 start_and_quit() {
     local words
     mapfile -t words < <(exec_words "$root" "$@")

@@ -1,14 +1,15 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# Sourced by the scripts that start Dezimo by its menu entry: a display, the words that a desktop
-# makes of the entry, and the way out by the keyboard. They bring the function fail.
+# To be sourced by scripts that start Dezimo by its menu entry. It gives them a display, the words
+# that a desktop makes of the entry, and a way to quit by the keyboard. The scripts themselves
+# define the function fail.
 # shellcheck shell=bash
 
 # shellcheck source=tools/x_windows.sh
 . tools/x_windows.sh
 
-# start_display LOG: an X server of its own, with DISPLAY set to it and its process in $server.
+# start_display LOG: starts an X server, sets DISPLAY to it and $server to its process.
 start_display() {
     local number
     coproc display { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -ac 2>"$1"; }
@@ -19,8 +20,8 @@ start_display() {
     export DISPLAY=:$number
 }
 
-# exec_words ROOT [FILE...]: the words of the menu entry's Exec line, one in a line, with %f replaced
-# by what is given (a desktop gives one file at most) or left out.
+# exec_words ROOT [FILE...]: prints the words of the menu entry's Exec line, one per line. The files
+# take the place of %f, which is left out if there are none. A desktop gives one file at most.
 exec_words() {
     local entry words word
     entry=$(compgen -G "$1/usr/share/applications/*.dezimo.desktop")
@@ -34,8 +35,8 @@ exec_words() {
     done
 }
 
-# quit_by_keyboard PROCESS: waits for the window of the started program, tells of it, and leaves by
-# the keys of the menu's Quit.
+# quit_by_keyboard PROCESS: waits for the window of the started program, prints what it is like, and
+# quits by the keys of the menu's Quit.
 quit_by_keyboard() {
     local window
     window=$(window_named 60 '^Dezimo \[') ||
@@ -45,7 +46,7 @@ quit_by_keyboard() {
     wait "$1" || fail "the program ended with status $?"
 }
 
-# stored_p1 HOME: the first power of the dB converter in the state that the program left.
+# stored_p1 HOME: prints the first power of the dB converter from the state that the program stored.
 stored_p1() {
     sed --quiet '/^\[DbConverterProfile\]/,/^\[/s/^p1=//p' "$1/.config/Vantrel/Dezimo.conf"
 }

@@ -33,7 +33,7 @@ build() {
     expect "last line" "The package: ${packages[0]}" "$said"
 }
 
-# All four parts, in the package, in its name and in what it tells of itself.
+# The version has all four parts in the package, its name, its changelog and its metainfo.
 version() {
     expect "Package" dezimo "$(field Package)"
     expect "Version" "$DEZIMO_VERSION" "$(field Version)"
@@ -47,7 +47,8 @@ version() {
         "$(xmllint --xpath 'string(//release/@version)' "$share/metainfo/$DEZIMO_ID.metainfo.xml")"
 }
 
-# A library's package has another name in another release, so it is looked for by its file.
+# A library's package may have another name in another Debian release, so the check finds it by its
+# file.
 dependencies() {
     local depends
     depends=$(field Depends)
@@ -77,7 +78,7 @@ contents() {
     diff "$expected" "$found"
 }
 
-# Without a package, the install step puts the same files under a prefix of one's choice.
+# The install step puts the same files under any prefix, without a package.
 prefix() {
     unpack
     cmake --install build/package --component application --prefix "$scratch/prefix" >/dev/null
@@ -99,7 +100,8 @@ icons() {
         "$(grep '^Icon=' "$scratch/root/usr/share/applications/$DEZIMO_ID.desktop")"
 }
 
-# The databases that a desktop makes of the package lead from a file to the program.
+# A desktop makes databases from the package's files. They must lead from a calculation file to the
+# program.
 desktop_knows_the_files() {
     unpack
     local share=$scratch/root/usr/share
@@ -113,7 +115,7 @@ desktop_knows_the_files() {
         fail "the desktop entry does not pass the file on"
 }
 
-# start [ARGUMENT...]: starts the unpacked program by its menu entry, and leaves it.
+# start [ARGUMENT...]: starts the unpacked program by its menu entry, and quits it.
 start() {
     local words
     mapfile -t words < <(exec_words "$scratch/root" "$@")
@@ -123,8 +125,8 @@ start() {
     quit_by_keyboard $!
 }
 
-# The program itself: a first start, a file by its full name and by its name in the current folder,
-# what is no file name, and a file that is not there.
+# The program starts for the first time, with a file by its full name and by its name in the current
+# folder, with an option and with two files, and with a file that does not exist.
 starts() {
     unpack
     local home=$scratch/home file='Zwei Geräte, 10 µW.dezimo'
@@ -159,7 +161,7 @@ man_page() {
     [[ -d $scratch/root$examples ]] || fail "there is no $examples"
 }
 
-# The man page leads to the guide, and each picture that the guide shows lies where it says.
+# The man page names the guide, and every picture is where the guide says.
 guide() {
     unpack
     local folder=$scratch/root/usr/share/doc/dezimo picture
@@ -176,11 +178,11 @@ lintian() {
     command lintian "${root[@]}" --fail-on error,warning "$package"
 }
 
-# code_block LANGUAGE PAGE: what stands between the fences of a language.
+# code_block LANGUAGE PAGE: prints what stands between the fences of a language.
 code_block() { sed --quiet "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$2"; }
 
-# The documented example, taken from the page as it stands, against the installed models. The models
-# ask for the C++ that they need, also where a compiler or a project would settle for an older one.
+# Builds the documented example, exactly as it is on the page, with the installed models. It asks
+# for an older C++ than the models need, to test that the models ask for the right one.
 use_of_the_models() {
     local page=docs/use-the-models.md
     cmake --install build/package --component devel --prefix "$scratch/installed" >/dev/null
@@ -195,8 +197,8 @@ use_of_the_models() {
     code_block text "$page" | diff - "$scratch/found"
 }
 
-# Again from sources in another place, which need not have a plain name, at another hour and without
-# what the first build left behind.
+# Makes the package again from sources in another folder, whose name has blanks and an umlaut, in
+# another time zone and without what the first build left behind.
 reproducible() {
     local sources="$scratch/Dezimo für alle"
     mkdir "$sources"

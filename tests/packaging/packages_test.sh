@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# packages_test.sh: what the install step takes for there, on a machine whose packages are made up
-# and whose apt only notes that it was called.
+# packages_test.sh: tests which packages tools/packages.sh believes to be installed. The list of
+# packages is made up, and apt only notes that it was called.
 set -euo pipefail
 
 scratch=$(mktemp --directory)
@@ -11,7 +11,7 @@ trap 'rm -rf "$scratch"' EXIT
 
 fail() { echo "$*" >&2; exit 1; }
 
-# command_in_place_of NAME: the script that comes in.
+# command_in_place_of NAME: replaces the command by the script on standard input.
 command_in_place_of() {
     { echo '#!/bin/sh'; cat; } >"$scratch/$1"
     chmod +x "$scratch/$1"
@@ -20,8 +20,8 @@ command_in_place_of dpkg-query <<<"cat '$scratch/packages'"
 command_in_place_of apt-get <<<"echo called >>'$scratch/apt'"
 command_in_place_of sudo <<<'exec "$@"'
 
-# says CASE WORDS: what is said for the group that needs valgrind alone, with the state, name and
-# provided names of the packages that come in.
+# says CASE WORDS: checks what is said for the group that needs only valgrind. Standard input lists
+# the packages with state, name and provided names.
 says() {
     local said called=
     cat >"$scratch/packages"

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# sources_test.sh: a source package is fetched from an archive on this disk, which apt knows by each
-# of the forms that its entries may have, and apt's configuration stays as it was.
+# sources_test.sh: fetches a source package from an archive on this disk, once for each form in
+# which apt's configuration may name an archive. The configuration must stay as it was.
 set -euo pipefail
 
 scratch=$(mktemp --directory)
@@ -26,8 +26,8 @@ make_archive() {
         >"$scratch/log" 2>&1 || { cat "$scratch/log"; fail "no archive"; }
 }
 
-# fetches FORM FILE: whether the package is fetched if FILE of apt's configuration alone says where
-# the archive is, in the words that come in.
+# fetches FORM FILE: checks that the package is fetched if only FILE in apt's configuration names
+# the archive. Standard input is the contents of FILE.
 fetches() {
     rm -rf "$etc" "$scratch/fetched"
     mkdir -p "$etc/sources.list.d"

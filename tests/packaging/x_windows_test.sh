@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# x_windows_test.sh: a search that meets a window that is just going is made again. CTest runs it
-# from the source folder.
+# x_windows_test.sh: a search for a window fails if it meets another window that is just closing, so
+# it must be repeated. CTest runs this test from the source folder.
 set -euo pipefail
 # shellcheck source=tools/x_windows.sh
 . tools/x_windows.sh
@@ -12,7 +12,7 @@ scratch=$(mktemp --directory)
 trap 'rm -rf "$scratch"' EXIT
 export PATH=$scratch:$PATH
 
-# fake_xdotool LINE: what xdotool does from here on.
+# fake_xdotool LINE: replaces xdotool by a script of one line.
 fake_xdotool() {
     printf '#!/bin/sh\n%s\n' "$1" >"$scratch/xdotool"
     chmod +x "$scratch/xdotool"

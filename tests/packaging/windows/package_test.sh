@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: MIT
 #
 # package_test.sh CHECK: one check of the zip and the installer for Windows, which the check "build"
-# makes. CTest runs each from the source folder, with DEZIMO_VERSION as the project has it. What is
-# installed is looked at and started under Wine: an installer that does nothing also succeeds.
+# makes. CTest runs each from the source folder, with DEZIMO_VERSION as the project has it. An
+# installer that does nothing would also succeed, so the checks look at what it installed and start
+# it under Wine.
 set -euo pipefail
 # shellcheck source=/dev/null
 . tools/wine_session.sh
@@ -15,7 +16,7 @@ installer=$packages/dezimo_${DEZIMO_VERSION}_win64-setup.exe
 scratch=$(mktemp --directory)
 trap clean_up EXIT
 
-# What a failed check leaves behind in its Windows is no good to others.
+# A failed check may leave its Windows changed, so that Windows is not used again.
 clean_up() {
     [[ $? -eq 0 ]] || rm -f "${WINEPREFIX:-$scratch}/made"
     end_wine
@@ -47,7 +48,7 @@ contents() {
     unzip -Z1 "$zip" | grep --invert-match '/$' | sort | diff "$scratch/expected" -
 }
 
-# What the executable tells of itself to Windows.
+# What the executable tells Windows about itself.
 resources() {
     unzip -q "$zip" Dezimo/dezimo.exe -d "$scratch"
     local program=$scratch/Dezimo/dezimo.exe text
@@ -64,14 +65,15 @@ resources() {
     expect "sizes of the icon" 6 "$(wrestool --list --type=3 "$program" | wc --lines)"
 }
 
-# Nothing of this machine gets into the files: neither the folder of the sources nor that of the user.
+# No path of this machine gets into the files: neither the source folder nor the user's home.
 no_paths() {
     unzip -q "$zip" -d "$scratch"
     ! grep --recursive --text --files-with-matches --fixed-strings -e "$PWD" -e "$HOME/" "$scratch/Dezimo" ||
         fail "a path of this machine is in the files above"
 }
 
-# Again from sources in another place, at another hour and without what the first build left behind.
+# Makes the zip again from sources in another folder, in another time zone and without what the
+# first build left behind.
 reproducible() {
     mkdir "$scratch/sources"
     tar --create --exclude=./build --exclude=./.git . | tar --extract --touch --directory "$scratch/sources"
@@ -83,7 +85,7 @@ reproducible() {
     cmp "$zip" "$scratch/sources/$zip"
 }
 
-# query KEY [VALUE]: the data of a value of the user's registry; empty if there is none.
+# query KEY [VALUE]: prints the data of a value in the user's registry, or nothing if there is none.
 query() {
     local choice=(/ve)
     [[ $# -eq 1 ]] || choice=(/v "$2")
@@ -91,17 +93,17 @@ query() {
         iconv --from-code=CP437 | tr --delete '\r' | sed --quiet 's/.* REG_[A-Z]* *//p' || true
 }
 
-# Every file and every key that an installer may leave behind.
+# Lists every file and every key that an installer may leave behind.
 snapshot() {
     find "$WINEPREFIX/drive_c" -not -path '*/Temp/*' -not -name run.bat | sort
     local key
     for key in 'Software\Classes' 'Software\Microsoft\Windows\CurrentVersion\Uninstall'; do
-        # An empty key and none are the same here.
+        # An empty key must look like a missing one, so blank lines and error messages are dropped.
         wine reg query "HKCU\\$key" /s 2>/dev/null | tr --delete '\r' | sed '/^$/d; /^reg: /d' || true
     done
 }
 
-# main_window: the main window, once it is there and in front.
+# main_window: prints the main window as soon as it is there and in front.
 main_window() {
     local window
     window=$(window_named 60 '^Dezimo \[') || fail "no window appeared"
@@ -109,10 +111,11 @@ main_window() {
     echo "$window"
 }
 
-# ended PROCESS: whether it ends within a second.
+# ended PROCESS: succeeds if it ends within a second.
 ended() { timeout 1 tail --pid="$1" --follow /dev/null; }
 
-# quit PROCESS: leaves by the keys of the menu's Quit; Wine loses keys right after a start.
+# quit PROCESS: quits by the keys of the menu's Quit. Wine loses keys right after a start, so it
+# presses them again until the program ends.
 quit() {
     local attempt
     for attempt in {1..30}; do
@@ -131,7 +134,8 @@ start_and_quit() {
     wineserver --wait
 }
 
-# run_line LINE: runs it as it stands, since a set-up program wants no quotes round its folder.
+# run_line LINE: runs the line exactly as it is, because a set-up program wants no quotes around its
+# folder.
 run_line() {
     local status=0
     printf '@%s\r\n' "$1" | iconv --to-code=CP437 >"$WINEPREFIX/drive_c/line.bat"
@@ -140,31 +144,33 @@ run_line() {
     return "$status"
 }
 
-# command_line LINE: the same to the end. The uninstaller goes on as a copy of itself.
+# command_line LINE: runs the line and waits until every process has ended, because the uninstaller
+# goes on as a copy of itself.
 command_line() {
     run_line "$1"
     wineserver --wait
 }
 
-# windows_path FILE: how a program of Windows names a file of this machine.
+# windows_path FILE: prints the name by which a Windows program knows a file of this machine.
 windows_path() {
     local path
     path=$(realpath "$1")
     echo "Z:${path//\//\\}"
 }
 
-# set_up INSTALLER [FOLDER]: installs without a question.
+# set_up INSTALLER [FOLDER]: installs without asking anything.
 set_up() { command_line "$(windows_path "$1") /S${2:+ /D=$2}"; }
 
-# holds_the_files_of_the_zip FOLDER: whether nothing else than them and the uninstaller is there.
+# holds_the_files_of_the_zip FOLDER: checks that the folder has exactly the files of the zip and the
+# uninstaller.
 holds_the_files_of_the_zip() {
     unzip -Z1 "$zip" | sed --quiet 's,^Dezimo/\(.*[^/]\)$,\1,p' | sort >"$scratch/zipped"
     (cd "$1" && find . -type f -not -name uninstall.exe -printf '%P\n') | sort |
         diff "$scratch/zipped" -
 }
 
-# classes_of_machine ACTION KEY...: Wine looks for file types only among those of the machine, where
-# Windows sees the user's own as well; so these are copied there or removed again.
+# classes_of_machine copy|delete KEY...: copies the user's file types to those of the machine, or
+# deletes them there. Windows looks for file types in both places, but Wine only in the machine's.
 classes_of_machine() {
     local action=$1 key
     shift
@@ -177,7 +183,7 @@ classes_of_machine() {
     done
 }
 
-# In a folder with spaces and letters beyond ASCII, as is the name of the calculation that is opened.
+# The folder has spaces and letters beyond ASCII, and so has the name of the opened calculation.
 folder='C:\Geräte für µW\Dezimo'
 uninstall='Software\Microsoft\Windows\CurrentVersion\Uninstall\Dezimo'
 
@@ -218,7 +224,7 @@ installed() {
     expect "the person's state" 5W "$(query 'Software\Vantrel\Dezimo\DbConverterProfile' p1)"
 }
 
-# The installer of an earlier version, with a file that this one no longer has.
+# Makes the installer of an earlier version, with a file that this one no longer has.
 make_earlier() {
     local staged=$scratch/earlier
     mkdir -p "$staged/gone"
@@ -231,7 +237,8 @@ make_earlier() {
         build/windows/packaging/windows/dezimo.nsi
 }
 
-# Over an earlier version, to the same place and to another one; while the program runs it refuses.
+# Installs over an earlier version, to the same place and to another one. While the program runs,
+# installer and uninstaller refuse.
 updated() {
     start_wine_with_a_place
     make_earlier
@@ -259,7 +266,7 @@ updated() {
     snapshot | diff "$scratch/before" - || fail "the installer left something behind"
 }
 
-# picture_of_rest FILE: the screen, once two pictures in a row are the same.
+# picture_of_rest FILE: saves a picture of the screen once two in a row are the same.
 picture_of_rest() {
     import -window root "$1"
     until import -window root "$scratch/next.png" && cmp --quiet "$1" "$scratch/next.png"; do
@@ -273,7 +280,7 @@ about() {
     unzip -q "$zip" -d "$scratch"
     mkdir -p "$pictures"
     start_wine
-    # One driver, without which there is no tab of drivers; the program itself has a version to tell.
+    # The tab of drivers needs a driver. The program serves as one, because it has a version.
     local windows=$WINEPREFIX/drive_c/windows
     touch "$windows/inf/kelexample.inf"
     cp "$scratch/Dezimo/dezimo.exe" "$windows/system32/drivers/kelexample.SYS"
@@ -281,7 +288,7 @@ about() {
     local program=$! main window
     main=$(main_window)
     until window=$(window_named 5 '^Information about Dezimo$'); do
-        # The last menu and its only entry, which no key leads to.
+        # Opens the last menu and its only entry, which has no shortcut.
         xdotool key Escape mousemove --window "$main" 134 14 click 1 key --delay 200 Down Return
         kill -0 "$program" || fail "the program has ended"
     done

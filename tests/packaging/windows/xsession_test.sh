@@ -11,7 +11,7 @@ set -euo pipefail
 scratch=$(mktemp --directory)
 trap clean_up EXIT
 
-# What a failed test leaves behind in its Windows is no good to others.
+# A failed test may leave its Windows changed, so that Windows is not used again.
 clean_up() {
     [[ $? -eq 0 ]] || rm -f "${WINEPREFIX:-$scratch}/made"
     end_wine

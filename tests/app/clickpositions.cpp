@@ -3,7 +3,7 @@
 
 // Prints where a person has to click: one line "PAGE NAME X Y" for each module in the list, tab,
 // field and unit list, in pixels of the window's contents at the size of a first start. The session
-// test asks for them on its own display, so that no pixel is written down anywhere.
+// test runs this on its own display, so that no source has to contain pixels.
 
 #include "identity.h"
 #include "kelapplication.h"
@@ -85,7 +85,7 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
     const TestHome home;
-    const WithoutOpenGl asTheProgram; // a graphics driver never frees what it loads
+    const WithoutOpenGl asTheProgram; // because a graphics driver never frees what it loads
     KelApplication application(argc, argv, true);
     Identity::apply();
     MainWindow window;

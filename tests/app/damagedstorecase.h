@@ -12,28 +12,28 @@
 
 #include <memory>
 
-/// Files that no program writes, made to do harm.
+/// Harmful files, such as no program writes by itself.
 namespace DamagedStore {
 
 constexpr int kMebibyte = 1024 * 1024;
 
-/// @p value of the key p1 of the dB converter, and harmless neighbors before and after it.
+/// Settings with @p value for the key p1 of the dB converter, between harmless neighbors.
 QByteArray amongNeighbors(const QByteArray &value);
 /// A list that holds a list that holds a list and so on.
 QByteArray deeplyNestedLists();
-/// Several types say of themselves that they have four thousand million elements.
+/// A value of @p type that claims to have four thousand million elements. Several types can.
 QByteArray hugeCount(int type);
 
 void write(const QString &fileName, const QByteArray &text);
 QByteArray read(const QString &fileName);
 bool makePipe(const QString &fileName);
-/// A sparse file takes no room on the disk, yet would take the memory.
+/// Makes a sparse file. It takes no room on the disk, but reading it would take all memory.
 bool makeHuge(const QString &fileName);
 
 } // namespace DamagedStore
 
-/// A test of what the window makes of such a store. Before each test function there are no
-/// settings, and the field P1 holds 1W.
+/// A test of what the window does with such files. Before each test function there are no settings,
+/// and the field P1 holds 1W.
 class DamagedStoreCase : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ class DamagedStoreCase : public QObject
 protected:
     QString settingsFile() const { return m_settingsFile; }
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
-    /// A new window reads what is stored now.
+    /// Makes a new window, which reads what is stored now.
     void restart();
     QString fieldText(const char *name) const;
 
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void cleanup();
 
 private:
-    /// Taken from QSettings while it can still be made.
+    /// Read at the start, because a test may make files that QSettings must not open.
     const QString m_settingsFile = QSettings().fileName();
     std::unique_ptr<QTemporaryDir> m_folder;
 };

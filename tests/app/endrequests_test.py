@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 """endrequests_test.py PROGRAM: ends sessions of the program from outside, on a display of their own.
 
-Each session has an edit in the dB converter that nobody finished, and something open above it. However
-it is ended, its status is 0, nothing is on standard error, and the settings hold the edit finished.
+Each session has an unfinished edit in the dB converter and something open above it. However the
+session ends, its status is 0, standard error is empty, and the settings hold the finished edit.
 """
 
 import ctypes
@@ -23,12 +23,12 @@ PAUSE_SECONDS = 0.02
 SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
 NOBODY = 65534
 
-# 10 dBm over 0 dBm; an edit that is not finished leaves the ratio empty.
+# 10 dBm over 0 dBm. An unfinished edit would leave the ratio empty.
 FINISHED = ["p1=10dBm", "p2=0dBm", "pDb=10.00", "pRatio=10"]
 
 
 def wait_for(what, condition):
-    """The first true value of the condition, which is asked until the patience ends."""
+    """Asks the condition until it is true or the patience ends, and returns its value."""
     deadline = time.monotonic() + PATIENCE_SECONDS
     while time.monotonic() < deadline:
         value = condition()
@@ -39,11 +39,11 @@ def wait_for(what, condition):
 
 
 class Display:
-    """A display without a window manager, and the means to use it."""
+    """A display without a window manager."""
 
     def __init__(self):
         read, write = os.pipe()
-        # Without -noreset the display starts anew, unreachable meanwhile, when its last client goes.
+        # Without -noreset the display restarts, unreachable for a while, when its last client goes.
         self.process = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
              "-noreset"], pass_fds=[write], stderr=subprocess.DEVNULL)
@@ -67,18 +67,18 @@ class Display:
 
 
 def use(*arguments):
-    """What xdotool prints. It fails where nothing is found, or where a window is just going."""
+    """What xdotool prints. Its status is ignored: it also fails if a window is just closing."""
     return subprocess.run(["xdotool", *arguments], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                           text=True, check=False).stdout
 
 
 def windows(title=""):
-    """The visible windows whose title begins so, or all there are; the display has no others."""
+    """The visible windows whose title begins so, or all. The display has only the program's."""
     return use("search", "--onlyvisible", "--name", f"^{title}").split()
 
 
 def wait_for_another_window(what, *keys):
-    """Presses the keys and waits for what they open."""
+    """Presses the keys and waits for the window that they open."""
     before = len(windows())
     use("key", *keys)
     wait_for(what, lambda: len(windows()) > before)
@@ -103,7 +103,7 @@ class Session:
             for number in SIGNALS:
                 signal.signal(number, signal.SIG_IGN if number in ignored else signal.SIG_DFL)
 
-        self.home.chmod(0o700)  # as a folder for what runs must be
+        self.home.chmod(0o700)  # as the runtime folder must be
         self.stderr = tempfile.TemporaryFile("w+")
         self.process = subprocess.Popen([*prefix, program, *arguments], env=environment,
                                         cwd=self.home, stderr=self.stderr, preexec_fn=prepare)
@@ -111,7 +111,7 @@ class Session:
         use("windowfocus", "--sync", self.window)
 
     def type_without_finishing(self, display):
-        """The last that is typed copies the field, so all has arrived as soon as something is copied."""
+        """The last keys copy the field, so all keys have arrived as soon as something is copied."""
         use("type", "10dBm")
         use("key", "Tab")
         use("type", "0dBm")
@@ -122,7 +122,7 @@ class Session:
         return self.settings_file.read_text().splitlines()
 
     def end(self, *signals):
-        """Returns what was said on standard error."""
+        """Ends the program by the signals and returns its standard error."""
         for number in signals:
             self.process.send_signal(number)
         status = self.process.wait(PATIENCE_SECONDS)
@@ -161,7 +161,7 @@ def open_dialog(_session):
 
 
 def question_above_the_save_dialog(session):
-    """Two dialogs, the upper one asking whether the settings shall be replaced."""
+    """Opens two dialogs, the upper one asking whether to replace the settings."""
     use("key", "ctrl+s")
     dialog = wait_for("the dialog", lambda: windows("Save dB"))[0]
     use("windowfocus", "--sync", dialog)
@@ -184,7 +184,7 @@ def ended_session(display, program, opened, signals):
 
 
 def ignored_signal(display, program):
-    """As by nohup, whose program survives its terminal."""
+    """Ignores SIGHUP as nohup does, so that the program survives its terminal."""
     session = Session(program, ignored=[signal.SIGHUP])
     try:
         session.process.send_signal(signal.SIGHUP)
@@ -203,7 +203,7 @@ def unreadable_file(_display, program, name, prepare, reason, as_nobody=False):
         prefix = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
     with tempfile.TemporaryDirectory() as folder:
         os.chmod(folder, 0o755)
-        if prefix:  # which may lie where nobody looks
+        if prefix:  # the user nobody may have no access to the program's folder
             program = shutil.copy(program, folder)
         file = pathlib.Path(folder) / name
         prepare(file)
@@ -218,7 +218,7 @@ def unreadable_file(_display, program, name, prepare, reason, as_nobody=False):
 
 
 def rows():
-    """A sentence each, and what proves it."""
+    """Each row is a sentence, a function that checks it, and the function's arguments."""
     ends = [
         *((number.name, opened, [number])
           for opened in (nothing, about_window, open_dialog, file_menu) for number in SIGNALS),
@@ -242,7 +242,7 @@ def rows():
 
 
 def main():
-    os.environ["LC_ALL"] = "C.UTF-8"  # reasons are in the language of the system
+    os.environ["LC_ALL"] = "C.UTF-8"  # the system's reasons are in its own language
     for variable in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR", "XDG_DATA_HOME", "XDG_CACHE_HOME"):
         os.environ.pop(variable, None)
     failed = 0

@@ -29,7 +29,7 @@ bool isRule(const QStringList &cells)
     return cells.indexOf(dashes) == 0;
 }
 
-/// Nothing if the cell does not hold entries from its start to its end.
+/// The entries of a cell, or none if the cell holds anything else.
 QList<Guide::Entry> entriesOf(const QString &cell)
 {
     static const QRegularExpression entry(

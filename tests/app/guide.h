@@ -11,9 +11,9 @@
 /**
  * The worked examples of the user guide, read from its Markdown.
  *
- * Every row of a table with the columns "Type" and "Shows" is an example. Each cell names fields,
- * by the names that a screen reader says, and their texts: "Power 1 `1W`, Power 2 *empty*". The
- * module is that of the section, or of the column "Module" where the table has one.
+ * Every row of a table with the columns "Type" and "Shows" is an example. Each cell has fields, by
+ * the names that a screen reader says, and their texts: "Power 1 `1W`, Power 2 *empty*". The module
+ * is that of the section, or of the column "Module" if the table has one.
  */
 struct Guide
 {
@@ -33,7 +33,7 @@ struct Guide
     static Guide parsed(const QString &markdown);
 
     QList<Example> examples;
-    QStringList problems; ///< rows that are meant as examples and cannot be read
+    QStringList problems; ///< rows of such tables that cannot be read
 };
 
 #endif

@@ -84,7 +84,8 @@ void checkText(const QWidget &widget, QStringList &complaints)
     }
 }
 
-/// The labels inside a line edit lie over it by design; so do the parts of Qt's own widgets.
+/// Whether the children must not overlap. The labels inside a line edit do by design, and so do the
+/// parts of Qt's own widgets.
 bool laysOutChildren(const QWidget &widget)
 {
     return widget.layout() != nullptr;

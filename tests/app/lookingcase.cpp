@@ -20,8 +20,8 @@
 
 using namespace Dezimo;
 
-/// Typed and calculated at four digits. To calculate again from any of the results would show: a
-/// mismatch loss of 0.18 dB belongs to a return loss of 13.91 dB as well.
+/// Types values and calculates them at four digits. Calculating again from any of the results would
+/// give other values: for example a mismatch loss of 0.18 dB also fits a return loss of 13.91 dB.
 void LookingCase::fillModules()
 {
     m_profile.setDecimalPlaces(kDigits);
@@ -139,7 +139,7 @@ void LookingCase::minimizeAndRestore()
     QCoreApplication::processEvents();
     m_window->showNormal();
     m_window->activateWindow();
-    // A compositor of Wayland brings windows back in its own time.
+    // A Wayland compositor decides when a window comes back, so the test does not wait there.
     if (hasScreenPositions())
         QVERIFY(waitForKeyboard(*m_window));
 }

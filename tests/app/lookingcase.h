@@ -11,7 +11,7 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 
-/// A test of the window with values in every module, and ways in which a person gets about in it.
+/// A test of the window with values in every module and with ways to move around in it.
 class LookingCase : public MainWindowCase
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ class LookingCase : public MainWindowCase
 protected:
     static constexpr int kPages = 5;
     static constexpr int kDbConverter = 3;
-    /// Digits of the values that are typed; results are rounded to them.
+    /// Digits of the typed values, to which results are rounded.
     static constexpr int kDigits = 4;
 
-    /// Opens the window at @p page, with the values that a new session finds.
+    /// Opens the window at @p page, with the values that a new session loads.
     void openPage(int page);
     QWidget &page() const { return *child<QStackedWidget>("stackedWidget")->currentWidget(); }
     QList<QLineEdit *> shownFields() const;

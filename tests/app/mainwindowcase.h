@@ -13,8 +13,7 @@
 
 /**
  * A test of the main window. Before each test function the settings are empty and the root profile
- * holds its defaults;
- * after it the window is gone.
+ * holds its defaults. After it the window is gone.
  */
 class MainWindowCase : public QObject
 {
@@ -28,7 +27,7 @@ protected:
     }
     /// Makes the window, shows it and waits until it has the keyboard.
     void openWindow();
-    /// Puts a value into the window's group of the settings, for the next window to find.
+    /// Puts a value into the window's group of the settings, which the next window reads.
     static void store(const char *key, const QVariant &value);
 
     Dezimo::MainProfile &m_profile = Dezimo::MainProfile::instance();

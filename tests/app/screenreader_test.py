@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """screenreader_test.py PROGRAM: calculates in every module through roles and names alone.
 
-Nothing here knows an object name, a position or a key: each control is looked for as the user of a
-screen reader finds it, texts are put in and actions done over AT-SPI, and results are read there.
+Nothing here uses an object name, a position or a key. The test finds each control as the user of a
+screen reader does, enters texts and does actions over AT-SPI, and reads the results there.
 """
 
 import subprocess
@@ -19,11 +19,11 @@ PAUSE_SECONDS = 0.02
 
 
 def wait_for(what, condition):
-    """The first true value of the condition, which is asked until the patience ends."""
+    """Asks the condition until it is true or the patience ends, and returns its value."""
     deadline = time.monotonic() + PATIENCE_SECONDS
     while time.monotonic() < deadline:
         while GLib.MainContext.default().iteration(False):
-            pass  # delivers what was announced
+            pass  # each step delivers an announcement
         try:
             value = condition()
         except GLib.Error:
@@ -35,13 +35,13 @@ def wait_for(what, condition):
 
 
 def role_of(accessible):
-    """The name of its role. What is a button today was a push button in older AT-SPI."""
+    """The name of its role. Older versions of AT-SPI call a button a push button."""
     role = accessible.getRoleName()
     return "button" if role == "push button" else role
 
 
 def visible_below(root):
-    """Every accessible that is showing, breadth first. The lists of closed boxes are not."""
+    """Every accessible that is showing, breadth first. The lists of closed boxes are left out."""
     rest = [root]
     while rest:
         accessible = rest.pop(0)
@@ -53,13 +53,13 @@ def visible_below(root):
 
 
 def first_program(desktop):
-    """What has registered by now, not what was known when it was asked for before."""
+    """The program, if it has registered by now. The cache would give the answer from before."""
     desktop.clear_cache()
     return desktop.childCount and desktop.getChildAtIndex(0)
 
 
 class Person:
-    """Who uses the program without seeing it."""
+    """A person who uses the program without seeing it."""
 
     def __init__(self, program):
         self.program = program

@@ -16,20 +16,20 @@ cleanup() {
 }
 trap cleanup EXIT
 
-# Nothing of the person who runs this, and a runtime folder that the buses accept.
+# The program uses no files of the person who runs this, and a runtime folder that the buses accept.
 mkdir -m 0700 "$scratch/runtime"
 export HOME=$scratch XDG_RUNTIME_DIR=$scratch/runtime
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME WAYLAND_DISPLAY QT_QPA_PLATFORM \
     DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 
 mkfifo "$scratch/display"
-# Without -noreset the display starts anew, unreachable meanwhile, when its first client goes.
+# Without -noreset the display restarts, unreachable for a while, when its first client goes.
 Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$scratch/display" 2>"$scratch/xvfb.log" &
 display_pid=$!
 read -r number <"$scratch/display"
 export DISPLAY=:$number
 
-# A Python of the person's own may lack what the system's has.
+# The first Python in PATH may lack modules that the system's Python has.
 python=python3
 python3 -c 'import pyatspi' 2>/dev/null || python=/usr/bin/python3
 

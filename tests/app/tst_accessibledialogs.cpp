@@ -14,7 +14,7 @@
 #include <QTabBar>
 #include <QTest>
 
-/// What a screen reader finds in the About window and in messages, and where Tab stops in them.
+/// Tests what a screen reader finds in the About window and in messages, and where Tab stops.
 class AccessibleDialogsTest : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ namespace {
 
 constexpr int kMorePressesThanAnyRoundTakes = 20;
 
-/// As one text, so that a difference shows in the log.
+/// The names as one text, so that the log shows a difference.
 QString listed(const QStringList &names)
 {
     return names.join(QLatin1Char('\n'));
@@ -42,8 +42,8 @@ QString listed(const char *names)
     return listed(lines(names));
 }
 
-/// The names of the stops of Tab from what has the focus until that comes round again. A link takes
-/// a press more, which stays on it.
+/// The names of the stops of Tab, from the focus until it comes round again. A link needs one more
+/// press, which stays on it.
 QStringList stops()
 {
     QWidget *const first = QApplication::focusWidget();

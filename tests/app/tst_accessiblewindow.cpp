@@ -16,7 +16,7 @@
 #include <QTest>
 #include <QToolButton>
 
-/// What a screen reader finds in the window: every control, by role, name, unit and state.
+/// Tests what a screen reader finds in the window: every control by role, name, unit and state.
 class AccessibleWindowTest : public MainWindowCase
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
 
 namespace {
 
-/// As one text, so that a difference shows in the log.
+/// The names as one text, so that the log shows a difference.
 QString listed(const QStringList &names)
 {
     return names.join(QLatin1Char('\n'));
@@ -219,7 +219,7 @@ void AccessibleWindowTest::theUnitBelongsToTheValue_data()
                                              << "dBµV";
 }
 
-/// Each selector starts at its first unit; the one after it is asked for here.
+/// Each selector starts at its first unit, so the test chooses the second one.
 void AccessibleWindowTest::theUnitBelongsToTheValue()
 {
     QFETCH(int, module);
@@ -242,7 +242,7 @@ void AccessibleWindowTest::anErrorHasNoUnit()
     openPage(0);
     auto *expression = page()->findChild<QLineEdit *>(QStringLiteral("inputLineEdit"));
     QTest::keyClicks(expression, QStringLiteral("3 dBm + 3 dBm"));
-    // A combiner gives the mean of two incoherent powers.
+    // A combiner calculates the mean of two incoherent powers.
     const QAccessibleInterface *result =
         AccessibleTree::find(page(), QAccessible::EditableText, QStringLiteral("Result"));
     QCOMPARE(result->text(QAccessible::Value), QStringLiteral("3.00"));

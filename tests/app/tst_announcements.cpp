@@ -38,7 +38,7 @@ QString newText(QAccessibleEvent *event)
     }
 }
 
-/// Notes what changes the text or the value of a control, as "name: text".
+/// Notes each change of a control's text or value as "name: text".
 void listen(QAccessibleEvent *event)
 {
     const bool isChange =
@@ -46,7 +46,7 @@ void listen(QAccessibleEvent *event)
         event->type() == QAccessible::TextRemoved || event->type() == QAccessible::ValueChanged;
     if (!isChange)
         return;
-    // A label with markup tells its text when it is first laid out; it is not a control.
+    // A label with markup announces its text when it is first laid out, but it is no control.
     const QAccessibleInterface *interface = event->accessibleInterface();
     if (interface->role() != QAccessible::StaticText)
         heard() += interface->text(QAccessible::Name) + QLatin1String(": ") + newText(event);
@@ -54,7 +54,7 @@ void listen(QAccessibleEvent *event)
 
 } // namespace
 
-/// A result that changes is announced, an error word as well; what stays as it is keeps silent.
+/// The window announces each result and error word that changes, and nothing that stays the same.
 class AnnouncementsTest : public MainWindowCase
 {
     Q_OBJECT
@@ -80,7 +80,8 @@ private:
     QStringList heardAfterTyping(QLineEdit *edit, const QString &text) const;
 };
 
-/// Events are sent only where somebody listens, which the offscreen platform never says by itself.
+/// Qt sends events only if assistive technology listens, and the offscreen platform never says so
+/// by itself.
 void AnnouncementsTest::initTestCase()
 {
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
@@ -106,7 +107,7 @@ QLineEdit *AnnouncementsTest::field(const QString &name) const
     return found ? qobject_cast<QLineEdit *>(found->object()) : nullptr;
 }
 
-/// Everything that is said but what is typed into the field itself.
+/// Everything that is announced, except what is typed into the field itself.
 QStringList AnnouncementsTest::heardAfterTyping(QLineEdit *edit, const QString &text) const
 {
     QTest::keyClicks(edit, text);
@@ -124,7 +125,7 @@ void AnnouncementsTest::aCalculatorTellsItsResultWithEveryKey()
     QLineEdit *expression = field(QStringLiteral("Expression"));
     QTest::keyClicks(expression, QStringLiteral("3 dBm + "));
     heard().clear();
-    // A combiner gives the mean of two incoherent powers.
+    // A combiner calculates the mean of two incoherent powers.
     const QStringList told = heardAfterTyping(expression, QStringLiteral("3 dBm"));
     QCOMPARE(told.isEmpty() ? QString() : told.last(), QStringLiteral("Result: 3.00"));
     QVERIFY2(heard().size() <= 2 * 5,

@@ -85,7 +85,7 @@ void CalculationBytesTest::readsFilesOfEitherSystem()
     QCOMPARE(MainProfile::instance().dbConverter().p1(), QStringLiteral("47µW"));
     CalculationFiles::save(MainProfile::instance(), fileName);
     const QByteArray modules = bytesOf(fileName);
-    // The window group is that of this run and is not read from the file.
+    // The window group comes from this run, because opening a file does not read it.
     QCOMPARE(modules.left(modules.indexOf("[MainProfile]")),
              bytesOf(example()).left(bytesOf(example()).indexOf("[MainProfile]")));
 }

@@ -118,7 +118,8 @@ void CalculationFilesTest::typeExample()
     model.setCurrentMode(1);
 }
 
-/// The first dialog of a run does; later ones start where the last file was. So this comes first.
+/// Only the first dialog of a run starts there, and later ones start where the last file was. So
+/// this test comes first.
 void CalculationFilesTest::openStartsInTheCurrentFolder()
 {
     const QString before = QDir::currentPath();
@@ -333,14 +334,14 @@ void CalculationFilesTest::loadDefaultsAnnouncesWhatChanges()
     ChangeLog modelLog(model);
     ChangeLog windowLog(MainProfile::instance());
     m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
-    // Each value of the example is another one than the default; the voltages were empty before.
+    // Every value of the example differs from the default. The voltages were empty before.
     QCOMPARE(modelLog.take(), words("p1 p2 pRatio pDb pLatestRun currentMode"));
     QCOMPARE(windowLog.take(), QStringList());
     m_window->findChild<QAction *>(QStringLiteral("actionLoad_Defaults"))->trigger();
     QCOMPARE(modelLog.take(), QStringList());
 }
 
-/// The dialogs are answered through their widgets, which those of the system do not have.
+/// The test answers Qt's own dialogs through their widgets, because the system's dialogs have none.
 int main(int argc, char **argv)
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -19,7 +19,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// A calculation file with one module's value and a window that the program must not take over.
+/// A calculation file with one module's value and window settings that the program must ignore.
 constexpr char kExample[] = "[MainProfile]\ncurrentModule=1\ndecimalPlaces=9\n"
                             "[DbConverterProfile]\np1=5W\n";
 
@@ -32,7 +32,8 @@ void write(const QString &fileName, const QByteArray &text = kExample)
 
 } // namespace
 
-/// What a double click on a calculation file does: the desktop starts the program with its name.
+/// Tests what a double click on a calculation file does: the desktop starts the program with the
+/// file's name.
 class CommandLineTest : public QObject
 {
     Q_OBJECT
@@ -54,8 +55,8 @@ private Q_SLOTS:
     void aFileThatHoldsNoCalculationGivesTheDefaults();
 
 private:
-    /// Opens what follows the program's own name, as main() does after the window is shown, and
-    /// returns what main() then says.
+    /// Opens the file in the arguments, as main() does after showing the window, and returns what
+    /// main() then prints.
     static QString start(const QStringList &arguments);
     QString p1Text() const;
 
@@ -151,11 +152,11 @@ void CommandLineTest::ignoresAllElse()
     QCOMPARE(p1Text(), QStringLiteral("1W"));
 }
 
-/// What cannot be read for other reasons is in tst_damagedfiles, since only Unix has most of it.
+/// tst_damagedfiles has the files that cannot be read for other reasons. Most exist only on Unix.
 void CommandLineTest::aFileThatCannotBeReadChangesNothing_data()
 {
     columns<QString, QString>({"name", "reason"});
-    // The other reasons come from the system, in its language.
+    // The system gives the other reasons in its own language, so the test does not compare them.
     const QString ofTheSystem;
     row("a file that does not exist", "none.dezimo", ofTheSystem);
     row("a file in a folder that does not exist", "none/a.dezimo", ofTheSystem);
@@ -210,7 +211,7 @@ void CommandLineTest::aFileThatHoldsNoCalculationGivesTheDefaults_data()
     row("another program's groups", QByteArray("[Other]\np1=5W\n"));
 }
 
-/// It was read, as by Open... in the menu.
+/// Such a file opens without an error, as it does by Open... in the menu.
 void CommandLineTest::aFileThatHoldsNoCalculationGivesTheDefaults()
 {
     QFETCH(QByteArray, text);

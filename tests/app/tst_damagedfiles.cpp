@@ -17,7 +17,7 @@ using namespace Dezimo;
 
 using namespace DamagedStore;
 
-/// Such files as calculation files.
+/// Opens harmful files as calculation files.
 class DamagedFilesTest : public DamagedStoreCase
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void DamagedFilesTest::whatIsNoFileIsLeftAlone()
     QCOMPARE(fieldText("p1LineEdit"), QString());
 }
 
-/// Opening one would wait for somebody to write into it.
+/// Opening a pipe would wait until somebody writes into it.
 void DamagedFilesTest::aPipeIsNotOpened()
 {
     const QString name = path("pipe.dezimo");
@@ -180,7 +180,7 @@ void DamagedFilesTest::saveKeepsForeignKeys()
     QVERIFY(read(name).contains("\np1=1W\n"));
 }
 
-/// A sparse file takes no room on the disk, yet would take the memory.
+/// A sparse file takes no room on the disk, but reading it would take all memory.
 void DamagedFilesTest::hugeFilesAreLeftAlone()
 {
     const QString name = path("a.dezimo");

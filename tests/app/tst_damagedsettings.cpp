@@ -27,15 +27,14 @@ QByteArray manyGroups()
     return text + amongNeighbors("5W");
 }
 
-/// Makes a file of that name, or says that it cannot.
+/// Makes a file of that name and returns whether that succeeded.
 using Make = std::function<bool(const QString &)>;
 
 } // namespace
 
 Q_DECLARE_METATYPE(Make)
 
-/// Stores that are no calculation file: the application settings, and those beside them that
-/// QSettings looks into.
+/// Makes harmful files of the application settings, and of those that QSettings reads in addition.
 class DamagedSettingsTest : public DamagedStoreCase
 {
     Q_OBJECT
@@ -99,7 +98,7 @@ void DamagedSettingsTest::settingsThatCannotBeReadAreLeftAlone_data()
         Make([](const QString &name) { return QFile::link(QStringLiteral("/dev/zero"), name); }));
 }
 
-/// QSettings reads its file as soon as it is made, so that there must be none.
+/// A QSettings object reads its file as soon as it is made, so the test must not make one.
 void DamagedSettingsTest::settingsThatCannotBeReadAreLeftAlone()
 {
     QFETCH(Make, make);
@@ -133,7 +132,7 @@ void DamagedSettingsTest::theOrganizationsSettingsAreReadAsCarefully_data()
     row("5 GiB of zeros", Make(makeHuge), QString());
 }
 
-/// QSettings looks there for what the program's own settings lack.
+/// QSettings looks in the organization's settings for keys that the program's own settings lack.
 void DamagedSettingsTest::theOrganizationsSettingsAreReadAsCarefully()
 {
     QFETCH(Make, make);

@@ -17,7 +17,7 @@
 
 Q_DECLARE_METATYPE(ApplicationTheme)
 
-/// The dialogs and menus by geometry, in both themes, as tst_layout looks at the pages.
+/// Checks the geometry of dialogs and menus in both themes, as tst_layout does for the pages.
 class DialogLayoutTest : public QObject
 {
     Q_OBJECT
@@ -117,7 +117,7 @@ void DialogLayoutTest::everyMenuShowsItsTexts()
     for (const char *name : {"menuFile", "menuOptions", "menuDecimal_Places", "menuHelp"}) {
         auto *menu = window.findChild<QMenu *>(QLatin1String(name));
         Q_EMIT menu->aboutToShow();
-        menu->adjustSize(); // as it would pop up, which the offscreen platform warns of
+        menu->adjustSize(); // not popup(), because then the offscreen platform logs a warning
         LayoutCheck::savePicture(
             *menu, QStringLiteral("menu, %1, %2")
                        .arg(QLatin1String(QTest::currentDataTag()), QLatin1String(name)));

@@ -20,8 +20,8 @@
 #include <windows.h>
 #endif
 
-/// What happens in the program when the system asks it to end. Sessions that are really ended are
-/// in endrequests_test.py.
+/// Tests what the program does when the system asks it to end. endrequests_test.py really ends
+/// sessions.
 class EndRequestsTest : public MainWindowCase
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void askingTwiceIsReceivedOnce();
 
 private:
-    /// An edit of both powers of the dB converter, of which the second is not finished.
+    /// Edits both powers of the dB converter and leaves the second edit unfinished.
     void type();
     static void ask(const QWidget &window);
     static QString stored(const char *key);
@@ -64,7 +64,7 @@ QString EndRequestsTest::stored(const char *key)
     return QSettings().value(QLatin1String("DbConverterProfile/") + QLatin1String(key)).toString();
 }
 
-/// A session that was to end may go on: the person types on where the cursor is.
+/// A session that was about to end may go on, so the cursor must stay where the person types.
 void EndRequestsTest::keepingTheStateFinishesTheEditAndGoesOn()
 {
     type();
@@ -76,7 +76,7 @@ void EndRequestsTest::keepingTheStateFinishesTheEditAndGoesOn()
     QCOMPARE(child<QLineEdit>("p2LineEdit")->text(), QStringLiteral("0dBm"));
 }
 
-/// The process may be gone before the result has arrived as the next input.
+/// The process may be gone before the result has slid into the input.
 void EndRequestsTest::keepingTheStateDuringASlideKeepsNoError()
 {
     openWindow();
@@ -106,7 +106,7 @@ void EndRequestsTest::endingClosesADialogAndItsLoop()
     QCOMPARE(stored("pRatio"), QStringLiteral("10"));
 }
 
-/// The last one, since on Windows Qt then lets no event loop begin any more.
+/// This test is the last one, because on Windows Qt starts no event loop after it.
 void EndRequestsTest::askingTwiceIsReceivedOnce()
 {
     const EndRequests requests;

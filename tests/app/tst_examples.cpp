@@ -25,7 +25,7 @@ namespace {
 /// Rows of the module list.
 enum Module { DbmCalculator, VoltageCalculator, UnitConverter, DbConverter, VswrConverter };
 
-/// A field of a page and a text that is typed into it or shown by it.
+/// A field of a page and a text that is typed into it or that it shows.
 struct Entry
 {
     Module module;
@@ -41,7 +41,7 @@ QString textOf(const QWidget &field)
     return static_cast<const QLineEdit &>(field).text();
 }
 
-/// A calculator follows every keystroke, and Return would take its result over as the next input; a
+/// A calculator follows every keystroke, and Return would make its result the next input. A
 /// converter waits for Return.
 void enter(QWidget &field, const Entry &entry)
 {
@@ -56,7 +56,8 @@ void enter(QWidget &field, const Entry &entry)
         QTest::keyClick(&field, Qt::Key_Return);
 }
 
-/// What a calculation file holds of the modules; its window group depends on the screen.
+/// What a calculation file holds of the modules. The window group is left out, because it depends
+/// on the screen.
 QMap<QString, QVariant> moduleValues(const QString &fileName)
 {
     const QSettings file(fileName, QSettings::IniFormat);
@@ -78,8 +79,8 @@ QString exampleFile(const QString &name)
 
 Q_DECLARE_METATYPE(Entries)
 
-/// The calculation files that come with the program show what the guide says of them, and are what
-/// the program saves when the guide's inputs are typed.
+/// The calculation files that come with the program show what the guide says about them. They are
+/// what the program saves if a person types the guide's inputs.
 class ExamplesTest : public QObject
 {
     Q_OBJECT

@@ -23,8 +23,8 @@
 Q_DECLARE_METATYPE(ApplicationTheme)
 
 /// Whatever has the keyboard shows it, in both themes: at each stop of Tab enough pixels differ
-/// from those without the focus, by 3:1 as the Web Content Accessibility Guidelines 2.1 ask of a
-/// mark.
+/// from those without the focus. They differ by a contrast of 3:1, which the Web Content
+/// Accessibility Guidelines 2.1 require of a mark.
 class FocusMarkTest : public MainWindowCase
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private:
 namespace {
 
 constexpr double kMark = 3.0;
-constexpr int kFewestPixels = 100; ///< an outline of the smallest stop, more than a text cursor has
+constexpr int kFewestPixels = 100; ///< an outline of the smallest stop; a text cursor has fewer
 constexpr int kMorePressesThanAnyRoundTakes = 40;
 
 QImage pictureOf(const QWidget *stop)
@@ -68,7 +68,8 @@ int markedPixels(const QImage &without, const QImage &with)
     return marked;
 }
 
-/// Walks one round with Tab, from what has the focus now. A link takes a press more, which stays.
+/// Walks one round with Tab, from what has the focus now. A link needs one more press, which stays
+/// on it.
 QStringList stopsWithoutMark(int *stops)
 {
     QStringList unmarked;
@@ -109,7 +110,7 @@ void FocusMarkTest::apply(ApplicationTheme theme)
     qobject_cast<KelApplication *>(qApp)->installStyleSheet(theme);
 }
 
-/// Without a window: a new style sheet takes longest where there is something to style.
+/// Closes the window before the style sheet changes, because styling an open window takes long.
 void FocusMarkTest::cleanup()
 {
     m_window.reset();

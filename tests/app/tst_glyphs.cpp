@@ -29,7 +29,7 @@ using namespace Dezimo;
 
 namespace {
 
-/// Characters with the place where one of them was seen.
+/// Characters, each with a place where it was seen.
 class ShownCharacters
 {
 public:
@@ -168,7 +168,7 @@ void GlyphsTest::initTestCase()
     const QStringList errors = ErrorText::all();
     for (const QString &error : errors)
         m_characters.add(error, QStringLiteral("error text"));
-    QVERIFY(m_characters.count() > 60); // the alphabet and more, or nothing was collected
+    QVERIFY(m_characters.count() > 60); // with fewer than the alphabet, collecting has failed
 }
 
 void GlyphsTest::everyShownCharacterHasAGlyph_data()

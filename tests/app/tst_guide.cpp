@@ -52,7 +52,7 @@ const Guide &guide()
     return read;
 }
 
-/// A field on a tab that is not shown is brought to the front first, as a person does.
+/// Shows the tab of a field first, as a person does.
 void bringToFront(QWidget *widget)
 {
     for (QWidget *page = widget; page != nullptr; page = page->parentWidget()) {
@@ -75,7 +75,8 @@ QString textOf(const QWidget &field)
 
 Q_DECLARE_METATYPE(Guide::Example)
 
-/// The window does what the guide says: every worked example is typed into it and compared.
+/// The window does what the guide says: the test types every worked example and compares the
+/// results.
 class GuideTest : public QObject
 {
     Q_OBJECT
@@ -133,7 +134,7 @@ QWidget *GuideTest::showModule(const QString &name)
     return m_window->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"))->currentWidget();
 }
 
-/// The widget of the page by the name that a screen reader says, brought to the front.
+/// Finds a widget of the page by the name that a screen reader says, and brings it to the front.
 QWidget *GuideTest::find(const QString &name)
 {
     const QList<QWidget *> widgets = m_page->findChildren<QWidget *>();
@@ -146,7 +147,7 @@ QWidget *GuideTest::find(const QString &name)
     return *found;
 }
 
-/// "`10 dBm`" is the text 10 in the field and dBm in the selector beside it, if there is one.
+/// "`10 dBm`" means the text 10 in the field and dBm in the selector beside it, if there is one.
 QComboBox *GuideTest::unitSelector(const Guide::Entry &entry)
 {
     auto *selector = qobject_cast<QComboBox *>(find(entry.field + QLatin1String(" unit")));
@@ -167,7 +168,7 @@ void GuideTest::chooseDecimalPlaces(const QString &number)
     QCOMPARE(QString::number(MainProfile::instance().decimalPlaces()), number);
 }
 
-/// A calculator follows every keystroke, and Return would take its result over as the next input; a
+/// A calculator follows every keystroke, and Return would make its result the next input. A
 /// converter waits for Return. A unit is chosen before its number is typed.
 void GuideTest::type(const Guide::Entry &entry)
 {

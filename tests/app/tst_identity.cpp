@@ -31,7 +31,7 @@ void IdentityTest::givesTheApplicationItsNames()
     QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("example.vantrel.dezimo"));
 }
 
-/// Desktops that know no desktop entry show the icon that the window brings.
+/// Desktops without desktop entries show the icon of the window itself.
 void IdentityTest::givesEveryWindowTheIcon()
 {
     Identity::apply();

@@ -101,7 +101,7 @@ void KelApplicationTest::drawsAStyleFromItsOwnFile_data()
     }
 }
 
-/// Windows takes a neighboring style for another one where their names do not keep them apart.
+/// Windows confuses neighboring styles whose names are too much alike.
 void KelApplicationTest::drawsAStyleFromItsOwnFile()
 {
     QFETCH(QString, family);

@@ -14,8 +14,8 @@
 #include <QStackedWidget>
 #include <QTest>
 
-/// What the keyboard does in the whole window: the menus are reached without a pointer, the list
-/// and the page are reached from each other, and Alt never types.
+/// What the keyboard does in the whole window: it reaches the menus without a pointer, it goes from
+/// the list to the page and back, and Alt never types.
 class KeyboardTest : public MainWindowCase
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void KeyboardTest::altWithALetterTypesNothing()
     QCOMPARE(edit->text(), QStringLiteral("3"));
 }
 
-/// On some platforms AltGr arrives as Ctrl and Alt; it is what types µ on many keyboards.
+/// On some platforms AltGr arrives as Ctrl and Alt. Many keyboards need AltGr to type µ.
 void KeyboardTest::altGrTypes()
 {
     openWindow();

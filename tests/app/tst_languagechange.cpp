@@ -26,7 +26,7 @@
 
 using namespace Dezimo;
 
-/// A language that is changed while the program runs, and where its texts come from.
+/// Tests a change of the language while the program runs, and where the texts come from.
 class LanguageChangeTest : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Notes the contexts that are asked for, and translates nothing. Qt's own classes are left out.
+/// Notes for which contexts the program asks, without Qt's own classes, and translates nothing.
 class ContextLog final : public QTranslator
 {
 public:
@@ -90,7 +90,7 @@ const Page kPages[] = {
     {"vswrConverterWidget", "VswrConverterWidget", create<VswrConverterWidget>},
 };
 
-/// The input first: every change of it calculates, and the other values are to differ from that.
+/// Sets the input first, because each change of it calculates and would overwrite the other values.
 void fillModels()
 {
     MainProfile &profile = MainProfile::instance();
@@ -146,7 +146,7 @@ QStringList modelLines()
            propertyLines(profile.vswrConverter());
 }
 
-/// What @p widget shows of the choices and texts of the person, if it is of such a kind.
+/// What @p widget shows of a person's choices and texts, if it is a widget for such.
 QString state(const QWidget *widget)
 {
     if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
@@ -176,7 +176,7 @@ QStringList shownLines(const QWidget &window)
 
 } // namespace
 
-/// The type of a property has to be known to be read by its name.
+/// QMetaProperty can read a property only if its type is registered.
 void LanguageChangeTest::initTestCase()
 {
     qRegisterMetaType<QMap<int, bool>>("QMap<int,bool>");
@@ -189,7 +189,7 @@ void LanguageChangeTest::init()
     MainProfile::instance().loadSettings(settings);
 }
 
-/// Qt hands the event of a window on to all its children.
+/// Qt passes a window's event on to all its children.
 void LanguageChangeTest::keepsEveryStateButTheVswrText()
 {
     MainWindow window;
@@ -206,7 +206,7 @@ void LanguageChangeTest::keepsEveryStateButTheVswrText()
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(&window, &change);
 
-    // The page's own title shows that its texts were set anew.
+    // The title of each page shows that its texts were set again.
     for (const Page &page : kPages)
         QCOMPARE(window.findChild<QWidget *>(QLatin1String(page.name))->windowTitle(),
                  QStringLiteral("Form"));

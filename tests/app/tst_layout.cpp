@@ -18,9 +18,9 @@
 using namespace Dezimo;
 
 /**
- * Every page at several sizes of the window, by geometry: no text is wider than the widget that
- * shows it, no two visible neighbors overlap, and no field is stretched into the absurd. CTest runs
- * it once per device pixel ratio. With DEZIMO_PICTURES naming a folder, each page is saved there.
+ * Checks the geometry of every page at several sizes of the window: no text is wider than the
+ * widget that shows it, no two visible neighbors overlap, and no field is stretched too far. CTest
+ * runs it once per device pixel ratio. If DEZIMO_PICTURES names a folder, each page is saved there.
  */
 class LayoutTest : public QObject
 {
@@ -41,7 +41,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Values as they come up at the bench, on every page.
+/// Fills every page with values that occur at the bench.
 void fill(MainProfile &profile)
 {
     profile.dbmCalculator().setInput(QStringLiteral("-30dBm+20dB-3dB"));
@@ -73,7 +73,7 @@ void LayoutTest::init()
     MainProfile::instance().loadSettings(settings);
 }
 
-/// The checks below find something where something is wrong.
+/// Proves that the checks find mistakes.
 void LayoutTest::seesWhatIsWrong()
 {
     MainWindow window;
@@ -205,7 +205,7 @@ void LayoutTest::theArrowStandsBesideTheUnit_data()
     }
 }
 
-/// The selector is as wide as its widest unit needs, and hardly wider.
+/// The selector is as wide as its widest unit needs, and only a few pixels wider.
 void LayoutTest::theArrowStandsBesideTheUnit()
 {
     QFETCH(int, module);
@@ -231,7 +231,7 @@ void LayoutTest::theArrowStandsBesideTheUnit()
     QVERIFY2(spare >= 0 && spare <= 8, QByteArray::number(spare).constData());
 }
 
-/// The width of the list is fixed; that of a name depends on how the system rounds its letters.
+/// The list has a fixed width, but that of a name depends on how the system rounds its letters.
 void LayoutTest::theExpandedListShowsTheWholeNames()
 {
     QSettings settings;

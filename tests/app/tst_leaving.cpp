@@ -17,7 +17,7 @@
 #include <QTimer>
 #include <QVector>
 
-/// An edit in the window is finished once, whatever the person does next.
+/// An edit in the window is finished exactly once, whatever the person does next.
 class LeavingTest : public LookingCase
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private:
     QFont fontOfContextMenu(QWidget &field);
 };
 
-/// Each leads out of the field that is edited.
+/// Each way leads out of the edited field.
 const QVector<LeavingTest::Way> &LeavingTest::leavings()
 {
     using Test = LeavingTest;
@@ -107,7 +107,7 @@ void LeavingTest::anEditIsFinishedOnce()
     QCOMPARE(QSettings().value(key).toString(), result);
 }
 
-/// A spin box waits in its own event handler until its menu is closed.
+/// A spin box waits in its own event handler until its menu is closed, so a timer closes the menu.
 QFont LeavingTest::fontOfContextMenu(QWidget &field)
 {
     QFont font;

@@ -16,7 +16,7 @@
 #include <QVector>
 #include <QWheelEvent>
 
-/// Looking is no editing: whatever a person does without typing, every value stays what it was.
+/// Looking does not edit: whatever a person does without typing, every value stays the same.
 class LookingTest : public LookingCase
 {
     Q_OBJECT
@@ -122,7 +122,7 @@ LookingTest::Values LookingTest::savedValues() const
     return moduleValues(QSettings(savedFile(), QSettings::IniFormat));
 }
 
-/// What every leaving of P2 and V2 calculates anew.
+/// Removes the values that are calculated again whenever the cursor leaves P2 or V2.
 void LookingTest::forgetSecondOperands(Values *values)
 {
     const QStringList keys = values->keys();
@@ -158,7 +158,7 @@ void LookingTest::openEveryUnitList()
     }
 }
 
-/// As when the page is scrolled in a small window.
+/// Turns the wheel as if to scroll the page in a small window.
 void LookingTest::turnTheWheelOverEverySelector()
 {
     const QList<QComboBox *> selectors = page().findChildren<QComboBox *>();
@@ -176,7 +176,7 @@ void LookingTest::changeTheDecimalPlaces()
     Q_EMIT menu->aboutToShow();
     menu->actions().at(kDigits + 2)->trigger();
     QCOMPARE(m_profile.decimalPlaces(), kDigits + 2);
-    // the fields are entered and left after the change, too
+    // The cursor also enters and leaves a field after the change.
     if (!qobject_cast<QLineEdit *>(QApplication::focusWidget()))
         QFAIL("no field has the focus");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -232,7 +232,7 @@ void LookingTest::lookingKeepsEveryValue()
     Values storedThen = moduleValues(QSettings());
     Values savedThen = savedValues();
 
-    // The cursor comes to P2 or V2 by these ways, and by the arrow from P1.
+    // These ways lead the cursor to P2 or V2, and so does the arrow from P1.
     if (page == kDbConverter) {
         for (Values *values : {&shown, &shownThen, &stored, &storedThen, &savedThen}) {
             if (ways().at(way).visitsEveryField ||

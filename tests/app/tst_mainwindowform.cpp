@@ -52,7 +52,7 @@ void MainWindowFormTest::appliesBothThemes()
     QCOMPARE(drawing(child<QToolButton>("changeWindowModeButton")->icon()), drawing(add));
 }
 
-/// The form alone says how large its parts are. Their names stay, whatever it says.
+/// Only the form says how large its parts are, so this test checks nothing but their names.
 void MainWindowFormTest::theFormNamesItsObjects()
 {
     openWindow();

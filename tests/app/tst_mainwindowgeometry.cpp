@@ -74,7 +74,7 @@ void MainWindowGeometryTest::aSizeLargerThanTheScreenComesBack_data()
     QTest::newRow("higher than any screen") << QSize(958, 16384);
 }
 
-/// The larger screen is away for a while, and the next start may find it again.
+/// The larger screen may be away for a while and be there again at the next start.
 void MainWindowGeometryTest::aSizeLargerThanTheScreenComesBack()
 {
 #ifdef Q_OS_WIN
@@ -120,7 +120,7 @@ void MainWindowGeometryTest::aWideWindowIsReachableWhereverItWasStored_data()
     QTest::newRow("left of the screen: onto it") << QPoint(-1400, 10) << QPoint(0, 10);
 }
 
-/// Whether a window lies on a screen is asked of the size that it will have, not of the form's.
+/// The size that the window will have decides whether it lies on a screen, not the form's size.
 void MainWindowGeometryTest::aWideWindowIsReachableWhereverItWasStored()
 {
     if (!hasScreenPositions()) {

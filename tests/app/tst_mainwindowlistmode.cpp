@@ -136,8 +136,8 @@ void MainWindowListModeTest::aChangeInMidFlightTurnsAroundWhereItIs()
         animation->setCurrentTime(100);
     m_profile.setWindowMode(0);
 
-    // Half of the ways are done: 40 + 120 / 2, 22 - 22 / 2, 0 + 22 / 2. The three that were on
-    // those ways have stopped.
+    // The animations are halfway: 40 + 120 / 2, 22 - 22 / 2, 0 + 22 / 2. The three expanding ones
+    // have stopped.
     QStringList found = inWords(running());
     found.sort();
     QCOMPARE(found, QStringList({QStringLiteral("headerWidget.maximumHeight 11 22"),

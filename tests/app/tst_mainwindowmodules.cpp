@@ -96,7 +96,7 @@ void MainWindowModulesTest::choosingAModuleTurnsPageHeaderAndTitle()
     QCOMPARE(m_profile.currentModule(), row);
     QCOMPARE(m_window->windowTitle(), QStringLiteral("Dezimo [%1]").arg(text));
     QVERIFY(child(page.constData())->isVisible());
-    // The header hides its label; the text is kept all the same. Row 0 is current from the start.
+    // The header hides its label but keeps the text. Row 0 is current from the start.
     QCOMPARE(child<QLabel>("label")->text(), text);
 }
 
@@ -121,7 +121,7 @@ void MainWindowModulesTest::aPageIsStyledWhenItIsShownForTheFirstTime()
     }
 }
 
-/// What is painted first is what is there before any further event.
+/// The check comes before any further event, so it sees what is painted first.
 void MainWindowModulesTest::aPageThatFitsShowsNoScrollBarsNotEvenAtFirst()
 {
     openWindow();
@@ -179,7 +179,7 @@ void MainWindowModulesTest::aStoredModuleOutsideTheListIsKept_data()
     aStoredModuleOutsideTheListShowsThePlainTitle_data();
 }
 
-/// A list that gets the keyboard selects a row by itself, so the page has to have it.
+/// A list that gets the keyboard selects a row by itself, so the page must have the keyboard.
 void MainWindowModulesTest::aStoredModuleOutsideTheListIsKept()
 {
     QFETCH(int, module);

@@ -16,7 +16,7 @@
 
 using namespace Dezimo;
 
-/// A person can type into a page as soon as it is there.
+/// A person can type into a page as soon as it is shown.
 class PageFocusTest : public QObject
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ void PageFocusTest::click(int row)
                       list->visualItemRect(list->item(row)).center());
 }
 
-/// The name of what has the focus, after that of its page if it lies on the current one.
+/// The name of the widget with the focus, after the name of the current page if it is on that.
 QString PageFocusTest::focused() const
 {
     const QWidget *widget = QApplication::focusWidget();

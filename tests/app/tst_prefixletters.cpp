@@ -10,7 +10,7 @@
 
 using namespace Dezimo;
 
-/// The numeric field knows nothing of the models, so that each has its own table of SI prefixes.
+/// The numeric field knows nothing about the models, so each side has its own table of SI prefixes.
 class PrefixLettersTest : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ void PrefixLettersTest::fieldAndModelsKnowTheSame()
     KelNumericLineEdit field;
     QString ofField;
     QString ofModels;
-    // As far as the Greek letters, for a micro sign of whatever kind.
+    // The range includes the Greek letters, because there are two kinds of micro sign.
     for (int code = 0; code < 0x400; ++code) {
         const QChar letter(code);
         if (!letter.isLetter())

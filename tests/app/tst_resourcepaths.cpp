@@ -13,7 +13,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
-/// Every resource that code, forms or style sheets name is there and draws something.
+/// Every resource that code, forms or style sheets name exists and draws something.
 class ResourcePathsTest : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// The ":/..." paths that the sources of a folder write, with their place markers.
+/// The ":/..." paths in the sources of a folder, with their place markers.
 QStringList pathsIn(const QString &folder)
 {
     static const QRegularExpression path(QStringLiteral("[\">(](:/[^\"<)\\s]*)[\"<)]"));
@@ -44,8 +44,8 @@ QStringList pathsIn(const QString &folder)
     return paths;
 }
 
-/// What a path with place markers may become: both theme words, and for the mode button's icon and
-/// the fonts the names that are put in.
+/// The paths that a path with place markers stands for. The markers become both theme words, and
+/// the names of the mode button's icons and of the fonts.
 QStringList filledIn(const QString &pattern)
 {
     if (pattern == QLatin1String(":/Global/Fonts/%1.ttf"))

@@ -16,7 +16,7 @@
 
 using namespace Dezimo;
 
-/// What one main window leaves in the settings is what the next one shows.
+/// A main window shows what the last one left in the settings.
 class RestartTest : public QObject
 {
     Q_OBJECT
@@ -43,14 +43,14 @@ constexpr char kVoltage[] = "voltageCalculatorWidget";
 constexpr char kUnits[] = "unitConverterWidget";
 constexpr char kVswr[] = "vswrConverterWidget";
 
-/// A new process starts with the defaults; the profile of this one is brought to them.
+/// Sets the profile of this process to the defaults, with which a new process starts.
 void forgetEverything()
 {
     QSettings none(QStringLiteral("none"), QString());
     MainProfile::instance().loadSettings(none);
 }
 
-/// The widget of the page @p page, because the two calculators name theirs alike.
+/// Looks on the page @p page only, because the two calculators use the same names.
 template <typename Widget>
 Widget &find(const QWidget &window, const char *page, const char *name)
 {
@@ -66,7 +66,7 @@ void type(QWidget &field, const char *text)
     QTest::keyClicks(&field, QString::fromUtf8(text));
 }
 
-/// A result in each calculator, one finished field in each of the two converters.
+/// Makes a result in each calculator and finishes one field in each of two converters.
 void usePages(const QWidget &window)
 {
     find<QComboBox>(window, kDbm, "calcModeComboBox").setCurrentIndex(1);

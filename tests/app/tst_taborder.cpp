@@ -15,7 +15,7 @@
 #include <algorithm>
 
 /// Tab walks through a page in reading order, from there to the list of modules and back to the
-/// page; Shift and Tab walk the same way backward. No control keeps the keyboard for itself.
+/// page. Shift+Tab walks the same way backward. No control traps the keyboard.
 class TabOrderTest : public MainWindowCase
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ namespace {
 
 constexpr int kMoreStopsThanAnyPageHas = 40;
 
-/// The names by which a screen reader tells the stops, from the page's first field on.
+/// The names by which a screen reader announces the stops.
 QStringList namesOf(const QVector<QWidget *> &widgets)
 {
     QStringList names;
@@ -152,8 +152,8 @@ void TabOrderTest::openPage()
     QVERIFY((*first)->hasFocus());
 }
 
-/// Every stop until the first one comes round again; one that comes twice before that ends the walk
-/// as well, so that a trap shows as a list that is too long.
+/// Every stop until the first one comes round again. A trap would never let it, so the walk also
+/// ends when the list is longer than any page's, and the comparison fails.
 QVector<QWidget *> TabOrderTest::walk(bool forward) const
 {
     QVector<QWidget *> stops;
@@ -186,8 +186,8 @@ void TabOrderTest::backward()
     QCOMPARE(namesOf(walk(false)).join(QLatin1Char('\n')), names.join(QLatin1Char('\n')));
 }
 
-/// Reading order: the next stop of a page is not above the one before, and if both stand on one
-/// line, it is at its right. A fraction is read as one: its operands, then what it equals.
+/// Reading order means that each stop is below the one before or to the right of it. A fraction is
+/// read as one: its operands, then what it equals.
 void TabOrderTest::everyFieldStandsBelowOrRightOfTheOneBefore()
 {
     openPage();

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""Sessions of the program on an X display, as a person has them: everything is done by mouse and
-keys through xdotool, and what came of it is read where the program keeps its state.
+"""Sessions of the program on an X display, as a person has them. xdotool does everything by mouse
+and keys, and the results are read where the program keeps its state.
 """
 
 import os
@@ -17,7 +17,7 @@ MODULES = ["dBm Calculator", "Voltage Calculator", "Unit Converter", "dB Convert
 
 
 def within(seconds, condition):
-    """The first true value of the condition, which is asked until the time is over, or None."""
+    """Asks the condition until it is true and returns its value, or None when the time is over."""
     deadline = time.monotonic() + seconds
     while time.monotonic() < deadline:
         if value := condition():
@@ -33,15 +33,15 @@ def wait_for(what, condition):
 
 
 def xdotool(*words):
-    """It tells of windows that it does not find at first, so what it says counts only if it fails."""
+    """Runs xdotool. It also warns of windows that it finds later, so only its status matters."""
     command = ["xdotool", *map(str, words)]
     done = subprocess.run(command, capture_output=True, text=True, timeout=PATIENCE_SECONDS)
     assert done.returncode == 0, f"{command}: {done.stderr}"
 
 
 def visible_windows(*criterion):
-    """What xdotool finds; it fails when it meets a window that is just going, so that asking again
-    is part of waiting for a window."""
+    """What xdotool finds. It fails if it meets a window that is just closing, so whoever waits for
+    a window has to ask again."""
     search = ["xdotool", "search", "--onlyvisible", *criterion]
     return subprocess.run(search, capture_output=True, text=True).stdout.split()
 
@@ -79,8 +79,8 @@ class Linux:
         return [program]
 
     def name_for_dialog(self, file):
-        """The dialog begins in the folder of the program. A path would let it offer names meanwhile,
-        and Return would only close what it offers."""
+        """The name is enough, because the dialog begins in the program's folder. A path would make
+        it offer names, and Return would only close that list."""
         return file.name
 
     def write_state(self, text):
@@ -154,7 +154,7 @@ class Session:
         xdotool("key", "--delay", self.host.pause_between_keys_milliseconds, *keys)
 
     def press_until(self, key, what, condition):
-        """Wine loses keys now and then, so this presses again where nothing comes of it."""
+        """Wine loses keys now and then, so this presses them again until they have an effect."""
 
         def works():
             self.press(key)
@@ -175,13 +175,13 @@ class Session:
         xdotool("mousemove", "--window", self.window, x, y, "click", 5)
 
     def enter(self, field, text):
-        """Puts a text in the place of what a field shows, and leaves the edit open."""
+        """Replaces the text of a field and leaves the edit unfinished."""
         self.click(field)
         self.press("ctrl+a")
         self.type(text)
 
     def click_each(self, kind):
-        """Clicks the controls of one kind on the page, with its tabs on the way, and says which."""
+        """Clicks the controls of one kind on the page, on all its tabs, and yields their names."""
         for page, name in self.positions:
             if page == self.page and name.endswith((kind, "tab0", "tab1")):
                 self.click(name)
@@ -189,13 +189,13 @@ class Session:
                     yield name
 
     def open_menu(self, *keys):
-        """Opens the menus by keys, which begin at the first one."""
+        """Opens the first menu by its key, then presses the keys."""
         self.press_until("F10", "a menu", lambda: self.has_windows(2))
         if keys:
             self.press(*keys)
 
     def turn_menu(self, key):
-        """From one open menu to the next one. Both or none may be there for a moment."""
+        """Goes from one open menu to the next. Both or none may be there for a moment."""
         before = self.windows()
         self.press(key)
 
@@ -211,7 +211,7 @@ class Session:
         self.page = page
 
     def windows(self):
-        """The main window is one, every open menu or list another one."""
+        """The main window, and one window for each open menu or list."""
         return set(visible_windows("--class", self.host.window_class))
 
     def has_windows(self, number):
@@ -224,11 +224,11 @@ class Session:
         self.end_by("ctrl+q")
 
     def close(self):
-        """By the window manager's keys, which do what the button in the frame does."""
+        """Closes by the window manager's keys, which do the same as the button in the frame."""
         self.end_by("alt+F4")
 
     def end_by(self, keys):
-        """The program ends by itself, well and in silence."""
+        """Checks that the keys make the program end with status 0 and without a message."""
         self.press_until(keys, "the end", lambda: self.process.poll() is not None)
         said = self.process.communicate()[1]
         self.wait_for_windows(0)

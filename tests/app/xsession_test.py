@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """xsession_test.py linux|wine PROGRAM CLICKPOSITIONS: looking changes nothing, editing does.
 
-Every session starts from values that were typed and calculated at four digits and ends by the
-program itself. Then its state is compared, value by value.
+Every session starts from values that were typed and calculated at four digits. When the program has
+ended by itself, the test compares its state value by value.
 """
 
 import dataclasses
@@ -72,7 +72,7 @@ def open_unit_lists(session):
 
 
 def turn_the_wheel_over_unit_lists(session):
-    """As when a page is scrolled in a small window."""
+    """Turns the wheel as if to scroll the page in a small window."""
     for page, name in session.positions:
         if page == session.page and name in ("tab0", "tab1"):
             session.click(name)
@@ -124,11 +124,11 @@ def save(session):
     session.press("Return")
     wait_for("the saved file", file.exists)
     session.wait_for_windows(1)
-    # A dialog of Windows' own leaves no window in front.
+    # After a dialog of Windows itself no window is in front.
     session.activate()
 
 
-# Ways whose traces would look alike share a session.
+# Ways share a session if their unwanted edits would look alike.
 LOOKS = {
     "started and quit": [nothing],
     "every other page visited and back": [visit_all_pages],
@@ -143,7 +143,7 @@ LOOKS = {
     "About, the list expanded, resized": [open_about, expand_the_list, resize],
     "two digits chosen, saved": [choose_two_digits, save],
 }
-# What a look is meant to change, which shows that it happened.
+# What a look should change. The change proves that the look happened.
 MEANT = {
     expand_the_list: {"MainProfile/windowMode": "1"},
     choose_two_digits: {"MainProfile/decimalPlaces": "2"},
@@ -152,7 +152,7 @@ MEANT = {
 
 @dataclasses.dataclass
 class Edit:
-    """What is typed into a field of a page, and the values that come of it."""
+    """A text that is typed into a field of a page, and the values that result from it."""
 
     page: int
     field: str
@@ -227,7 +227,7 @@ ENDS = {"Quit": Session.quit, "the window manager": Session.close}
 
 
 def type_all(session):
-    """Makes the values that every other session starts with."""
+    """Types the values with which every other session starts."""
     session.show(DBM)
     session.enter("inputLineEdit", "12.34dBm+3dBm")
     session.show(VOLTAGE)
@@ -250,7 +250,7 @@ def type_all(session):
 
 
 class Table:
-    """Runs the sessions of the test and keeps what is wrong with them."""
+    """Runs the sessions of the test, prints what is wrong with them, and counts those that fail."""
 
     def __init__(self, host, program, folder, positions):
         self.host = host
@@ -260,8 +260,8 @@ class Table:
         self.wrong = 0
 
     def row(self, name, page, steps, changed, start=TYPED, end=Session.quit):
-        """One session: it starts on a page, takes the steps and ends; then the state has to be as
-        it was typed but for what is changed."""
+        """Runs one session: it starts on a page, takes the steps and ends. Then the state must be
+        as it was typed, except for what is changed."""
         self.host.write_state(start.replace("currentModule=0", f"currentModule={page}"))
         session = Session(self.host, self.program, self.folder, self.positions, page)
         try:
@@ -279,7 +279,7 @@ class Table:
         self.wrong += bool(found)
 
     def differences(self, changed):
-        """Of the state and of the file, if one was saved."""
+        """The differences in the state, and in the file if one was saved."""
         expected = {**values_of(TYPED), **changed}
         found = differences(expected, self.host.read_state(), changed)
         saved = self.folder / SAVED
@@ -290,8 +290,8 @@ class Table:
 
 
 def differences(expected, found, named):
-    """The values that are not as expected. Where the window is and which page it shows is compared
-    only if it is named."""
+    """The values that are not as expected. The window's place, size, mode and page are compared
+    only if they are named."""
     window = {"windowPosition", "windowSize", "windowMode", "currentModule"}
     unasked = {f"MainProfile/{key}" for key in window} - named.keys()
     return [

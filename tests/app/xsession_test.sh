@@ -17,17 +17,17 @@ cleanup() {
 }
 trap cleanup EXIT
 
-# Nothing of the person who runs this.
+# The program uses no files of the person who runs this.
 mkdir -m 0700 "$scratch/runtime"
 export HOME=$scratch XDG_RUNTIME_DIR=$scratch/runtime QT_QPA_PLATFORM=xcb
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME WAYLAND_DISPLAY \
     DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 
-# Qt tells of frames that the window manager took away while Qt looked for them.
+# Qt warns of frames that the window manager removed while Qt looked for them.
 export QT_LOGGING_RULES=qt.qpa.xcb.warning=false
 
 mkfifo "$scratch/display"
-# Without -noreset the display starts anew, unreachable meanwhile, when its first client goes.
+# Without -noreset the display restarts, unreachable for a while, when its first client goes.
 Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$scratch/display" 2>"$scratch/xvfb.log" &
 processes+=($!)
 read -r number <"$scratch/display"

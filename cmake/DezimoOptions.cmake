@@ -83,8 +83,8 @@ function(dezimo_sees variable target library)
   endwhile()
 endfunction()
 
-# dezimo_precompiled(<name> LINKS <libraries> HEADERS <headers>): makes the precompiled headers
-# dezimo_headers_<name>.
+# dezimo_precompiled(<name> LINKS <libraries> HEADERS <headers> [OPTIONS <of the compiler>]): makes the
+# precompiled headers dezimo_headers_<name>.
 function(dezimo_precompiled name)
   cmake_parse_arguments(arg "" "" "LINKS;HEADERS;OPTIONS" ${ARGN})
   if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
@@ -101,8 +101,7 @@ endfunction()
 
 # What nearly every source reads of Qt and of C++. A layer may include no more with precompiled
 # headers than without, so what links Qt's Core alone has a shorter list. Sources still include what
-# they use: the presets that make the product have no precompiled headers, and neither have the
-# linters.
+# they use: the presets release and windows have no precompiled headers, and neither have the linters.
 set(DEZIMO_CORE_HEADERS
   <algorithm> <cmath> <functional> <memory> <optional> <vector>
   <QCoreApplication> <QDir> <QFile> <QMap> <QRegularExpression> <QSettings> <QStringList> <QVariant>)
@@ -135,6 +134,8 @@ function(dezimo_add_forms target)
   foreach(form IN LISTS ARGN)
     cmake_path(GET form STEM name)
     set(header "${folder}/ui_${name}.h")
+    # Folders that were built with AUTOUIC have an old one, which the compiler would find first.
+    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include/ui_${name}.h")
     add_custom_command(
       OUTPUT "${header}"
       COMMAND Qt5::uic -o "${header}" "${CMAKE_CURRENT_SOURCE_DIR}/${form}"
@@ -147,10 +148,10 @@ function(dezimo_add_forms target)
   target_include_directories(${target} PRIVATE "${folder}")
 endfunction()
 
-# dezimo_library(<folder> LINKS <public libraries> SOURCES <files>): the one library of a folder,
-# as the library dezimo_<folder> with the alias Dezimo::<Folder>; it is static unless
-# BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer
-# that is not linked cannot be included.
+# dezimo_library(<folder> LINKS <public libraries> [PRIVATE_LINKS <libraries>] SOURCES <files>): the
+# one library of a folder, dezimo_<folder> with the alias Dezimo::<Folder>. It is static unless
+# BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer that
+# is not linked cannot be included.
 function(dezimo_library folder)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   set(target dezimo_${folder})

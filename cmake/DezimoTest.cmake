@@ -42,7 +42,7 @@ function(dezimo_add_test_moc target source)
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}_moc")
 endfunction()
 
-# dezimo_test_options(<target> <libraries>): how the sources of tests are compiled.
+# dezimo_test_options(<target>): how the sources of tests are compiled.
 function(dezimo_test_options target)
   target_link_libraries(${target} PRIVATE Dezimo::Options)
   target_compile_options(${target} PRIVATE ${DEZIMO_TEST_FLAGS})
@@ -59,7 +59,8 @@ function(dezimo_add_test_library name)
   dezimo_test_options(${name})
 endfunction()
 
-# dezimo_add_test(<name> [SOURCES <files>] LINKS <libraries> [LABELS slow] [TIMEOUT <seconds>]):
+# dezimo_add_test(<name> [SOURCES <files>] LINKS <libraries> [LABELS slow] [TIMEOUT <seconds>]
+#                 [ENVIRONMENT <settings>]):
 # one Qt Test executable, <name>.cpp unless said otherwise, registered with CTest. It runs on Qt's
 # offscreen platform with folders of its own (see tests/support/testmain.h). Slow tests begin first,
 # so that no processor waits for one at the end.

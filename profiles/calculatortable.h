@@ -25,8 +25,7 @@ struct CalculatorTable
     /// Written after the keys, in this order.
     std::vector<ValidityKey> validityKeys;
     ExpressionUnits units;
-    /// Significant digits that a step of an evaluation keeps. Rounding hides what binary fractions
-    /// leave behind, so that 0.3mW-0.2mW-0.1mW is 0; results with as many digits show it.
+    /// Significant digits that a step of an evaluation keeps.
     int stepDigits;
 };
 

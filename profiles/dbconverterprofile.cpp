@@ -4,6 +4,7 @@
 #include "dbconverterprofile.h"
 
 #include "errortexts.h"
+#include "levels.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
 #include "units.h"

@@ -46,11 +46,7 @@ int ExpressionProfile::plainUnit() const
 
 QString ExpressionProfile::unitText(int unit) const
 {
-    for (const ExpressionUnit &row : m_table.units) {
-        if (row.index == unit)
-            return row.text;
-    }
-    return {};
+    return unitAt(unit).symbol;
 }
 
 QString ExpressionProfile::evaluate(const QString &text)
@@ -87,6 +83,15 @@ void ExpressionProfile::calculate()
         setOutput(result.evaluation.text);
     else
         publish(result.evaluation);
+}
+
+const Unit &ExpressionProfile::unitAt(int index) const
+{
+    for (const ExpressionUnit &row : m_table.units) {
+        if (row.index == index)
+            return *row.unit;
+    }
+    return Units::kNone;
 }
 
 QMap<int, bool> ExpressionProfile::unitsBeside(int unit) const

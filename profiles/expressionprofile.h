@@ -18,6 +18,7 @@ class StepRule;
 struct CalculatorTable;
 struct Evaluation;
 struct Operand;
+struct Unit;
 
 /**
  * An expression calculator: evaluates the typed text, shows the result in the chosen unit, and
@@ -95,6 +96,8 @@ protected:
     /// Converts @p result into the output unit, or into another one where that makes no sense.
     virtual Shown shown(const Operand &result) const = 0;
 
+    /// The unit with the given index, or that of the plain number if there is none.
+    const Unit &unitAt(int index) const;
     /// The units to choose from when a result is shown in @p unit.
     QMap<int, bool> unitsBeside(int unit) const;
 

@@ -53,7 +53,7 @@ QByteArrayList MainProfile::storedGroups()
     return groups;
 }
 
-/// The models are told before anybody hears of it, so that whoever calculates then has the digits.
+/// Tells the models before the signal, so that a calculation upon the signal has the new digits.
 void MainProfile::setDecimalPlaces(int places)
 {
     for (ModuleProfile *module : modules())

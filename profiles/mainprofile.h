@@ -21,8 +21,8 @@ namespace Dezimo {
 
 /**
  * The one root model: the state of the main window, the number of digits of all value texts, and
- * the owner of the module profiles. Views, main window and models reach each other's values through
- * instance() only.
+ * the owner of the module profiles. The main window and the views reach all of it through
+ * instance(); the modules know nothing of it, and it tells them their digits.
  */
 class MainProfile final : public Profile
 {

@@ -8,7 +8,7 @@
 
 namespace Dezimo {
 
-/// Base of the five models that calculate. Whoever owns one tells it how many digits it shows.
+/// Base of the five models that calculate. The owner of a model tells it how many digits it shows.
 class ModuleProfile : public Profile
 {
     Q_OBJECT

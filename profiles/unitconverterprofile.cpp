@@ -4,6 +4,7 @@
 #include "unitconverterprofile.h"
 
 #include "errortexts.h"
+#include "levels.h"
 #include "prefixedvalue.h"
 #include "storedkeys.h"
 #include "units.h"
@@ -36,10 +37,10 @@ double zero(double)
 /// A voltage level in an unknown unit is 0, whatever the voltage.
 constexpr Unit kNoUnit{latin1(""), zero, zero};
 
-constexpr Unit kLogPowerRows[] = {Units::kDbm, Units::kDbw};
-constexpr Unit kLinPowerRows[] = {Units::kMilliwatt, Units::kWatt};
-constexpr Unit kLogVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kDbu};
-constexpr Unit kLinVoltageRows[] = {Units::kMillivolt, Units::kVolt};
+constexpr const Unit *kLogPowerRows[] = {&Units::kDbm, &Units::kDbw};
+constexpr const Unit *kLinPowerRows[] = {&Units::kMilliwatt, &Units::kWatt};
+constexpr const Unit *kLogVoltageRows[] = {&Units::kDbv, &Units::kDbmicrovolt, &Units::kDbu};
+constexpr const Unit *kLinVoltageRows[] = {&Units::kMillivolt, &Units::kVolt};
 
 constexpr UnitSelector kLogPowerUnits(kLogPowerRows, Units::kDbm);
 constexpr UnitSelector kLinPowerUnits(kLinPowerRows, Units::kMilliwatt);

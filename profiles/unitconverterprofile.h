@@ -105,8 +105,8 @@ Q_SIGNALS:
 private:
     struct Rule;
 
-    /// One of the four fields. Its text stands in the unit that was chosen when it was shown, be it
-    /// typed, calculated or loaded, until the rescale slot rewrites it.
+    /// One of the four fields. Its text, whether typed, calculated or loaded, is in the unit that
+    /// was chosen when it was shown, until the rescale slot rewrites it.
     struct Field
     {
         Announced<QString> text;

@@ -13,6 +13,7 @@ using namespace Dezimo::VoltageUnit;
 
 namespace {
 
+/// Two fewer than the dBm calculator keeps, on purpose; results of ten digits show all of them.
 constexpr int kStepDigits = 10;
 
 const CalculatorTable &calculatorTable()
@@ -47,9 +48,7 @@ ExpressionProfile::Shown VoltageCalculatorProfile::shown(const Operand &result) 
 {
     if (result.unit == &Units::kNone)
         return {generalText(result.value, significantDigits()), None, unitsBeside(None)};
-    const bool inVolts = outputUnit() == V;
-    const Unit &unit = inVolts ? Units::kVolt : Units::kMillivolt;
-    const int index = inVolts ? V : Mv;
-    return {generalText(unit.fromBase(result.inBaseUnit()), significantDigits()), index,
-            unitsBeside(index)};
+    const int unit = outputUnit() == V ? V : Mv;
+    return {generalText(unitAt(unit).fromBase(result.inBaseUnit()), significantDigits()), unit,
+            unitsBeside(unit)};
 }

@@ -26,8 +26,10 @@ constexpr double kMatchTolerance = 1e-12;
 constexpr double kMaximumReflection = 100.0;
 constexpr double kNoMaximum = std::numeric_limits<double>::infinity();
 
-constexpr Unit kPowerRows[] = {Units::kDbm, Units::kDbw, Units::kWatt, Units::kMilliwatt};
-constexpr Unit kVoltageRows[] = {Units::kDbv, Units::kDbmicrovolt, Units::kVolt, Units::kMillivolt};
+constexpr const Unit *kPowerRows[] = {&Units::kDbm, &Units::kDbw, &Units::kWatt,
+                                      &Units::kMilliwatt};
+constexpr const Unit *kVoltageRows[] = {&Units::kDbv, &Units::kDbmicrovolt, &Units::kVolt,
+                                        &Units::kMillivolt};
 constexpr int kLastPowerUnit = int(std::size(kPowerRows)) - 1;
 constexpr int kLastVoltageUnit = int(std::size(kVoltageRows)) - 1;
 

@@ -12,7 +12,7 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
-namespace Dezimo {
+using namespace Dezimo;
 
 namespace {
 
@@ -160,5 +160,3 @@ void CheckedSettings::writeSettings(const Use &save)
     QSettings settings;
     save(settings);
 }
-
-} // namespace Dezimo

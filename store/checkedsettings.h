@@ -12,7 +12,7 @@
 class QSettings;
 
 /**
- * What stands between QSettings and the file of a store, be it a calculation file or the
+ * What stands between QSettings and the file of a store, which is a calculation file or holds the
  * application settings: QSettings is only ever given what it can read without harm (see
  * SettingsText). It reads a file as soon as it is made, so the file is looked at before that. A
  * store that is no file, such as the registry, passes.

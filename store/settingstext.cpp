@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 
-namespace Dezimo {
+using namespace Dezimo;
 
 namespace {
 
@@ -228,5 +228,3 @@ QByteArray SettingsText::arranged(const QByteArray &text)
     }
     return result;
 }
-
-} // namespace Dezimo

@@ -130,10 +130,9 @@ QString WindowsOSInfo::adminRights() const
         return yesOrNo(false);
     case WindowsHost::Membership::NoSid:
         return QStringLiteral("Unable to allocate & initialize SID struct");
-    case WindowsHost::Membership::Unknown:
-        break;
+    default:
+        return QString();
     }
-    return QString();
 }
 
 QString WindowsOSInfo::internetExplorerVersion() const

@@ -89,7 +89,7 @@ def print_tests(folder: Path, slowest: int) -> None:
     print(f"\n{folder.relative_to(ROOT)}, tested {'':13} count   seconds")
     for seconds, name in times[:slowest]:
         print_row(name, None, seconds)
-    print_row(f"the others", len(times[slowest:]), sum(seconds for seconds, _ in times[slowest:]))
+    print_row("the others", len(times[slowest:]), sum(seconds for seconds, _ in times[slowest:]))
     print_row("all", len(times), sum(seconds for seconds, _ in times))
     print_row("from start to end", None, float(suite.get("time", 0)))
 

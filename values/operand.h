@@ -16,20 +16,13 @@ namespace Dezimo {
 /// A unit of an expression calculator.
 struct ExpressionUnit
 {
-    ExpressionUnit(int place, const Unit *row, bool alone = false)
-        : index(place),
-          unit(row),
-          text(row->symbol),
-          isAlone(alone)
-    {}
-
     /// The unit's place in the selector of the output unit.
     int index;
     const Unit *unit;
-    /// The symbol, in the form in which it is found fastest.
-    QString text;
     /// A result in this unit converts into no other.
-    bool isAlone;
+    bool isAlone = false;
+    /// The symbol, in the form in which it is found fastest.
+    QString text = unit->symbol;
 };
 
 /// A calculator's units in the order in which an operand is searched for them. The last one is the

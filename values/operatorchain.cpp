@@ -7,7 +7,7 @@
 #include "expressiontext.h"
 #include "valuetext.h"
 
-namespace Dezimo {
+using namespace Dezimo;
 
 namespace {
 
@@ -62,5 +62,3 @@ std::optional<Operand> OperatorChain::operand(std::size_t index) const
     const int end = index < m_operators.size() ? m_operators[index] : m_text.size();
     return parseOperand(m_text.mid(begin, end - begin), m_units);
 }
-
-} // namespace Dezimo

@@ -3,6 +3,8 @@
 
 #include "powersteps.h"
 
+#include "levels.h"
+
 namespace Dezimo {
 
 double levelFrom(const Operand &operand)

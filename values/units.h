@@ -20,7 +20,8 @@ struct Unit
     double (*fromBase)(double);
 };
 
-/// Every unit of the program, one row each. Selectors, expressions and operands name these rows.
+/// Every unit of the program, one row each. Selectors, expressions and operands refer to these
+/// rows, so that two units are the same if their addresses are.
 namespace Units {
 
 /// A linear unit is so many base units, or so many of it are one.
@@ -61,24 +62,24 @@ inline constexpr Unit kNone{latin1(""), times<1>, over<1>};
 class UnitSelector
 {
 public:
-    template <std::size_t Count>
-    constexpr UnitSelector(const Unit (&units)[Count], Unit other)
+    template <std::size_t count>
+    constexpr UnitSelector(const Unit *const (&units)[count], const Unit &other)
         : m_units(units),
-          m_last(static_cast<int>(Count) - 1),
+          m_last(int(count) - 1),
           m_other(other)
     {}
 
     constexpr const Unit &at(int index) const
     {
-        return index >= 0 && index <= m_last ? m_units[index] : m_other;
+        return index >= 0 && index <= m_last ? *m_units[index] : m_other;
     }
     /// The index of the last unit.
     constexpr int last() const { return m_last; }
 
 private:
-    const Unit *m_units;
+    const Unit *const *m_units;
     int m_last;
-    Unit m_other;
+    const Unit &m_other;
 };
 
 } // namespace Dezimo

@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-namespace Dezimo {
+using namespace Dezimo;
 
 namespace {
 
@@ -45,5 +45,3 @@ std::optional<double> VoltageSteps::millivolt(double left, Operator operation, d
         return isSum ? left + right : left - right;
     }
 }
-
-} // namespace Dezimo

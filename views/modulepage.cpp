@@ -36,7 +36,7 @@ void ModulePage::finishOpenEdit()
 
 void ModulePage::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange && m_retranslate)
         m_retranslate();
     QWidget::changeEvent(event);
 }

@@ -146,10 +146,15 @@ QStringList LayoutCheck::complaints(const QWidget &window)
     return complaints;
 }
 
+QString LayoutCheck::pictureFolder()
+{
+    return qEnvironmentVariable("DEZIMO_PICTURES");
+}
+
 void LayoutCheck::savePicture(QWidget &window, const QString &name)
 {
-    const QString folder = qEnvironmentVariable("DEZIMO_PICTURES");
-    if (!folder.isEmpty())
-        window.grab().save(
-            QStringLiteral("%1/%2@%3.png").arg(folder, name).arg(window.devicePixelRatioF()));
+    if (!pictureFolder().isEmpty())
+        window.grab().save(QStringLiteral("%1/%2@%3.png")
+                               .arg(pictureFolder(), name)
+                               .arg(window.devicePixelRatioF()));
 }

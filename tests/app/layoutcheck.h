@@ -25,7 +25,9 @@ QString nameOf(const QWidget &widget);
 int roomForText(const QComboBox &box);
 int roomForText(const QLineEdit &edit);
 
-/// Saves a picture of @p window if the environment variable DEZIMO_PICTURES names a folder.
+/// The folder that the environment variable DEZIMO_PICTURES names for pictures, or an empty text.
+QString pictureFolder();
+/// Saves a picture of @p window if there is such a folder.
 void savePicture(QWidget &window, const QString &name);
 
 } // namespace LayoutCheck

@@ -64,6 +64,19 @@ void fill(MainProfile &profile)
     profile.vswrConverter().calculateFromVForward();
 }
 
+/// In both themes, if pictures are wanted at all. The program shows the bright one.
+void savePictures(MainWindow &window, const QString &name)
+{
+    if (LayoutCheck::pictureFolder().isEmpty())
+        return;
+    for (const ApplicationTheme theme : {Dark, Bright}) {
+        qobject_cast<KelApplication *>(qApp)->installStyleSheet(theme);
+        QMetaObject::invokeMethod(&window, "onThemeChanged", Q_ARG(ApplicationTheme, theme));
+        QCoreApplication::processEvents();
+        LayoutCheck::savePicture(window, name + QLatin1String(theme == Dark ? ", dark" : ""));
+    }
+}
+
 } // namespace
 
 void LayoutTest::init()
@@ -144,7 +157,7 @@ void LayoutTest::everyPageIsRight()
         if (tabs != nullptr)
             tabs->setCurrentIndex(tab);
         QCoreApplication::processEvents();
-        LayoutCheck::savePicture(
+        savePictures(
             window,
             QStringLiteral("%1, tab %2").arg(QLatin1String(QTest::currentDataTag())).arg(tab));
         QCOMPARE(LayoutCheck::complaints(window), QStringList());

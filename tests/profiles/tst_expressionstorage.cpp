@@ -3,7 +3,6 @@
 
 #include "calculatorcase.h"
 #include "dbmcalculatorprofile.h"
-#include "mainprofile.h"
 #include "propertyvalues.h"
 #include "settingsfile.h"
 #include "table.h"

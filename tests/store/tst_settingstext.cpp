@@ -107,6 +107,8 @@ void SettingsTextTest::keepsHarmlessText_data()
     row("a comma after a backslash", "a=b\\,@Variant(\n");
     row("escaped characters at the beginning", "a=\\x3a9\nb=\\n\nc=\\101\nd=\\\"\ne=\\x140z\n");
     row("escaped characters of one digit", "a=\\x0\nb=\\xa\nc=\\xf\nd=\\0\ne=\\7\n");
+    // The letter does not belong to the octal escape, so there is no at sign.
+    row("a letter after an octal escape", "a=\\11cVariant(\n");
     row("a key in words", "@Variant(=a\n");
     row("a second equals sign", "a=b=@Variant(\n");
     row("a second equals sign after no key", "=a=@Variant(\n");

@@ -26,7 +26,7 @@ const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
         {{"input", QString()},
-         {"output", QString(ErrorText::kNoResult)},
+         {"output", ErrorText::kNoResult},
          {"outputUnit", Dbm, upTo(None)},
          {"mode", IncoherentPowers, upTo(NumericCalculation)}},
         {{"DbmValid", Dbm},

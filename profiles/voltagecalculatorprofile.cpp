@@ -20,7 +20,7 @@ const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
         {{"input", QString()},
-         {"output", QString(ErrorText::kNoResult)},
+         {"output", ErrorText::kNoResult},
          {"outputUnit", Mv, upTo(None)},
          {"mode", VoltageMode::Uncorrelated, upTo(VoltageMode::Peak)},
          {"phase",

@@ -33,7 +33,7 @@ int countOperators(const QString &text)
 }
 
 /// The error text of brackets that do not pair, empty if they do.
-QLatin1String bracketDefect(const QString &text)
+QString bracketDefect(const QString &text)
 {
     if (text.count(kOpening) != text.count(kClosing))
         return ErrorText::kBracketMissing;
@@ -137,7 +137,7 @@ BracketedResult evaluateBracketed(const QString &text, const Evaluator &evaluate
 {
     if (!text.contains(kOpening))
         return {evaluate(text)};
-    const QLatin1String defect = bracketDefect(text);
+    const QString defect = bracketDefect(text);
     if (!defect.isEmpty())
         return {{defect}, true};
     return GroupReader(text, evaluate).read();

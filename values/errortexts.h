@@ -4,8 +4,6 @@
 #ifndef VALUES_ERRORTEXTS_H
 #define VALUES_ERRORTEXTS_H
 
-#include "latin1.h"
-
 #include <QStringList>
 
 /**
@@ -15,20 +13,20 @@
 namespace Dezimo::ErrorText {
 
 /// A number that does not parse, or an expression that makes no sense.
-inline constexpr QLatin1String kInvalidInput = latin1("invalid input");
+inline const QString kInvalidInput = QStringLiteral("invalid input");
 /// One operand of a step carries a unit, the other none.
-inline constexpr QLatin1String kUnitMissing = latin1("unit missing");
+inline const QString kUnitMissing = QStringLiteral("unit missing");
 /// The numbers of opening and closing brackets differ.
-inline constexpr QLatin1String kBracketMissing = latin1("bracket missing");
+inline const QString kBracketMissing = QStringLiteral("bracket missing");
 /// One operand of a ratio carries a unit, the other none.
-inline constexpr QLatin1String kUnitMismatch = latin1("unit mismatch");
+inline const QString kUnitMismatch = QStringLiteral("unit mismatch");
 /// A parameter (a ratio, an impedance) that a result depends on does not parse.
-inline constexpr QLatin1String kInvalid = latin1("invalid");
+inline const QString kInvalid = QStringLiteral("invalid");
 /// A ratio whose denominator is zero.
-inline constexpr QLatin1String kNotANumber = latin1("NAN");
+inline const QString kNotANumber = QStringLiteral("NAN");
 
 /// No calculation has been made yet. Not an error, and so not part of all().
-inline constexpr QLatin1String kNoResult = latin1("---");
+inline const QString kNoResult = QStringLiteral("---");
 
 /// Every text that reports an error.
 inline QStringList all()

@@ -5,6 +5,7 @@
 
 #include "mainprofile.h"
 #include "propertyvalues.h"
+#include "settingsfile.h"
 
 #include <QMap>
 #include <QPoint>
@@ -63,6 +64,23 @@ void changeEverything(MainProfile &root)
         for (const QMetaProperty &property : declaredProperties(*profile))
             property.write(profile, otherValue(property.read(profile)));
     }
+}
+
+QByteArray savedText(MainProfile &root)
+{
+    SettingsFile file;
+    root.saveSettings(file.settings());
+    return file.text();
+}
+
+const QByteArray &savedChanges()
+{
+    static const QByteArray text = [] {
+        MainProfile changed;
+        changeEverything(changed);
+        return savedText(changed);
+    }();
+    return text;
 }
 
 QStringList everyPropertyName(MainProfile &root)

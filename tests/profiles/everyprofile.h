@@ -4,6 +4,7 @@
 #ifndef TESTS_PROFILES_EVERYPROFILE_H
 #define TESTS_PROFILES_EVERYPROFILE_H
 
+#include <QByteArray>
 #include <QStringList>
 #include <QVariant>
 
@@ -27,6 +28,13 @@ QVariant otherValue(const QVariant &value);
 
 /// Gives each property of each profile another value, in the order of declaration.
 void changeEverything(Dezimo::MainProfile &root);
+
+/// The bytes of a file with the state of @p root. A store that reads them does not know the types
+/// of the values.
+QByteArray savedText(Dezimo::MainProfile &root);
+
+/// The bytes of a file with every property changed.
+const QByteArray &savedChanges();
 
 /// Each property as "class.property", in the order of the profiles and of declaration.
 QStringList everyPropertyName(Dezimo::MainProfile &root);

@@ -4,9 +4,6 @@
 # What every target of the project is compiled with: the language, the warnings and Qt's
 # hardening definitions. Presets switch -Werror and the sanitizers.
 
-set(CMAKE_AUTOMOC ON)
-set(CMAKE_AUTOUIC ON)
-set(CMAKE_AUTORCC ON)
 # The first format has no room for the files' times, which would differ from one checkout to the next.
 set(DEZIMO_RCC_OPTIONS --format-version 1)
 set(CMAKE_AUTORCC_OPTIONS ${DEZIMO_RCC_OPTIONS})
@@ -93,7 +90,6 @@ function(dezimo_precompiled name)
   set(target dezimo_headers_${name})
   file(CONFIGURE OUTPUT ${target}.cpp CONTENT "")
   add_library(${target} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp")
-  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
   target_link_libraries(${target} PRIVATE Dezimo::Options ${arg_LINKS})
   target_compile_options(${target} PRIVATE ${arg_OPTIONS})
   target_precompile_headers(${target} PRIVATE ${arg_HEADERS})
@@ -144,21 +140,22 @@ function(dezimo_add_forms target)
       VERBATIM)
     target_sources(${target} PRIVATE "${header}")
   endforeach()
-  set_target_properties(${target} PROPERTIES AUTOUIC OFF)
   target_include_directories(${target} PRIVATE "${folder}")
 endfunction()
 
-# dezimo_library(<folder> LINKS <public libraries> [PRIVATE_LINKS <libraries>] SOURCES <files>): the
-# one library of a folder, dezimo_<folder> with the alias Dezimo::<Folder>. It is static unless
+# dezimo_library(<folder> [MOC] LINKS <public libraries> [PRIVATE_LINKS <libraries>] SOURCES <files>):
+# the one library of a folder, dezimo_<folder> with the alias Dezimo::<Folder>. It is static unless
 # BUILD_SHARED_LIBS says otherwise. It publishes its own folder and nothing else, so that a layer that
-# is not linked cannot be included.
+# is not linked cannot be included. With MOC its headers may declare signals and slots; elsewhere moc
+# would only add an empty file to compile.
 function(dezimo_library folder)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(arg "MOC" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   set(target dezimo_${folder})
   string(SUBSTRING ${folder} 0 1 initial)
   string(TOUPPER ${initial} initial)
   string(SUBSTRING ${folder} 1 -1 rest)
   add_library(${target} ${arg_SOURCES})
+  set_target_properties(${target} PROPERTIES AUTOMOC ${arg_MOC})
   add_library(Dezimo::${initial}${rest} ALIAS ${target})
   dezimo_add_forms(${target} ${arg_SOURCES})
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")

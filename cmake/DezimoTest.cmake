@@ -49,19 +49,20 @@ function(dezimo_test_options target)
   dezimo_precompile(${target} core_tests widget_tests)
 endfunction()
 
-# dezimo_add_test_library(<name> LINKS <libraries>): what several tests of a folder share, <name>.cpp
-# and <name>.h, compiled once.
+# dezimo_add_test_library(<name> [MOC] LINKS <libraries>): what several tests of a folder share,
+# <name>.cpp and <name>.h, compiled once. With MOC the header may declare signals and slots.
 function(dezimo_add_test_library name)
-  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(arg "MOC" "" "LINKS" ${ARGN})
   add_library(${name} STATIC ${name}.cpp ${name}.h)
+  set_target_properties(${name} PROPERTIES AUTOMOC ${arg_MOC})
   target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
   target_link_libraries(${name} PUBLIC Dezimo::TestSupport ${arg_LINKS})
   dezimo_test_options(${name})
 endfunction()
 
-# dezimo_add_test(<name> [SOURCES <files>] LINKS <libraries> [LABELS slow] [TIMEOUT <seconds>]
+# dezimo_add_test(<name> [SOURCES <more files>] LINKS <libraries> [LABELS slow] [TIMEOUT <seconds>]
 #                 [ENVIRONMENT <settings>]):
-# one Qt Test executable, <name>.cpp unless said otherwise, registered with CTest. It runs on Qt's
+# one Qt Test executable, <name>.cpp and what else it needs, registered with CTest. It runs on Qt's
 # offscreen platform with folders of its own (see tests/support/testmain.h). Slow tests begin first,
 # so that no processor waits for one at the end.
 function(dezimo_add_test name)
@@ -69,13 +70,8 @@ function(dezimo_add_test name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
-  if(arg_SOURCES)
-    add_executable(${name} ${arg_SOURCES})
-  else()
-    add_executable(${name} ${name}.cpp)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
-    dezimo_add_test_moc(${name} ${name}.cpp)
-  endif()
+  add_executable(${name} ${name}.cpp ${arg_SOURCES})
+  dezimo_add_test_moc(${name} ${name}.cpp)
   set_target_properties(${name} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE Dezimo::TestSupport ${arg_LINKS})

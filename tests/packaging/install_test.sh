@@ -14,6 +14,8 @@ cd "$(dirname "$0")/../.."
 
 # shellcheck source=tests/packaging/menu_entry.sh
 . tests/packaging/menu_entry.sh
+# shellcheck source=tools/fresh_root.sh
+. tools/fresh_root.sh
 
 cache=build/install-test
 person=1000 # the user that starts the program
@@ -21,13 +23,6 @@ file="Zwei Geräte, 10 µW.dezimo"
 
 fail() { echo "$*" >&2; exit 1; }
 skip() { echo "Install test skipped: $*"; exit 77; }
-
-# The archives of Debian that this machine installs from, as lines of a sources.list.
-machine_sources() {
-    # shellcheck disable=SC2016
-    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
-        'Created-By: Packages' 'Origin: Debian'
-}
 
 in_root() {
     chroot "$root" env --ignore-environment PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
@@ -41,18 +36,13 @@ apt_in_root() {
 
 # Makes a fresh root with what the package depends on and with a person's account.
 make_root() {
-    local mirror
-    mirror=$(awk -v release="$release" '$3 == release { print $2; exit }' <<<"$sources")
-    [[ -n $mirror ]] || skip "apt knows no archive of Debian $release"
+    [[ -n $sources ]] || skip "apt knows no archive of Debian"
     echo "Making a fresh root of Debian $release"
-    debootstrap --variant=minbase "$release" "$root" "$mirror" >"$cache/debootstrap.log" 2>&1 || {
+    make_fresh_root "$release" "$sources" "$root" >"$cache/debootstrap.log" 2>&1 || {
         ! grep --quiet 'noexec or nodev' "$cache/debootstrap.log" || skip "no devices can be made here"
         tail --lines=5 "$cache/debootstrap.log"
         fail "debootstrap failed"
     }
-    echo "$sources" >"$root/etc/apt/sources.list"
-    apt-config dump --format '%f "%v";%n' Acquire::http Acquire::https Acquire::Check-Valid-Until \
-        Acquire::Check-Date >"$root/etc/apt/apt.conf.d/machine"
     apt_in_root update
     apt_in_root satisfy "$depends"
     apt_in_root clean
@@ -112,7 +102,6 @@ depends=$(dpkg-deb --field "$package" Depends)
 # shellcheck source=/dev/null
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")
 sources=$(machine_sources)
-[[ -n $sources ]] || { apt-get --quiet --quiet update; sources=$(machine_sources); }
 
 mkdir -p "$cache"
 : >"$cache/apt.log"

@@ -93,7 +93,7 @@ Line lineAt(const QByteArray &text, int begin)
         else if (!inQuotes && c == '=' && line.equals < 0)
             line.equals = at;
     }
-    line.end = text.size();
+    line.end = int(text.size());
     return line;
 }
 

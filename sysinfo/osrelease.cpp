@@ -38,7 +38,7 @@ QByteArray doubleQuoted(const QByteArray &text)
 /// The same for single quotes, in which a backslash has no special meaning.
 QByteArray singleQuoted(const QByteArray &text)
 {
-    const int end = text.indexOf('\'');
+    const int end = int(text.indexOf('\''));
     return end >= 0 && end == text.size() - 1 ? text.left(end) : QByteArray();
 }
 
@@ -77,8 +77,8 @@ QString OsRelease::value(const QByteArray &text, const QByteArray &key)
     const QByteArray assignment = key + '=';
     QString value;
     for (int begin = 0; begin < text.size();) {
-        const int newLine = text.indexOf('\n', begin);
-        const int end = newLine < 0 ? text.size() : newLine;
+        const int newLine = int(text.indexOf('\n', begin));
+        const int end = newLine < 0 ? int(text.size()) : newLine;
         const QByteArray line = text.mid(begin, end - begin).trimmed();
         begin = end + 1;
         if (!line.startsWith(assignment))

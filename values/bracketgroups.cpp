@@ -60,11 +60,12 @@ public:
 
     BracketedResult read()
     {
-        m_groups.push_back({m_text.size(), 0});
-        for (int i = m_text.size() - 1; i >= 0; --i) {
+        const int length = int(m_text.size());
+        m_groups.push_back({length, 0});
+        for (int i = length - 1; i >= 0; --i) {
             const QChar character = m_text.at(i);
             if (character == kClosing)
-                m_groups.push_back({i, m_reversed.size()});
+                m_groups.push_back({i, int(m_reversed.size())});
             else if (character != kOpening)
                 append(character);
             else if (m_reversed.size() == m_groups.back().start)

@@ -59,6 +59,6 @@ Evaluation OperatorChain::result(StepRule &rule) const
 std::optional<Operand> OperatorChain::operand(std::size_t index) const
 {
     const int begin = index == 0 ? 0 : m_operators[index - 1] + 1;
-    const int end = index < m_operators.size() ? m_operators[index] : m_text.size();
+    const int end = index < m_operators.size() ? m_operators[index] : int(m_text.size());
     return parseOperand(m_text.mid(begin, end - begin), m_units);
 }

@@ -80,7 +80,7 @@ QString AccessibleComboBox::text(int start, int end) const
 
 int AccessibleComboBox::characterCount() const
 {
-    return m_box->currentText().size();
+    return int(m_box->currentText().size());
 }
 
 QRect AccessibleComboBox::characterRect(int offset) const

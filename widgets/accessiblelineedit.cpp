@@ -108,7 +108,7 @@ QString AccessibleLineEdit::text(int start, int end) const
 
 int AccessibleLineEdit::characterCount() const
 {
-    return m_edit->text().size();
+    return int(m_edit->text().size());
 }
 
 /// Qt only says where the cursor is. The width of the text between gives the place of a character.

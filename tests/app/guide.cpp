@@ -40,7 +40,7 @@ QList<Guide::Entry> entriesOf(const QString &cell)
         const QRegularExpressionMatch match = it.next();
         entries +=
             {match.captured(QStringLiteral("field")), match.captured(QStringLiteral("text"))};
-        end = match.capturedEnd();
+        end = int(match.capturedEnd());
     }
     return end == cell.size() ? entries : QList<Guide::Entry>();
 }
@@ -65,7 +65,7 @@ Guide Guide::parsed(const QString &markdown)
         }
         if (isRule(cells) || !(columns.contains(kType) || columns.contains(kShows)))
             continue;
-        const int module = columns.indexOf(kModule);
+        const auto module = columns.indexOf(kModule);
         const Example example{number, module < 0 ? section : cells.value(module),
                               entriesOf(cells.value(columns.indexOf(kType))),
                               entriesOf(cells.value(columns.indexOf(kShows)))};

@@ -54,7 +54,7 @@ public:
         return missing;
     }
 
-    int count() const { return m_places.size(); }
+    int count() const { return int(m_places.size()); }
 
 private:
     QMap<uint, QString> m_places;

@@ -199,7 +199,7 @@ void LanguageChangeTest::keepsEveryStateButTheVswrText()
             ->setWindowTitle(QStringLiteral("Formular"));
     const QStringList models = modelLines();
     QStringList expected = shownLines(window);
-    const int vswr = expected.indexOf(QStringLiteral("vswrLineEdit = 2"));
+    const auto vswr = expected.indexOf(QStringLiteral("vswrLineEdit = 2"));
     QVERIFY(vswr >= 0);
     expected.replace(vswr, QStringLiteral("vswrLineEdit = "));
 

@@ -71,7 +71,7 @@ EditScript::EditScript(const std::vector<QObject *> &models)
 
 void EditScript::run(const QString &line)
 {
-    const int sign = line.indexOf(QLatin1Char('='));
+    const auto sign = line.indexOf(QLatin1Char('='));
     const bool isSlot = sign < 0;
     const QByteArray name = line.left(sign).toLatin1();
     for (Model &model : m_models) {

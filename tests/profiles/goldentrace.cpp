@@ -117,7 +117,7 @@ QString GoldenTrace::anyText()
         text += QLatin1String(anyOf(signs));
         text += anyOperand();
     }
-    const int open = text.count(QLatin1Char('('));
+    const int open = int(text.count(QLatin1Char('(')));
     return below(8) == 0 ? text : text + QString(open, QLatin1Char(')'));
 }
 
@@ -186,9 +186,9 @@ void GoldenTrace::loadForeign()
     SettingsFile store;
     m_root.saveSettings(store.settings());
     const QStringList keys = store.settings().allKeys();
-    const QString &spoiled = keys.at(below(keys.size()));
+    const QString &spoiled = keys.at(below(int(keys.size())));
     const QString value = QLatin1String(anyOf(values));
-    const QString &removed = keys.at(below(keys.size()));
+    const QString &removed = keys.at(below(int(keys.size())));
     m_lines += QStringLiteral("load with %1 as \"%2\" and without %3").arg(spoiled, value, removed);
     store.settings().setValue(spoiled, value);
     store.settings().remove(removed);

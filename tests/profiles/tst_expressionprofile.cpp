@@ -108,7 +108,7 @@ void ExpressionProfileTest::calculationSignalsEachChangeOnce()
     QSignalSpy unit(&calculator, &DbmCalculatorProfile::outputUnitChanged);
     QSignalSpy valid(&calculator, &DbmCalculatorProfile::validUnitsChanged);
     const auto counts = [&] {
-        return QList<int>{output.count(), unit.count(), valid.count()};
+        return QList<int>{int(output.count()), int(unit.count()), int(valid.count())};
     };
 
     calculate(calculator, "10dBm+3dB"); // 13.00 dBm, all power units

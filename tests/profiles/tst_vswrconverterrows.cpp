@@ -52,7 +52,7 @@ int unitNumber(QChar half, const QString &unit)
     int number = unit.toInt(&isNumber);
     if (!isNumber) {
         const bool isPower = half == QLatin1Char('P');
-        number = words(isPower ? "dBm dBW W mW" : "dBV dBµV V mV").indexOf(unit);
+        number = int(words(isPower ? "dBm dBW W mW" : "dBV dBµV V mV").indexOf(unit));
         if (number < 0)
             qFatal("no such unit: %s", qPrintable(unit));
     }

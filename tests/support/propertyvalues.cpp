@@ -48,7 +48,7 @@ PropertyValues values(const QString &text)
     PropertyValues found;
     const QStringList parts = text.split(QStringLiteral(", "), Qt::SkipEmptyParts);
     for (const QString &part : parts) {
-        const int equals = part.indexOf(QLatin1Char('='));
+        const auto equals = part.indexOf(QLatin1Char('='));
         if (equals <= 0)
             qFatal("\"%s\" is no name=value", qPrintable(part));
         found.push_back({part.left(equals).toLatin1(), part.mid(equals + 1).toUtf8().constData()});

@@ -34,13 +34,13 @@ BracketedResult replacedOneByOne(QString text, const Evaluator &evaluate)
     const QLatin1Char opening('(');
     const QLatin1Char closing(')');
     bool spansAll = false;
-    for (int rest = text.count(opening); rest > 0; --rest) {
-        const int begin = text.lastIndexOf(opening);
-        const int end = text.indexOf(closing, begin);
+    for (int rest = int(text.count(opening)); rest > 0; --rest) {
+        const int begin = int(text.lastIndexOf(opening));
+        const int end = int(text.indexOf(closing, begin));
         const QString inner = text.mid(begin + 1, end - begin - 1);
         if (inner.isEmpty())
             return {{QStringLiteral("invalid input")}, true};
-        const int operators = inner.count(QLatin1Char('+')) + inner.count(QLatin1Char('-'));
+        const auto operators = inner.count(QLatin1Char('+')) + inner.count(QLatin1Char('-'));
         const bool isSigned =
             inner.startsWith(QLatin1Char('+')) || inner.startsWith(QLatin1Char('-'));
         const bool isOwnValue = operators == 0 || (operators == 1 && isSigned);

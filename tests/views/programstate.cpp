@@ -24,7 +24,7 @@ void loadFile(const QStringList &lines)
 {
     SettingsFile file;
     for (const QString &line : lines) {
-        const int equals = line.indexOf(QLatin1Char('='));
+        const auto equals = line.indexOf(QLatin1Char('='));
         file.settings().setValue(line.left(equals), line.mid(equals + 1));
     }
     MainProfile::instance().loadModuleSettings(file.settings());

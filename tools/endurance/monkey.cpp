@@ -153,7 +153,8 @@ QWidget *Monkey::target()
         return modal;
     const QList<QWidget *> windows = shownWindows();
     const bool isMissing = !windows.contains(m_window.get());
-    return isMissing || windows.size() > kMostWindows ? nullptr : windows.at(below(windows.size()));
+    return isMissing || windows.size() > kMostWindows ? nullptr
+                                                      : windows.at(below(int(windows.size())));
 }
 
 void Monkey::act(QWidget &top)
@@ -194,7 +195,7 @@ void Monkey::click(QWidget &top)
         if (child->isVisible() && child->window() == &top && !child->size().isEmpty())
             widgets += child;
     }
-    QPointer<QWidget> widget = widgets.at(below(widgets.size()));
+    QPointer<QWidget> widget = widgets.at(below(int(widgets.size())));
     const QPoint at(below(std::max(1, widget->width())), below(std::max(1, widget->height())));
     const Qt::MouseButton button = below(12) == 0 ? Qt::RightButton : Qt::LeftButton;
     switch (below(6)) {
@@ -219,7 +220,7 @@ void Monkey::type(QWidget &top)
     const int choice = below(100);
     if (choice < 60)
         QTest::sendKeyEvent(QTest::Click, focused, Qt::Key_unknown,
-                            QString(typed().at(below(typed().size()))), Qt::NoModifier);
+                            QString(typed().at(below(int(typed().size())))), Qt::NoModifier);
     else if (choice < 90)
         QTest::keyClick(focused, kKeys.at(size_t(below(int(kKeys.size())))));
     else if (choice < 97)

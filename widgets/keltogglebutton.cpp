@@ -110,10 +110,6 @@ void KelToggleButton::updateTabStop()
 
 void KelToggleButton::connectGroup()
 {
-    // Kept on purpose, although Qt 5.15 prefers idClicked(int), which says the same.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    m_groupClicks = connect(m_group, QOverload<int>::of(&QButtonGroup::buttonClicked), this,
-                            &KelToggleButton::onCurrentIndexChanged);
-    QT_WARNING_POP
+    m_groupClicks =
+        connect(m_group, &QButtonGroup::idClicked, this, &KelToggleButton::onCurrentIndexChanged);
 }

@@ -8,7 +8,7 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QRegExpValidator>
+#include <QRegularExpressionValidator>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -144,7 +144,8 @@ void AccessibleLineEditTest::aValueThatIsSetIsEditedToo()
 void AccessibleLineEditTest::whatTheValidatorRefusesIsNotPutIn()
 {
     m_edit->setText(QStringLiteral("12"));
-    m_edit->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("\\d{1,3}")), m_edit.get()));
+    const QRegularExpression digits(QStringLiteral("\\d{1,3}"));
+    m_edit->setValidator(new QRegularExpressionValidator(digits, m_edit.get()));
     interface()->editableTextInterface()->insertText(2, QStringLiteral("x"));
     QCOMPARE(m_edit->text(), QStringLiteral("12"));
     interface()->editableTextInterface()->insertText(2, QStringLiteral("3"));

@@ -13,14 +13,18 @@
 namespace {
 
 /// The attributes are set after the application object is made, on purpose. Qt warns that this is
-/// too late. The warning is dropped, because it would be the only thing that the program prints.
+/// too late. The warning is dropped, because it would be the only thing that the program prints. Qt
+/// 6 does by itself what they stand for.
 void setHighDpiAttributes()
 {
     const auto ignore = [](QtMsgType, const QMessageLogContext &, const QString &) {
     };
     const QtMessageHandler previous = qInstallMessageHandler(ignore);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QT_WARNING_POP
     qInstallMessageHandler(previous);
 }
 

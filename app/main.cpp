@@ -20,7 +20,9 @@ namespace {
 /// by itself would close the windows.
 void endWithoutAPerson(const EndRequests &requests, const MainWindow &window)
 {
-    QGuiApplication::setFallbackSessionManagementEnabled(false);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QGuiApplication::setFallbackSessionManagementEnabled(false); // Qt 6 has no such fallback
+#endif
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, &MainWindow::keepState);
     QObject::connect(&requests, &EndRequests::received, &window, &MainWindow::endProgram);
 }
@@ -37,6 +39,9 @@ void say(const QString &line)
 int main(int argc, char *argv[])
 {
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
+    // Qt 5 does so by itself, while Qt 6 would take screens of every density as they are.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Round);
     std::optional<WithoutOpenGl> firstWindow(std::in_place);
     KelApplication application(argc, argv, true);
     Identity::apply();

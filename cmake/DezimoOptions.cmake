@@ -104,8 +104,8 @@ set(DEZIMO_CORE_HEADERS
 set(DEZIMO_WIDGET_HEADERS ${DEZIMO_CORE_HEADERS}
   <QAccessible> <QApplication> <QComboBox> <QLabel> <QLineEdit> <QListWidget> <QMainWindow> <QMenu>
   <QPainter> <QPushButton> <QScrollArea> <QSpinBox> <QStackedWidget> <QTabWidget> <QTimer>)
-dezimo_precompiled(core LINKS Qt5::Core HEADERS ${DEZIMO_CORE_HEADERS})
-dezimo_precompiled(widgets LINKS Qt5::Widgets HEADERS ${DEZIMO_WIDGET_HEADERS})
+dezimo_precompiled(core LINKS Qt${DEZIMO_QT}::Core HEADERS ${DEZIMO_CORE_HEADERS})
+dezimo_precompiled(widgets LINKS Qt${DEZIMO_QT}::Widgets HEADERS ${DEZIMO_WIDGET_HEADERS})
 
 # dezimo_precompile(<target> <core> <widgets>): lets the target use one of the two precompiled headers,
 # depending on what it links. Those few that link Qt's Gui but no Widgets have none.
@@ -113,8 +113,8 @@ function(dezimo_precompile target core widgets)
   if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
     return()
   endif()
-  dezimo_sees(sees_gui ${target} Qt5::Gui)
-  dezimo_sees(sees_widgets ${target} Qt5::Widgets)
+  dezimo_sees(sees_gui ${target} Qt${DEZIMO_QT}::Gui)
+  dezimo_sees(sees_widgets ${target} Qt${DEZIMO_QT}::Widgets)
   if(sees_widgets)
     target_precompile_headers(${target} REUSE_FROM dezimo_headers_${widgets})
   elseif(NOT sees_gui)
@@ -134,7 +134,7 @@ function(dezimo_add_forms target)
     file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include/ui_${name}.h")
     add_custom_command(
       OUTPUT "${header}"
-      COMMAND Qt5::uic -o "${header}" "${CMAKE_CURRENT_SOURCE_DIR}/${form}"
+      COMMAND Qt${DEZIMO_QT}::uic -o "${header}" "${CMAKE_CURRENT_SOURCE_DIR}/${form}"
       DEPENDS "${form}"
       COMMENT "Making ui_${name}.h"
       VERBATIM)

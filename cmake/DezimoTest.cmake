@@ -6,11 +6,11 @@ set(DEZIMO_TEST_FLAGS "" CACHE STRING "Compiler options for the tests' own sourc
 
 set(test_headers <QSignalSpy> <QTemporaryDir> <QTest>)
 dezimo_precompiled(core_tests
-  LINKS Qt5::Core Qt5::Test
+  LINKS Qt${DEZIMO_QT}::Core Qt${DEZIMO_QT}::Test
   HEADERS ${DEZIMO_CORE_HEADERS} ${test_headers}
   OPTIONS ${DEZIMO_TEST_FLAGS})
 dezimo_precompiled(widget_tests
-  LINKS Qt5::Widgets Qt5::Test
+  LINKS Qt${DEZIMO_QT}::Widgets Qt${DEZIMO_QT}::Test
   HEADERS ${DEZIMO_WIDGET_HEADERS} ${test_headers}
   OPTIONS ${DEZIMO_TEST_FLAGS})
 
@@ -33,7 +33,7 @@ function(dezimo_add_test_moc target source)
   set(definitions "$<TARGET_PROPERTY:${target},COMPILE_DEFINITIONS>")
   add_custom_command(
     OUTPUT "${moc}"
-    COMMAND Qt5::moc --include "${DEZIMO_PREDEFINED}" "-I$<JOIN:${includes},;-I>"
+    COMMAND Qt${DEZIMO_QT}::moc --include "${DEZIMO_PREDEFINED}" "-I$<JOIN:${includes},;-I>"
             "-D$<JOIN:${definitions},;-D>" -o "${moc}" "${CMAKE_CURRENT_SOURCE_DIR}/${source}"
     DEPENDS "${source}" "${DEZIMO_PREDEFINED}"
     COMMENT "Making ${name}.moc"

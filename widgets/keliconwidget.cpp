@@ -51,11 +51,13 @@ void KelIconWidget::paintEvent(QPaintEvent *event)
     const QPointF center(width() * 0.5, height() * 0.5);
 
     QPainter painter(this);
-    // Deprecated, because Qt's own paint engines ignore it; kept on purpose for other engines.
+    // Qt's own paint engines ignore it; kept on purpose for other engines. Qt 6 no longer has it.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     painter.setRenderHint(QPainter::HighQualityAntialiasing);
     QT_WARNING_POP
+#endif
     painter.translate(center);
     painter.rotate(m_rotation);
     painter.translate(-center);

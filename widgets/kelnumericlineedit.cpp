@@ -5,10 +5,36 @@
 
 #include <QEvent>
 #include <QLocale>
-#include <QRegExp>
+#include <QVector>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QRegExpValidator>
+#else
+#include <QRegularExpressionValidator>
+#endif
 
 namespace {
+
+// Qt 6 has no QRegExpValidator. QRegExp takes the digits of all scripts, while the other class has
+// to be told so. Its "$" also matches before a line break; without it, validators match whole texts
+// too.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+using Expression = QRegExp;
+using Validator = QRegExpValidator;
+
+Expression expressionOf(const QString &pattern)
+{
+    return Expression(pattern);
+}
+#else
+using Expression = QRegularExpression;
+using Validator = QRegularExpressionValidator;
+
+Expression expressionOf(const QString &pattern)
+{
+    return Expression(pattern.chopped(1), Expression::UseUnicodePropertiesOption);
+}
+#endif
 
 /// The regular expression engine allows no more repetitions.
 constexpr int kMaximalRepetitions = 1024;
@@ -29,8 +55,9 @@ QString unitPattern(const QString &unit)
 {
     QString opening;
     QString closing;
-    for (const QChar letter : unit) {
-        opening += QLatin1Char('(') + QRegExp::escape(letter);
+    const QVector<uint> letters = unit.toUcs4();
+    for (const uint letter : letters) {
+        opening += QLatin1Char('(') + Expression::escape(QString::fromUcs4(&letter, 1));
         closing += QLatin1String(")?");
     }
     return opening + closing;
@@ -79,7 +106,7 @@ void KelNumericLineEdit::changeEvent(QEvent *event)
 
 void KelNumericLineEdit::rebuildValidator()
 {
-    auto *validator = new QRegExpValidator(QRegExp(pattern()), this);
+    auto *validator = new Validator(expressionOf(pattern()), this);
     setValidator(validator);
     delete m_validator;
     m_validator = validator;
@@ -87,8 +114,10 @@ void KelNumericLineEdit::rebuildValidator()
 
 QString KelNumericLineEdit::pattern() const
 {
-    const QString minus = QRegExp::escape(locale().negativeSign());
-    const QString point = QRegExp::escape(locale().decimalPoint());
+    // In Qt 6 the signs of some locales also have marks of direction, which nobody types.
+    const QString sign = locale().negativeSign();
+    const QString minus = Expression::escape(sign.size() == 1 ? sign : QStringLiteral("-"));
+    const QString point = Expression::escape(locale().decimalPoint());
 
     QString text = QLatin1Char('^') + minus + QLatin1Char('?');
     if (m_integerDigits != 0)

@@ -6,7 +6,7 @@
 
 #include "kellineedit.h"
 
-class QRegExpValidator;
+class QValidator;
 
 /**
  * A line edit that takes nothing but a number, as in "-12.5 dBm" or "4e3kW": digits before and
@@ -50,7 +50,7 @@ private:
     QString m_unitText;
     quint16 m_decimals = 2;
     quint16 m_integerDigits = 3;
-    QRegExpValidator *m_validator = nullptr;
+    QValidator *m_validator = nullptr;
 };
 
 #endif

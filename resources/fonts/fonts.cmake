@@ -73,4 +73,5 @@ file(CONFIGURE OUTPUT ${font_folder}/fonts.qrc @ONLY CONTENT "<RCC>
 ${font_entries}  </qresource>
 </RCC>
 ")
-qt5_add_resources(DEZIMO_FONT_SOURCES ${font_folder}/fonts.qrc OPTIONS ${DEZIMO_RCC_OPTIONS})
+cmake_language(CALL qt${DEZIMO_QT}_add_resources
+  DEZIMO_FONT_SOURCES ${font_folder}/fonts.qrc OPTIONS ${DEZIMO_RCC_OPTIONS})

@@ -84,6 +84,8 @@ void printPage(Printer &printer, int page, const QWidget &parent)
 int main(int argc, char *argv[])
 {
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Round);
     const TestHome home;
     const WithoutOpenGl asTheProgram; // because a graphics driver never frees what it loads
     KelApplication application(argc, argv, true);

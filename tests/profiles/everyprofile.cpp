@@ -30,9 +30,11 @@ QMap<int, bool> withFirstFlipped(QMap<int, bool> units)
 
 std::vector<Profile *> everyProfile(MainProfile &root)
 {
-    // Without this comparator, two variants with the same map are not equal.
+    // In Qt 5, two variants with the same map are not equal without this comparator.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     static const bool registered = QMetaType::registerEqualsComparator<QMap<int, bool>>();
     Q_UNUSED(registered)
+#endif
 
     std::vector<Profile *> profiles{&root};
     for (ModuleProfile *module : root.modules())

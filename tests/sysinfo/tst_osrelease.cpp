@@ -109,7 +109,7 @@ void OsReleaseTest::valueOfAMillionLetters()
 
 void OsReleaseTest::nameInACompleteFile()
 {
-    QCOMPARE(OsRelease::systemName(QFINDTESTDATA("fixtures/os-release")),
+    QCOMPARE(OsRelease::systemName(QStringLiteral(DEZIMO_TEST_FIXTURES "/os-release")),
              QStringLiteral("Some System 12 (sample)"));
 }
 

@@ -225,8 +225,9 @@ void KelAboutWindowTest::headingsAreLargeAndBold()
     // Bold text is large from 19 pixels on.
     QCOMPARE(cell(0, 0)->font().pixelSize(), 19);
     const QTextCharFormat format = markupFormat(cell(0, 0));
-    // Qt's weights are an eighth of the markup's: 600 / 8 = 75.
-    QCOMPARE(format.fontWeight(), int(QFont::Bold));
+    // The markup's 600 is bold in Qt 5 and a little less in Qt 6, whose fonts are drawn bold as
+    // well.
+    QVERIFY(format.font().bold());
     QCOMPARE(format.foreground().color(), QColor(0, 142, 214));
 }
 

@@ -244,7 +244,10 @@ void KelMessageBoxTest::styleSheetsKnowTheState_data()
 
     QTest::newRow("by its name") << "StateWarning" << KelMessageBox::StateWarning << true;
     QTest::newRow("by the name of another") << "StateError" << KelMessageBox::StateWarning << false;
-    QTest::newRow("not by its number") << "2" << KelMessageBox::StateWarning << false;
+    // An enumeration's value has no text in Qt 5. In Qt 6 the text is the name, and the number
+    // counts as well. No widget can decide that.
+    const bool isNumberKnown = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
+    QTest::newRow("by its number") << "2" << KelMessageBox::StateWarning << isNumberKnown;
 }
 
 void KelMessageBoxTest::styleSheetsKnowTheState()

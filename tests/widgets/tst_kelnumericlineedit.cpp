@@ -20,6 +20,8 @@ private Q_SLOTS:
     void typing();
     void acceptable_data();
     void acceptable();
+    void judgesAWholeText_data();
+    void judgesAWholeText();
     void takesEachPrefixLetter();
     void takesNoOtherLetter();
     void takesEveryBeginningOfAUnit_data();
@@ -109,6 +111,7 @@ void KelNumericLineEditTest::typing_data()
     row("a digit after the unit", english(), 3, 2, "W", S("1W2"), S("1W"));
     row("a unit where there is none", english(), 3, 2, "", S("1W"), S("1"));
     row("a line feed", english(), 3, 2, "", S("1\n2"), S("12"));
+    same("digits of another script", english(), 3, 2, "", QStringLiteral("\u0661.\u0662e\u0663"));
 
     row("no decimals: no point", english(), 3, 0, "W", S("12.5"), S("125"));
     same("no decimals: exponent, prefix and unit stay", english(), 3, 0, "W", S("-12e-1 kW"));
@@ -124,6 +127,10 @@ void KelNumericLineEditTest::typing_data()
          QStringLiteral("\u22121,5e\u22123"));
     row("a locale with a minus sign of its own takes no hyphen", swedish(), 3, 2, "", S("-1e-3"),
         S("1e3"));
+
+    const QLocale egypt(QLocale::Arabic, QLocale::Egypt);
+    same("a locale whose minus sign has a mark takes the plain one", egypt, 3, 2, "",
+         QStringLiteral("-1\u066b5e-3"));
 
     same("a unit of special characters is taken by the letter", english(), 3, 2, "a.*(",
          S("1a.*("));
@@ -176,6 +183,27 @@ void KelNumericLineEditTest::acceptable()
     type(edit, text);
     QCOMPARE(edit.text(), text);
     QCOMPARE(edit.hasAcceptableInput(), isAcceptable);
+}
+
+void KelNumericLineEditTest::judgesAWholeText_data()
+{
+    columns<QString, int>({"text", "state"});
+    row("a number", "1", int(QValidator::Acceptable));
+    row("a line break behind it", "1\n", int(QValidator::Invalid));
+    row("a letter of more than 16 bits", "1\U0001F600", int(QValidator::Acceptable));
+    row("another such letter", "1\U0001F601", int(QValidator::Invalid));
+}
+
+/// Judges what is pasted, for example.
+void KelNumericLineEditTest::judgesAWholeText()
+{
+    QFETCH(QString, text);
+    QFETCH(int, state);
+
+    KelNumericLineEdit edit;
+    edit.setUnitText(QStringLiteral("\U0001F600"));
+    int cursor = 0;
+    QCOMPARE(int(edit.validator()->validate(text, cursor)), state);
 }
 
 void KelNumericLineEditTest::takesEachPrefixLetter()

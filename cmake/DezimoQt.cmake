@@ -1,0 +1,24 @@
+# SPDX-FileCopyrightText: 2026 Vantrel
+# SPDX-License-Identifier: MIT
+
+# Which generation of Qt everything is built with. Nothing else in CMake names one. All links read
+# Qt${DEZIMO_QT}::Core and the like: Qt 5 has names without a number too, but not for its tools and
+# private headers.
+
+set(DEZIMO_QT 5 CACHE STRING "Generation of Qt, 5 or 6")
+set_property(CACHE DEZIMO_QT PROPERTY STRINGS 5 6)
+set(oldest_qt5 5.15)
+set(oldest_qt6 6.4)
+if(NOT DEFINED oldest_qt${DEZIMO_QT})
+  message(FATAL_ERROR "DEZIMO_QT is neither 5 nor 6: ${DEZIMO_QT}")
+endif()
+set(DEZIMO_OLDEST_QT ${oldest_qt${DEZIMO_QT}})
+
+find_package(Qt${DEZIMO_QT} ${DEZIMO_OLDEST_QT} REQUIRED COMPONENTS Core Gui Widgets Svg Test)
+
+# Qt 6 defines where each test's folders are. No test asks for them, and tests with definitions of
+# their own could not share precompiled headers.
+get_target_property(definitions Qt${DEZIMO_QT}::Test INTERFACE_COMPILE_DEFINITIONS)
+list(FILTER definitions EXCLUDE REGEX "QT_TESTCASE_")
+set_target_properties(Qt${DEZIMO_QT}::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${definitions}")
+unset(definitions)

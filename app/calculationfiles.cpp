@@ -4,6 +4,7 @@
 #include "calculationfiles.h"
 
 #include "checkedsettings.h"
+#include "iniformat.h"
 #include "mainprofile.h"
 #include "settingstext.h"
 
@@ -107,7 +108,7 @@ void CalculationFiles::save(MainProfile &profile, const QString &fileName)
     if (!CheckedSettings::makeWritable(fileName))
         return;
     {
-        QSettings file(fileName, QSettings::IniFormat);
+        QSettings file(fileName, IniFormat::ofFiles());
         profile.saveSettings(file);
         file.sync();
         if (file.status() != QSettings::NoError)

@@ -3,6 +3,7 @@
 
 #include "checkedsettings.h"
 
+#include "iniformat.h"
 #include "settingstext.h"
 
 #include <QCoreApplication>
@@ -100,13 +101,19 @@ bool isHarmless(const QString &fileName, const QByteArrayList &groups)
     return Substitute(fileName, groups).isOriginal();
 }
 
+QSettings applicationSettings()
+{
+    return QSettings(IniFormat::ofSettings(), QSettings::UserScope,
+                     QCoreApplication::organizationName(), QCoreApplication::applicationName());
+}
+
 } // namespace
 
 void CheckedSettings::readFile(const QString &fileName, const QByteArrayList &groups,
                                const Use &load)
 {
     const Substitute substitute(fileName, groups);
-    QSettings file(substitute.fileName(), QSettings::IniFormat);
+    QSettings file(substitute.fileName(), IniFormat::ofFiles());
     load(file);
 }
 
@@ -129,7 +136,7 @@ void CheckedSettings::readSettings(const QByteArrayList &groups, const Use &load
         readFile(settingsFile(), groups, load);
         return;
     }
-    QSettings settings;
+    QSettings settings = applicationSettings();
     load(settings);
 }
 
@@ -140,7 +147,7 @@ void CheckedSettings::readDefaults(const QByteArrayList &groups, const Use &load
         readFile(nativeFile(organization), groups, load);
         return;
     }
-    QSettings defaults(organization, QString());
+    QSettings defaults(IniFormat::ofSettings(), QSettings::UserScope, organization);
     load(defaults);
 }
 
@@ -153,10 +160,16 @@ bool CheckedSettings::makeWritable(const QString &fileName)
     return harmless.size() == text.size() || (keepBeside(fileName) && replace(fileName, harmless));
 }
 
+/// The organization's store is not written, but read with the other one, and by some formats whole.
 void CheckedSettings::writeSettings(const Use &save)
 {
-    if (!canBeLookedAt(organizationFile()) || !makeWritable(settingsFile()))
+    if (!makeWritable(settingsFile()))
         return;
-    QSettings settings;
+    if (!isHarmless(organizationFile(), {})) {
+        QSettings file(settingsFile(), IniFormat::ofSettings());
+        save(file);
+        return;
+    }
+    QSettings settings = applicationSettings();
     save(settings);
 }

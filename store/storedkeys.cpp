@@ -3,6 +3,7 @@
 
 #include "storedkeys.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QPoint>
 #include <QSettings>
@@ -36,11 +37,15 @@ QVariant textOrNothing(const QVariant &stored)
     return isText && stored.toString().size() <= kMaximumTextLength ? stored : QVariant();
 }
 
-/// Read as a text whatever its type, since a variant cuts a number that is no int down to one.
+/// Read as a text whatever its type, since a variant cuts a number that is no int down to one. The
+/// text is read by a locale: QString::toInt() takes other blanks in Qt 6 than in Qt 5, and ends at
+/// a zero character.
 QVariant integerOrNothing(const QVariant &stored)
 {
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator);
     bool ok = false;
-    const int value = isNumberOrText(stored) ? stored.toString().toInt(&ok) : 0;
+    const int value = isNumberOrText(stored) ? plain.toInt(stored.toString(), &ok) : 0;
     return ok ? QVariant(value) : QVariant();
 }
 

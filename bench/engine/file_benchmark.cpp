@@ -6,6 +6,7 @@
  */
 
 #include "benchmarks.h"
+#include "iniformat.h"
 #include "mainprofile.h"
 
 #include <benchmark/benchmark.h>
@@ -25,7 +26,7 @@ void accessFile(benchmark::State &state, Access access)
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("calculation.dezimo"));
     {
-        QSettings file(name, QSettings::IniFormat);
+        QSettings file(name, IniFormat::ofFiles());
         MainProfile::instance().saveSettings(file);
     }
     QFile content(name);
@@ -42,7 +43,7 @@ void accessFile(benchmark::State &state, Access access)
         content.close();
         isLonger = !isLonger;
         state.ResumeTiming();
-        QSettings file(name, QSettings::IniFormat);
+        QSettings file(name, IniFormat::ofFiles());
         access(file);
         file.sync();
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculationfiles.h"
+#include "iniformat.h"
 #include "mainprofile.h"
 #include "testmain.h"
 
@@ -42,7 +43,7 @@ QString example()
 void CalculationBytesTest::aSavedFileIsTheSameEverywhere()
 {
     MainProfile &profile = MainProfile::instance();
-    QSettings settings(example(), QSettings::IniFormat);
+    QSettings settings(example(), IniFormat::ofFiles());
     profile.loadSettings(settings);
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("Zwei Geräte, 10 µW.dezimo"));

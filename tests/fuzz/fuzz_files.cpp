@@ -6,6 +6,7 @@
 
 #include "changewatch.h"
 #include "everyprofile.h"
+#include "iniformat.h"
 #include "mainprofile.h"
 #include "require.h"
 #include "settingstext.h"
@@ -71,7 +72,7 @@ void requireHarmlessValues(const QSettings &file)
 
 void load(MainProfile &profile, const QString &fileName)
 {
-    QSettings file(fileName, QSettings::IniFormat);
+    QSettings file(fileName, IniFormat::ofFiles());
     requireHarmlessValues(file);
     profile.loadSettings(file);
 }
@@ -80,7 +81,7 @@ void save(MainProfile &profile, const QString &fileName)
 {
     const QString remembered = newFileName();
     {
-        QSettings file(remembered, QSettings::IniFormat);
+        QSettings file(remembered, IniFormat::ofFiles());
         profile.saveSettings(file);
     }
     require(QFile::rename(remembered, fileName), "a calculation can be saved", fileName);

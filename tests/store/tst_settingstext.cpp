@@ -3,6 +3,7 @@
 
 #include "everyprofile.h"
 #include "expectedmessages.h"
+#include "iniformat.h"
 #include "mainprofile.h"
 #include "settingsfile.h"
 #include "settingstext.h"
@@ -30,7 +31,7 @@ public:
     /// Whether QSettings rebuilds an integer from its packed bytes in @p text.
     bool findsPackedNumber(const QByteArray &text)
     {
-        const QSettings settings(written(text), QSettings::IniFormat);
+        const QSettings settings(written(text), IniFormat::ofFiles());
         QStringList keys = settings.allKeys();
         keys.removeAll(QString()); // read, but never handed out
         return std::any_of(keys.cbegin(), keys.cend(), [&](const QString &key) {

@@ -42,8 +42,8 @@ private Q_SLOTS:
 namespace {
 
 /// The name that QSettings gives the group of all keys without a group.
-constexpr QLatin1String kGroup("", 0);
-constexpr QLatin1String kText("default", 7);
+constexpr QLatin1String kGroup("");
+constexpr QLatin1String kText("default");
 constexpr int kInteger = 42;
 constexpr double kDouble = 4.25;
 constexpr bool kTrue = true;
@@ -97,12 +97,15 @@ void StoredKeysTest::readsFiles_data()
     row("integer: zero", "0", kInteger, 0);
     row("integer: a sign", "-7", kInteger, -7);
     row("integer: blanks around", "  7  ", kInteger, 7);
+    row("integer: blanks beyond ASCII around", "\\x2009\\x37\\xa0", kInteger, 7);
     row("integer: the largest", "2147483647", kInteger, std::numeric_limits<int>::max());
     row("integer: the smallest", "-2147483648", kInteger, std::numeric_limits<int>::min());
     row("integer: packed", "@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)", kInteger, 5);
     malformed("integer: beyond the largest", "2147483648", kInteger);
     malformed("integer: below the smallest", "-2147483649", kInteger);
     malformed("integer: nothing", "", kInteger);
+    malformed("integer: a zero character behind", "7\\0", kInteger);
+    malformed("integer: a comma between digits", "\"1,000\"", kInteger);
     malformed("integer: a word", "seven", kInteger);
     malformed("integer: a bool", "true", kInteger);
     malformed("integer: a fraction", "7.0", kInteger);

@@ -3,6 +3,7 @@
 
 #include "settingsfile.h"
 
+#include "iniformat.h"
 #include "settingstext.h"
 
 #include <QFile>
@@ -18,9 +19,9 @@ QString storeIn(const QTemporaryDir &folder)
 
 } // namespace
 
-SettingsFile::SettingsFile() : m_settings(storeIn(m_folder), QSettings::IniFormat) {}
+SettingsFile::SettingsFile() : m_settings(storeIn(m_folder), IniFormat::ofFiles()) {}
 
-SettingsFile::SettingsFile(const QByteArray &text) : m_settings(written(text), QSettings::IniFormat)
+SettingsFile::SettingsFile(const QByteArray &text) : m_settings(written(text), IniFormat::ofFiles())
 {}
 
 QByteArray SettingsFile::text()

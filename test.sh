@@ -7,19 +7,22 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-usage="usage: ./test.sh [--quick] [--windows]
+usage="usage: ./test.sh [--quick] [--qt6] [--windows]
 
 Builds with warnings as errors and sanitizers, and runs every test.
 
   --quick    leaves out the tests that take long
+  --qt6      builds with Qt 6, without sanitizers, and leaves out the tests of packages
   --windows  builds the tests for Windows, without sanitizers, and runs them by Wine
   --help     says this"
 
 choice=()
+qt6=
 windows=
 for argument in "$@"; do
     case $argument in
         --quick) choice=(--label-exclude '^slow$') ;;
+        --qt6) qt6=yes ;;
         --windows) windows=yes ;;
         --help) echo "$usage"; exit ;;
         *) echo "$usage" >&2; exit 2 ;;
@@ -37,6 +40,13 @@ if [[ -n $windows ]]; then
     tools/windows_sdk.sh >/dev/null
     build windows
     exec ctest --preset windows --parallel 2 "${choice[@]}"
+fi
+
+# The packages hold what the default Qt has built, however the tests are built.
+if [[ -n $qt6 ]]; then
+    tools/packages.sh build run test build-qt6 run-qt6 test-qt6
+    build dev-qt6
+    exec ctest --preset dev-qt6 --parallel $(($(nproc) + 1)) --exclude-regex '^packaging_' "${choice[@]}"
 fi
 
 # Without dpkg, CTest leaves out the tests of the Debian package.

@@ -7,13 +7,18 @@
 # neither root nor sudo), it names them and succeeds if the commands that they bring are there.
 set -euo pipefail
 
-# Debian's packages, and the commands that show that a system without apt has the same.
+# Debian's packages, and the commands that show that a system without apt has the same. new|old is a
+# package that newer releases have, and the one in which older releases have its files. The groups
+# with qt6 hold what Qt 6 needs in addition.
 declare -A packages=(
     [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
         python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core librsvg2-bin"
     [run]="libqt5svg5 qtwayland5"
     [test]="libqt5test5 qtbase5-private-dev xvfb xauth x11-utils xdotool openbox dbus
         at-spi2-core python3-pyatspi"
+    [build-qt6]="qt6-base-dev qt6-base-dev-tools qt6-svg-dev"
+    [run-qt6]="qt6-svg-plugins|libqt6svg6 qt6-wayland"
+    [test-qt6]="qt6-base-private-dev"
     [package]="dpkg-dev file"
     [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"
     [install-test]="debootstrap"
@@ -35,6 +40,9 @@ declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
     [run]=""
     [test]="ctest"
+    [build-qt6]=""
+    [run-qt6]=""
+    [test-qt6]=""
     [package]="dpkg-deb dpkg-shlibdeps file"
     [package-test]="lintian desktop-file-validate appstreamcli xmllint update-mime-database man"
     [install-test]="debootstrap"
@@ -51,6 +59,18 @@ declare -A commands=(
     [windows-test]="Xvfb openbox xprop xdotool import unzip xmllint"
 )
 
+# Prints the given packages, and of several names for one the first that apt knows, or the last.
+chosen() {
+    local choice name
+    for choice in "$@"; do
+        for name in ${choice//|/ }; do
+            [[ $name != "$choice" ]] || break
+            ! apt-cache show "$name" >/dev/null 2>&1 || break
+        done
+        echo "$name"
+    done
+}
+
 # The names that the installed packages offer, one per line: their own and those that they provide. A
 # package that has a new name in a later release provides the old one.
 offered() {
@@ -58,9 +78,9 @@ offered() {
         sed --quiet 's/^installed //; T; s/([^)]*)//g; s/[ ,]\+/\n/g; p'
 }
 
-# Prints which of the given packages are missing under any name.
-missing_of() {
-    printf '%s\n' "$@" | grep --invert-match --line-regexp --fixed-strings --file=<(offered) || true
+# Prints which of the wanted packages are missing under any name.
+missing() {
+    chosen "${wanted[@]}" | grep --invert-match --line-regexp --fixed-strings --file=<(offered) || true
 }
 
 apt_get() {
@@ -69,10 +89,15 @@ apt_get() {
 }
 
 # A fresh machine has no package lists, and an old one has outdated lists. In both cases the first
-# attempt fails, and only then are the lists fetched.
+# attempt fails, and only then are the lists fetched, which may know other names.
 apt_install() {
-    local install=(install --yes --no-install-recommends "$@")
-    apt_get "${install[@]}" >/dev/null 2>&1 || { apt_get update && apt_get "${install[@]}" >/dev/null; }
+    local install=(install --yes --no-install-recommends) names
+    mapfile -t names < <(missing)
+    echo "Installing: ${names[*]}"
+    apt_get "${install[@]}" "${names[@]}" >/dev/null 2>&1 && return
+    apt_get update
+    mapfile -t names < <(missing)
+    apt_get "${install[@]}" "${names[@]}" >/dev/null
 }
 
 require_commands() {
@@ -102,14 +127,12 @@ if ! command -v apt-get >/dev/null; then
     exit
 fi
 
-mapfile -t missing < <(missing_of "${wanted[@]}")
-[[ ${#missing[@]} -gt 0 ]] || exit 0
+[[ -n $(missing) ]] || exit 0
 
 if [[ $EUID -ne 0 ]] && ! command -v sudo >/dev/null; then
-    echo "Cannot install without root or sudo: ${missing[*]}"
+    echo "Cannot install without root or sudo: $(missing | paste --serial --delimiters=' ')"
     require_commands "${wanted_commands[@]}"
     exit
 fi
 
-echo "Installing: ${missing[*]}"
-apt_install "${missing[@]}"
+apt_install

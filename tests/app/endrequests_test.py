@@ -205,6 +205,10 @@ def unreadable_file(_display, program, name, prepare, reason, as_nobody=False):
         os.chmod(folder, 0o755)
         if prefix:  # the user nobody may have no access to the program's folder
             program = shutil.copy(program, folder)
+            counters = pathlib.Path(folder) / "counters"  # of a build that counts lines
+            counters.mkdir()
+            counters.chmod(0o777)
+            prefix = ["env", f"GCOV_PREFIX={counters}", *prefix]
         file = pathlib.Path(folder) / name
         prepare(file)
         session = Session(program, str(file), settings="[DbConverterProfile]\np1=5W\n", prefix=prefix)

@@ -226,6 +226,7 @@ void SettingsTextTest::keepsNamedGroupsOnly_data()
     row("blanks about the name", "[ A\t]\na=1\n", "[ A\t]\na=1\n");
     row("words after the name", "[A] =C\na=1\n", "[A] =C\na=1\n");
     row("a bracket that is not closed", "[A\na=1\n", "\n\n");
+    row("a bracket that is closed in the next line", "[A\n]a=1\n", "\n\n");
     row("a name that only begins so", "[AB]\na=1\n", "\n\n");
     row("a harmful line", "[A]\na=@Variant(\nb=2", "[A]\n\nb=2");
 }

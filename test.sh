@@ -12,7 +12,7 @@ usage="usage: ./test.sh [--quick] [--qt6] [--windows]
 Builds with warnings as errors and sanitizers, and runs every test.
 
   --quick    leaves out the tests that take long
-  --qt6      builds with Qt 6, without sanitizers, and leaves out the tests of packages
+  --qt6      builds with Qt 6, without sanitizers
   --windows  builds the tests for Windows, without sanitizers, and runs them by Wine
   --help     says this"
 
@@ -22,7 +22,7 @@ windows=
 for argument in "$@"; do
     case $argument in
         --quick) choice=(--label-exclude '^slow$') ;;
-        --qt6) qt6=yes ;;
+        --qt6) qt6=-qt6 ;;
         --windows) windows=yes ;;
         --help) echo "$usage"; exit ;;
         *) echo "$usage" >&2; exit 2 ;;
@@ -42,17 +42,18 @@ if [[ -n $windows ]]; then
     exec ctest --preset windows --parallel 2 "${choice[@]}"
 fi
 
-# The packages hold what the default Qt has built, however the tests are built.
-if [[ -n $qt6 ]]; then
-    tools/packages.sh build run test build-qt6 run-qt6 test-qt6
-    build dev-qt6
-    exec ctest --preset dev-qt6 --parallel $(($(nproc) + 1)) --exclude-regex '^packaging_' "${choice[@]}"
-fi
-
 # Without dpkg, CTest leaves out the tests of the Debian package.
-groups=(build run test)
+groups=("build$qt6" "run$qt6" "test$qt6")
 ! command -v dpkg-deb >/dev/null || groups+=(package package-test)
 tools/packages.sh "${groups[@]}"
+
+# Many tests wait longer than they calculate, for animations or for another program's window, so that
+# one more than there are processors keeps these busy.
+jobs=$(($(nproc) + 1))
+if [[ -n $qt6 ]]; then
+    build dev-qt6
+    exec ctest --preset dev-qt6 --parallel "$jobs" "${choice[@]}"
+fi
 
 # The sanitizers' shadow memory is at fixed addresses. Kernels that spread mappings over more than 28
 # bits sometimes put the program there, so it is loaded at fixed addresses where that is allowed.
@@ -71,7 +72,5 @@ threads=tst_mainprofile_threads
 build tsan "$threads"
 "${loaded[@]}" ctest --preset tsan --tests-regex "^$threads\$"
 
-# Many tests wait longer than they calculate, for animations or for another program's window, so that
-# one more than there are processors keeps these busy.
 build asan
-"${loaded[@]}" ctest --preset asan --parallel $(($(nproc) + 1)) "${choice[@]}"
+"${loaded[@]}" ctest --preset asan --parallel "$jobs" "${choice[@]}"

@@ -7,18 +7,20 @@
 # neither root nor sudo), it names them and succeeds if the commands that they bring are there.
 set -euo pipefail
 
+build_tools="g++ cmake ninja-build python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core
+    librsvg2-bin"
+test_tools="xvfb xauth x11-utils xdotool openbox dbus at-spi2-core python3-pyatspi"
+
 # Debian's packages, and the commands that show that a system without apt has the same. new|old is a
-# package that newer releases have, and the one in which older releases have its files. The groups
-# with qt6 hold what Qt 6 needs in addition.
+# package that newer releases have, and the one in which older releases have its files. A build with
+# Qt 6 needs nothing of Qt 5.
 declare -A packages=(
-    [build]="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev
-        python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core librsvg2-bin"
+    [build]="$build_tools qtbase5-dev libqt5svg5-dev"
+    [build-qt6]="$build_tools qt6-base-dev qt6-base-dev-tools qt6-svg-dev"
     [run]="libqt5svg5 qtwayland5"
-    [test]="libqt5test5 qtbase5-private-dev xvfb xauth x11-utils xdotool openbox dbus
-        at-spi2-core python3-pyatspi"
-    [build-qt6]="qt6-base-dev qt6-base-dev-tools qt6-svg-dev"
     [run-qt6]="qt6-svg-plugins|libqt6svg6 qt6-wayland"
-    [test-qt6]="qt6-base-private-dev"
+    [test]="$test_tools libqt5test5 qtbase5-private-dev"
+    [test-qt6]="$test_tools qt6-base-private-dev"
     [package]="dpkg-dev file"
     [package-test]="lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db"
     [install-test]="debootstrap"
@@ -38,11 +40,11 @@ declare -A packages=(
 )
 declare -A commands=(
     [build]="c++ cmake ninja python3 rsvg-convert"
+    [build-qt6]="c++ cmake ninja python3 rsvg-convert"
     [run]=""
-    [test]="ctest"
-    [build-qt6]=""
     [run-qt6]=""
-    [test-qt6]=""
+    [test]="ctest"
+    [test-qt6]="ctest"
     [package]="dpkg-deb dpkg-shlibdeps file"
     [package-test]="lintian desktop-file-validate appstreamcli xmllint update-mime-database man"
     [install-test]="debootstrap"

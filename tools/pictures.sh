@@ -11,6 +11,6 @@ tools/packages.sh build pictures
 cmake --preset release >/dev/null # warnings and errors still show
 cmake --build --preset release --target dezimo-tour
 rm -f docs/pictures/*.png
-tools/play_tour.sh docs/pictures
+tools/play_tour.sh build/release docs/pictures
 # The window has few colors, so a picture with a palette is a third as large.
 pngquant --force --strip --speed=1 --nofs --ext=.png docs/pictures/*.png

@@ -2,18 +2,17 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# tools/play_tour.sh FOLDER: plays the guided tour of the release build, without a display, and
-# leaves its pictures in the folder.
+# tools/play_tour.sh BUILD FOLDER: plays the guided tour of a build, without a display, and leaves its
+# pictures in the folder.
 set -euo pipefail
 
-[[ $# -eq 1 ]] || { echo "usage: tools/play_tour.sh FOLDER" >&2; exit 2; }
-tour=$(dirname "$0")/../build/release/bin/dezimo-tour
+[[ $# -eq 2 ]] || { echo "usage: tools/play_tour.sh BUILD FOLDER" >&2; exit 2; }
 
 # The tour gets a home of its own, so that it neither shows nor changes the user's settings.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 mkdir -m 0700 "$home/runtime"
-mkdir -p "$1"
+mkdir -p "$2"
 env --unset=XDG_CONFIG_DIRS HOME="$home" XDG_CONFIG_HOME="$home/config" \
     XDG_CACHE_HOME="$home/cache" XDG_DATA_HOME="$home/data" XDG_RUNTIME_DIR="$home/runtime" \
-    QT_QPA_PLATFORM=offscreen "$tour" "$1"
+    QT_QPA_PLATFORM=offscreen "$1/bin/dezimo-tour" "$2"

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# ./package.sh [windows]: installs what is missing, builds the Debian package, or the zip and the
-# installer for Windows, and prints where they are. The same sources give the same bytes, because every
-# file in a package has the time of the release.
+# ./package.sh [--qt6 | windows]: installs what is missing, builds the Debian package (with Qt 5, or
+# with Qt 6), or the zip and the installer for Windows, and prints where they are. The same sources give
+# the same bytes, because every file in a package has the time of the release.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -12,15 +12,16 @@ released=$(sed --quiet 's/^## .*, \([0-9-]*\)$/\1/p' CHANGELOG.md | head --lines
 export SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(date --utc --date="$released" +%s)}"
 umask 022
 
+# debian PRESET
 debian() {
-    tools/packages.sh build package
+    local folder=build/$1
     export LC_ALL=C.UTF-8 # without it CPack cannot read paths beyond ASCII
-    rm -f build/package/*.deb
-    cmake --preset package >/dev/null # warnings and errors still show
-    cmake --build --preset package
-    local log=build/package/cpack.log
-    cpack --preset package >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
-    echo "The package: $(echo build/package/*.deb)"
+    rm -f "$folder"/*.deb
+    cmake --preset "$1" >/dev/null # warnings and errors still show
+    cmake --build --preset "$1"
+    local log=$folder/cpack.log
+    cpack --preset "$1" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    echo "The package: $(echo "$folder"/*.deb)"
 }
 
 windows() {
@@ -36,7 +37,8 @@ windows() {
 }
 
 case "$*" in
-    "") debian ;;
+    "") tools/packages.sh build package; debian package ;;
+    --qt6) tools/packages.sh build-qt6 package; debian package-qt6 ;;
     windows) windows ;;
-    *) echo "usage: ./package.sh [windows]" >&2; exit 2 ;;
+    *) echo "usage: ./package.sh [--qt6 | windows]" >&2; exit 2 ;;
 esac

@@ -14,6 +14,15 @@ if(NOT DEFINED oldest_qt${DEZIMO_QT})
 endif()
 set(DEZIMO_OLDEST_QT ${oldest_qt${DEZIMO_QT}})
 
+# Debian's packages with the plugin for SVG icons, which later releases of Qt 6 have in a package of its
+# own, and with the platform plugin for Wayland.
+set(svg_plugin_qt5 "libqt5svg5 (>= 5.15)")
+set(svg_plugin_qt6 "libqt6svg6 (<< 6.6) | qt6-svg-plugins")
+set(wayland_plugin_qt5 "qtwayland5")
+set(wayland_plugin_qt6 "qt6-wayland")
+set(DEZIMO_QT_SVG_PACKAGE "${svg_plugin_qt${DEZIMO_QT}}")
+set(DEZIMO_QT_WAYLAND_PACKAGE "${wayland_plugin_qt${DEZIMO_QT}}")
+
 find_package(Qt${DEZIMO_QT} ${DEZIMO_OLDEST_QT} REQUIRED COMPONENTS Core Gui Widgets Svg Test)
 
 # Qt 6 defines where each test's folders are. No test asks for them, and tests with definitions of

@@ -5,7 +5,7 @@
 # install_test.sh: installs the Debian package into a fresh root of the same Debian release, starts
 # Dezimo from there by the Exec line of its menu entry, without and with a file, closes it, removes
 # the package and looks for what was left behind. Where it cannot make a fresh root, it says why and
-# ends with status 77.
+# ends with status 77. With DEZIMO_QT=6 it does that with the package that is built with Qt 6.
 #
 # The root with the package's dependencies is kept under build/install-test, so that only the first
 # run fetches anything.
@@ -14,10 +14,13 @@ cd "$(dirname "$0")/../.."
 
 # shellcheck source=tests/packaging/menu_entry.sh
 . tests/packaging/menu_entry.sh
+# shellcheck source=tests/packaging/made_package.sh
+. tests/packaging/made_package.sh
 # shellcheck source=tools/fresh_root.sh
 . tools/fresh_root.sh
 
 cache=build/install-test
+[[ $qt == 5 ]] || cache+=-qt$qt
 person=1000 # the user that starts the program
 file="Zwei Geräte, 10 µW.dezimo"
 
@@ -96,8 +99,8 @@ command -v apt-get >/dev/null || skip "this is not Debian"
 [[ $EUID -eq 0 ]] || skip "debootstrap needs root"
 chroot / true 2>/dev/null || skip "chroot is not permitted here"
 tools/packages.sh test package install-test
-./package.sh | tail --lines=1
-package=$(compgen -G 'build/package/*.deb')
+./package.sh "${package_options[@]}" | tail --lines=1
+package=$(compgen -G "$build_folder/*.deb")
 depends=$(dpkg-deb --field "$package" Depends)
 # shellcheck source=/dev/null
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")

@@ -3,12 +3,14 @@
 # SPDX-License-Identifier: MIT
 #
 # package_test.sh CHECK: one check of the Debian package, which the check "build" makes. CTest runs
-# each from the source folder, with DEZIMO_VERSION and DEZIMO_ID as the project has them; .ci/run
-# runs "reproducible".
+# each from the source folder, with DEZIMO_VERSION and DEZIMO_ID as the project has them, and DEZIMO_QT
+# as the tests are built; .ci/run runs "reproducible".
 set -euo pipefail
 
 shopt -s nullglob
-packages=(build/package/*.deb)
+# shellcheck source=tests/packaging/made_package.sh
+. tests/packaging/made_package.sh
+packages=("$build_folder"/*.deb)
 package=${packages[0]:-}
 scratch=$(mktemp --directory)
 server=
@@ -27,8 +29,8 @@ unpack() { dpkg-deb --extract "$package" "$scratch/root"; }
 
 build() {
     local said
-    said=$(./package.sh | tail --lines=1)
-    packages=(build/package/*.deb)
+    said=$(./package.sh "${package_options[@]}" | tail --lines=1)
+    packages=("$build_folder"/*.deb)
     expect "packages made" 1 "${#packages[@]}"
     expect "last line" "The package: ${packages[0]}" "$said"
 }
@@ -48,11 +50,13 @@ version() {
 }
 
 # A library's package may have another name in another Debian release, so the check finds it by its
-# file.
+# file. It wants one generation of Qt only.
 dependencies() {
-    local depends
+    local depends other=6
+    [[ $qt == 5 ]] || other=5
     depends=$(field Depends)
-    for library in libc.so.6 libstdc++.so.6 libQt5{Core,Gui,Widgets,Svg}.so.5; do
+    ! grep --ignore-case "qt$other" <<<"$depends $(field Recommends)" || fail "a need of Qt $other"
+    for library in libc.so.6 libstdc++.so.6 "libQt$qt"{Core,Gui,Widgets,Svg}".so.$qt"; do
         grep --quiet --fixed-strings --file=<(
             dpkg-query --search "*/$library" | sed 's/:.*/ (>= /'
         ) <<<"$depends" || fail "no dependency on a package with $library in: $depends"
@@ -81,7 +85,7 @@ contents() {
 # The install step puts the same files under any prefix, without a package.
 prefix() {
     unpack
-    cmake --install build/package --component application --prefix "$scratch/prefix" >/dev/null
+    cmake --install "$build_folder" --component application --prefix "$scratch/prefix" >/dev/null
     diff <(cd "$scratch/root/usr" && find . -type f | sort) \
         <(cd "$scratch/prefix" && find . -type f | sort)
 }
@@ -182,16 +186,20 @@ lintian() {
 code_block() { sed --quiet "/^\`\`\`$1\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$2"; }
 
 # Builds the documented example, exactly as it is on the page, with the installed models. It asks
-# for an older C++ than the models need, to test that the models ask for the right one.
+# for an older C++ than the models need, to test that the models ask for the right one, and is told
+# which Qt they were built with.
 use_of_the_models() {
     local page=docs/use-the-models.md
-    cmake --install build/package --component devel --prefix "$scratch/installed" >/dev/null
+    cmake --install "$build_folder" --component devel --prefix "$scratch/installed" >/dev/null
     mkdir "$scratch/example"
     code_block cmake "$page" >"$scratch/example/CMakeLists.txt"
     code_block cpp "$page" >"$scratch/example/main.cpp"
+    # shellcheck disable=SC2016
+    echo 'message(STATUS "Dezimo_QT=${Dezimo_QT}")' >>"$scratch/example/CMakeLists.txt"
     cmake -G Ninja -S "$scratch/example" -B "$scratch/build" \
         -D CMAKE_PREFIX_PATH="$scratch/installed" -D CMAKE_CXX_STANDARD=14 \
-        -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >/dev/null
+        -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >"$scratch/configured"
+    expect "generation of Qt" "-- Dezimo_QT=$qt" "$(grep Dezimo_QT "$scratch/configured")"
     cmake --build "$scratch/build"
     "$scratch/build/antenna" >"$scratch/found"
     code_block text "$page" | diff - "$scratch/found"
@@ -206,7 +214,8 @@ reproducible() {
     (
         umask 027
         cd "$sources"
-        env TZ=Pacific/Kiritimati LC_ALL=C CCACHE_DISABLE=1 ./package.sh >/dev/null
+        env TZ=Pacific/Kiritimati LC_ALL=C CCACHE_DISABLE=1 \
+            ./package.sh "${package_options[@]}" >/dev/null
     )
     cmp "$package" "$sources/$package"
 }

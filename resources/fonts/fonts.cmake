@@ -61,7 +61,7 @@ endforeach()
 add_custom_command(
   OUTPUT ${font_files}
   COMMAND ${DEZIMO_FONT_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/fonts/make_fonts.py
-          ${font_folder} ${outlines} ${fillers}
+          ${font_folder} ${DEZIMO_QT} ${outlines} ${fillers}
   DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/fonts/make_fonts.py ${outlines} ${fillers}
   COMMENT "Making the fonts Tessan and TessanCd"
   VERBATIM

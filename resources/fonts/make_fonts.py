@@ -7,9 +7,9 @@ The outlines come from Roboto and Roboto Condensed; characters that these lack a
 DejaVu Sans. Each font is cut down to the characters that a calculator for levels, powers and
 voltages shows, and renamed, as the licences of the sources ask. Equal sources give equal bytes.
 
-usage: make_fonts.py OUTPUT_FOLDER FONT...
+usage: make_fonts.py OUTPUT_FOLDER QT FONT...
 
-The FONTs are the source files named in STYLES, in any order. The output folder receives the
+QT is the generation of Qt that will draw with the fonts, 5 or 6. The FONTs are the source files named in STYLES, in any order. The output folder receives the
 eight fonts.
 """
 
@@ -183,7 +183,18 @@ def set_style(font: TTFont, style: Style) -> None:
     font["head"].macStyle = style.mac_style
 
 
-def make_font(style: Style, sources: dict, folder: Path) -> None:
+def keep_line_height(font: TTFont) -> None:
+    """Makes lines in Qt 6 as high as in Qt 5 on Linux.
+
+    Qt 5 takes the height of a line from the table hhea and rounds it up, Qt 6 takes it from OS/2 and
+    rounds it to the nearest. So the values there are those of hhea and the little that rounds up at
+    the sizes in the style sheets.
+    """
+    font["OS/2"].usWinAscent = 1909
+    font["OS/2"].usWinDescent = 512
+
+
+def make_font(style: Style, sources: dict, folder: Path, qt: str) -> None:
     font = TTFont(sources[style.source], recalcTimestamp=False)
     filler = TTFont(sources[style.filler], recalcTimestamp=False)
     characters = wanted_characters()
@@ -192,21 +203,23 @@ def make_font(style: Style, sources: dict, folder: Path) -> None:
     widen_figure_space(font)
     rename(font, filler, style)
     set_style(font, style)
+    if qt == "6":
+        keep_line_height(font)
     font["OS/2"].recalcUnicodeRanges(font)
     font.save(folder / style.file_name)
 
 
 def main(arguments: list) -> None:
-    if len(arguments) < 2:
+    if len(arguments) < 3:
         sys.exit(__doc__)
     folder = Path(arguments[0])
-    sources = {Path(path).name: path for path in arguments[1:]}
+    sources = {Path(path).name: path for path in arguments[2:]}
     missing = {name for style in STYLES for name in (style.source, style.filler)} - set(sources)
     if missing:
         sys.exit(f"make_fonts.py: not given: {', '.join(sorted(missing))}")
     folder.mkdir(parents=True, exist_ok=True)
     for style in STYLES:
-        make_font(style, sources, folder)
+        make_font(style, sources, folder, arguments[1])
 
 
 if __name__ == "__main__":

@@ -9,8 +9,8 @@ voltages shows, and renamed, as the licences of the sources ask. Equal sources g
 
 usage: make_fonts.py OUTPUT_FOLDER QT FONT...
 
-QT is the generation of Qt that will draw with the fonts, 5 or 6. The FONTs are the source files named in STYLES, in any order. The output folder receives the
-eight fonts.
+QT is the generation of Qt that will draw with the fonts, 5 or 6. The FONTs are the source files named
+in STYLES, in any order. The output folder receives the eight fonts.
 """
 
 import sys
@@ -190,8 +190,8 @@ def keep_line_height(font: TTFont) -> None:
     rounds it to the nearest. So the values there are those of hhea and the little that rounds up at
     the sizes in the style sheets.
     """
-    font["OS/2"].usWinAscent = 1909
-    font["OS/2"].usWinDescent = 512
+    font["OS/2"].usWinAscent = font["hhea"].ascent + 9
+    font["OS/2"].usWinDescent = -font["hhea"].descent + 12
 
 
 def make_font(style: Style, sources: dict, folder: Path, qt: str) -> None:

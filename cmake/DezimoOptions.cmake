@@ -50,6 +50,12 @@ target_compile_options(dezimo_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>
   $<$<BOOL:${DEZIMO_WERROR}>:-Werror>)
 
+# A precompiled header serves libraries and programs only if both are compiled for any address. Qt 5
+# asks for that by itself, Qt 6 from 6.5 on does not.
+if(NOT WIN32 AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
+  target_compile_options(dezimo_options INTERFACE -fPIC)
+endif()
+
 if(DEZIMO_SANITIZERS)
   target_compile_options(dezimo_options INTERFACE
     -fsanitize=${DEZIMO_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -56,9 +56,21 @@ Evaluation OperatorChain::result(StepRule &rule) const
     return {number + left->unit->symbol, left};
 }
 
-std::optional<Operand> OperatorChain::operand(std::size_t index) const
+QString OperatorChain::operandText(std::size_t index) const
 {
     const int begin = index == 0 ? 0 : m_operators[index - 1] + 1;
     const int end = index < m_operators.size() ? m_operators[index] : int(m_text.size());
-    return parseOperand(m_text.mid(begin, end - begin), m_units);
+    return m_text.mid(begin, end - begin);
+}
+
+QString OperatorChain::textBefore(std::size_t index) const
+{
+    if (index == 0)
+        return {};
+    return index > m_operators.size() ? m_text : m_text.left(m_operators[index - 1]);
+}
+
+std::optional<Operand> OperatorChain::operand(std::size_t index) const
+{
+    return parseOperand(operandText(index), m_units);
 }

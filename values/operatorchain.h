@@ -54,6 +54,12 @@ public:
     /// What the last step gives. The chain must not be empty.
     Evaluation result(StepRule &rule) const;
 
+    std::size_t operandCount() const { return m_operators.size() + 1; }
+    QString operandText(std::size_t index) const;
+    /// The operands before that with the given index, and the operators between them. All of the
+    /// text if there is no such operand.
+    QString textBefore(std::size_t index) const;
+
 private:
     std::optional<Operand> operand(std::size_t index) const;
 

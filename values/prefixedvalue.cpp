@@ -3,6 +3,9 @@
 
 #include "prefixedvalue.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace Dezimo {
 
 namespace {
@@ -19,6 +22,13 @@ constexpr Prefix kPrefixes[] = {
 };
 
 } // namespace
+
+bool isPrefix(QChar character)
+{
+    return std::any_of(std::begin(kPrefixes), std::end(kPrefixes), [character](const Prefix &each) {
+        return character == QLatin1Char(each.letter);
+    });
+}
 
 double parsePrefixedValue(QString &text, bool *ok)
 {

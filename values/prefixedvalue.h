@@ -10,6 +10,9 @@
 
 namespace Dezimo {
 
+/// Whether @p character is one of the prefix letters: f p n u m k M G T P.
+bool isPrefix(QChar character);
+
 /**
  * Reads a number with at most one SI prefix letter (f p n u m k M G T P; micro is the letter u).
  * The letter may stand anywhere and is removed wherever it stands, so that 4k7 is 47000 and not

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void reduces();
     void roundsEachStep();
     void isEmptyWithoutAnOperator();
+    void tellsItsOperands();
 };
 
 namespace {
@@ -107,6 +108,25 @@ void OperatorChainTest::isEmptyWithoutAnOperator()
     QVERIFY(OperatorChain(QString(), lengths(), 12).isEmpty());
     QVERIFY(OperatorChain(QStringLiteral("-1y"), lengths(), 12).isEmpty());
     QVERIFY(!OperatorChain(QStringLiteral("1y+2y"), lengths(), 12).isEmpty());
+}
+
+void OperatorChainTest::tellsItsOperands()
+{
+    const OperatorChain chain(QStringLiteral("-1y+x--3"), lengths(), 12);
+    QStringList texts;
+    QStringList before;
+    for (std::size_t i = 0; i < chain.operandCount(); ++i) {
+        texts += chain.operandText(i);
+        before += chain.textBefore(i);
+    }
+    QCOMPARE(texts,
+             QStringList({QStringLiteral("-1y"), QStringLiteral("x"), QStringLiteral("-3")}));
+    QCOMPARE(before, QStringList({QString(), QStringLiteral("-1y"), QStringLiteral("-1y+x")}));
+    QCOMPARE(chain.textBefore(3), QStringLiteral("-1y+x--3"));
+
+    const OperatorChain lone(QStringLiteral("1y"), lengths(), 12);
+    QCOMPARE(lone.operandCount(), std::size_t(1));
+    QCOMPARE(lone.operandText(0), QStringLiteral("1y"));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, OperatorChainTest)

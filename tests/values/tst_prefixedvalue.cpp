@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theFlagIsOptional();
     void readsWithoutConsuming();
     void readsALongTextAtOnce();
+    void knowsItsPrefixes();
 };
 
 void PrefixedValueTest::reads_data()
@@ -120,6 +121,16 @@ void PrefixedValueTest::readsALongTextAtOnce()
     bool ok = false;
     QCOMPARE(parsePrefixedValue(text, &ok), 1000.0);
     QVERIFY(ok);
+}
+
+void PrefixedValueTest::knowsItsPrefixes()
+{
+    QString prefixes;
+    for (ushort code = 0; code < 0x100; ++code) {
+        if (isPrefix(QChar(code)))
+            prefixes += QChar(code);
+    }
+    QCOMPARE(prefixes, QStringLiteral("GMPTfkmnpu"));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, PrefixedValueTest)

@@ -4,6 +4,7 @@
 #ifndef PROFILES_CALCULATORTABLE_H
 #define PROFILES_CALCULATORTABLE_H
 
+#include "expressionreason.h"
 #include "operand.h"
 #include "storedkeys.h"
 
@@ -27,6 +28,10 @@ struct CalculatorTable
     ExpressionUnits units;
     /// Significant digits that a step of an evaluation keeps.
     int stepDigits;
+    /// An expression that has a result in every mode.
+    QString example;
+    /// Why a mode does not allow a step.
+    QString (*refusal)(const RefusedStep &);
 };
 
 } // namespace Dezimo

@@ -22,6 +22,17 @@ enum Mode { IncoherentPowers, CoherentPowers, NumericCalculation };
 /// fractions leave a rest.
 constexpr int kStepDigits = 12;
 
+/// Only the incoherent mode refuses a step.
+QString refusal(const RefusedStep &step)
+{
+    const QString reason = step.isAfterDifference
+                               ? QStringLiteral("A combiner takes no + after a difference")
+                               : QStringLiteral("A combiner takes no + after a ratio in dB");
+    if (step.regrouped.isEmpty())
+        return reason + QLatin1String("; put what is before it in brackets");
+    return reason + QLatin1String("; write ") + step.regrouped;
+}
+
 const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
@@ -44,6 +55,8 @@ const CalculatorTable &calculatorTable()
          {W, &Units::kWatt},
          {None, &Units::kNone, true}},
         kStepDigits,
+        QStringLiteral("10dBm+3dB"),
+        refusal,
     };
     return table;
 }

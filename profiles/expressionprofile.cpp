@@ -6,6 +6,7 @@
 #include "bracketgroups.h"
 #include "calculatortable.h"
 #include "errortexts.h"
+#include "expressionreason.h"
 #include "expressiontext.h"
 #include "operatorchain.h"
 
@@ -47,6 +48,12 @@ int ExpressionProfile::plainUnit() const
 QString ExpressionProfile::unitText(int unit) const
 {
     return unitAt(unit).symbol;
+}
+
+QString ExpressionProfile::reason() const
+{
+    return expressionReason(m_input.get(), {m_table.units, m_table.stepDigits, m_table.example,
+                                            [this] { return newStepRule(); }, m_table.refusal});
 }
 
 QString ExpressionProfile::evaluate(const QString &text)

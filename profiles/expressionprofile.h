@@ -52,6 +52,12 @@ public:
     /// The text of a unit; empty for the plain number and for an index that is no unit's.
     QString unitText(int unit) const;
 
+    /// Why calculate() gives an error text for the present input and mode: one sentence of plain
+    /// text in US English that names what is wrong. Empty if it gives a result; INF and NAN are
+    /// results. It depends on nothing that has been calculated. The time is linear in the length
+    /// of the input.
+    QString reason() const;
+
     /// No setter calculates by itself.
     void setInput(const QString &text) { m_input.set(text); }
     void setOutput(const QString &text) { m_output.set(text); }

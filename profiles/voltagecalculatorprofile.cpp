@@ -16,6 +16,12 @@ namespace {
 /// Two fewer than the dBm calculator keeps, on purpose; results of ten digits show all of them.
 constexpr int kStepDigits = 10;
 
+/// Only the uncorrelated mode refuses a step.
+QString refusal(const RefusedStep &)
+{
+    return QStringLiteral("Uncorrelated voltages have no difference; choose another mode for -");
+}
+
 const CalculatorTable &calculatorTable()
 {
     static const CalculatorTable table{
@@ -29,6 +35,8 @@ const CalculatorTable &calculatorTable()
         {{"MvValid", Mv}, {"VValid", V}, {"NoneValid", None}},
         {{Mv, &Units::kMillivolt}, {V, &Units::kVolt}, {None, &Units::kNone, true}},
         kStepDigits,
+        QStringLiteral("1V+20mV"),
+        refusal,
     };
     return table;
 }

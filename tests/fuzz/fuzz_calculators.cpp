@@ -6,6 +6,7 @@
 
 #include "dbmcalculatorprofile.h"
 #include "editscript.h"
+#include "errortexts.h"
 #include "expressiontext.h"
 #include "mainprofile.h"
 #include "propertyvalues.h"
@@ -32,6 +33,12 @@ QString spaced(const QString &input)
     return text;
 }
 
+/// NAN is a result here: infinity minus infinity.
+bool isErrorText(const QString &output)
+{
+    return output != ErrorText::kNotANumber && ErrorText::all().contains(output);
+}
+
 bool isChain(const QString &cleaned)
 {
     return !cleaned.contains(QLatin1Char('(')) && !cleaned.contains(QLatin1Char(')')) &&
@@ -43,6 +50,8 @@ void requireSteadyResults(ExpressionProfile &profile)
     const QString input = profile.input();
     const QStringList results = propertyLines(profile, {{"input", ""}});
     require(isResult(profile.output()), "the output is a result", profile.output());
+    require(profile.reason().isEmpty() != isErrorText(profile.output()),
+            "an error text has a reason, and a result has none", input);
     require(resultsWith(profile, input) == results, "calculated twice it is the same", input);
     require(resultsWith(profile, spaced(input)) == results, "blanks do not count", input);
     const QString cleaned = ExpressionText::cleaned(input);

@@ -160,7 +160,7 @@ QString listOf(const ExpressionUnits &units)
 bool hasTwoPrefixes(const QString &unit, const ExpressionUnits &units)
 {
     return std::any_of(units.begin(), units.end(), [&unit](const ExpressionUnit &each) {
-        const int prefixes = unit.size() - each.text.size();
+        const int prefixes = int(unit.size() - each.text.size());
         return prefixes > 1 && unit.endsWith(each.text) &&
                std::all_of(unit.begin(), unit.begin() + prefixes, isPrefix);
     });
@@ -169,7 +169,7 @@ bool hasTwoPrefixes(const QString &unit, const ExpressionUnits &units)
 /// Whether @p number is written rightly: only its exponent can be too much then.
 bool hasExponent(const QString &number)
 {
-    const int letter = number.indexOf(QLatin1Char('e'), 0, Qt::CaseInsensitive);
+    const int letter = int(number.indexOf(QLatin1Char('e'), 0, Qt::CaseInsensitive));
     int first = letter + 1;
     if (first < number.size() && ExpressionText::isOperator(number.at(first)))
         ++first;

@@ -113,7 +113,7 @@ QString expressionFrom(const QString &reason)
         {"such as ", "%1"},
     };
     for (const Suggestion &each : kSuggestions) {
-        const int begin = reason.indexOf(QLatin1String(each.before));
+        const int begin = int(reason.indexOf(QLatin1String(each.before)));
         const int length = int(qstrlen(each.before));
         if (begin >= 0)
             return QString::fromLatin1(each.form).arg(reason.mid(begin + length));
@@ -162,11 +162,11 @@ QString mistyped(Random &random, QString text)
     static const QString characters =
         QStringLiteral("()[+-+-.,eE0 mkMuWVdBbw\u00B5\u2013*") + QChar(0x2028);
     for (int rest = 1 + below(random, 3); rest > 0 && !text.isEmpty(); --rest) {
-        const int place = below(random, text.size());
+        const int place = below(random, int(text.size()));
         if (below(random, 2) == 0)
             text.remove(place, 1 + below(random, 2));
         else
-            text.insert(place, characters.at(below(random, characters.size())));
+            text.insert(place, characters.at(below(random, int(characters.size()))));
     }
     return text;
 }

@@ -13,6 +13,7 @@
 #include <QFontMetrics>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QTextDocument>
 
 using namespace Dezimo;
 
@@ -28,6 +29,12 @@ bool isFunctionKey(const QPushButton *key)
         QStringLiteral("pushButton_C"), QStringLiteral("pushButton_back"),
         QStringLiteral("pushButton_calc"), QStringLiteral("pushButton_plusMinus")};
     return names.contains(key->objectName());
+}
+
+/// A tool tip that shows what looks like markup as it stands. The reason may quote anything.
+QString asPlainText(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 } // namespace
@@ -127,6 +134,7 @@ void KeypadCalculatorWidget::onOutputFontSizeChanged(int fontsize)
 void KeypadCalculatorWidget::onInputChanged()
 {
     showText(m_input, m_profile.input());
+    describeOutput();
 }
 
 /// The row shows the result that was taken over until it has slid up, not what the model makes of
@@ -151,6 +159,7 @@ void KeypadCalculatorWidget::onOutputUnitChanged()
 void KeypadCalculatorWidget::onModeChanged()
 {
     m_mode->setCurrentIndex(m_profile.mode());
+    describeOutput();
 }
 
 void KeypadCalculatorWidget::onValidUnitsChanged()
@@ -224,13 +233,21 @@ QString KeypadCalculatorWidget::resultWithUnit() const
     return m_profile.output() + QLatin1Char(' ') + m_profile.unitText(m_profile.outputUnit());
 }
 
-/// The unit describes the result, so that a screen reader tells both together.
 void KeypadCalculatorWidget::showUnitSelector()
 {
-    const bool isShown = hasResult() && hasUnit();
-    m_outputUnit->setVisible(isShown);
-    m_output->setAccessibleDescription(isShown ? m_profile.unitText(m_profile.outputUnit())
-                                               : QString());
+    m_outputUnit->setVisible(hasResult() && hasUnit());
+    describeOutput();
+}
+
+/// A screen reader tells a result together with its unit, and an error word together with the
+/// reason, which the tool tip tells as well. The reason may change while the word stays.
+void KeypadCalculatorWidget::describeOutput()
+{
+    const QString reason = m_output->hasError() ? m_profile.reason() : QString();
+    const QString unit =
+        hasResult() && hasUnit() ? m_profile.unitText(m_profile.outputUnit()) : QString();
+    m_output->setToolTip(asPlainText(reason));
+    m_output->setAccessibleDescription(reason.isEmpty() ? unit : reason);
 }
 
 /// The selector is wide enough for the largest size of a result in this row, so that its arrow

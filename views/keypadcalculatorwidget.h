@@ -82,6 +82,7 @@ private:
     bool hasUnit() const;
     QString resultWithUnit() const;
     void showUnitSelector();
+    void describeOutput();
     void fitUnitSelector();
     void keepListSize();
     void endTakeOver();

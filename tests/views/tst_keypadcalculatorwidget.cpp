@@ -5,6 +5,7 @@
 #include "dbmcalculatorwidget.h"
 #include "kelautoresizelineedit.h"
 #include "settingsfile.h"
+#include "table.h"
 #include "testmain.h"
 #include "voltagecalculatorwidget.h"
 
@@ -34,6 +35,10 @@ private Q_SLOTS:
     void unitHasTheFontSizeOfTheResult();
     void aResultThatIsThereFromTheStartIsFittedAndMarked();
     void errorWordsAreMarked();
+    void anErrorWordSaysWhy_data();
+    void anErrorWordSaysWhy();
+    void theReasonFollowsEveryKey();
+    void aReasonShowsMarkupAsItStands();
     void resultIsReadOnlyAndCanBeCopied();
     void keysGiveTheFocusToTheInput();
     void tabGoesThroughThePage();
@@ -210,6 +215,58 @@ void KeypadCalculatorWidgetTest::errorWordsAreMarked()
     QVERIFY(page.output().property("error").toBool());
     page.type("mW");
     QVERIFY(!page.output().property("error").toBool());
+}
+
+void KeypadCalculatorWidgetTest::anErrorWordSaysWhy_data()
+{
+    columns<QString, QString, QString>({"input", "toolTip", "description"});
+    row("a result has its unit for a description", "10dBm+10dBm", "", "dBm");
+    row("a result without a unit has none", "1+1", "", "");
+    row("a value alone", "10dBm", "One value alone needs brackets: (10dBm)",
+        "One value alone needs brackets: (10dBm)");
+    row("a bracket", "(1mW+1mW", "A closing bracket is missing for '(1mW+1mW'",
+        "A closing bracket is missing for '(1mW+1mW'");
+    row("a unit", "1mW+1", "'1' has no unit, but '1mW' has one",
+        "'1' has no unit, but '1mW' has one");
+}
+
+void KeypadCalculatorWidgetTest::anErrorWordSaysWhy()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, toolTip);
+    QFETCH(QString, description);
+
+    CalculatorPage page = shownPage();
+    page.type(input);
+    QCOMPARE(page.output().toolTip(), toolTip);
+    QCOMPARE(page.output().accessibleDescription(), description);
+}
+
+/// The word is "invalid input" all the time.
+void KeypadCalculatorWidgetTest::theReasonFollowsEveryKey()
+{
+    CalculatorPage page = shownPage();
+    page.type("1mW-1mW+1mW");
+    const QString combiner = page.output().toolTip();
+    QVERIFY(combiner.startsWith(QStringLiteral("A combiner")));
+    page.type("x");
+    QVERIFY(page.output().toolTip() != combiner);
+    page.type(Qt::Key_Backspace);
+    QCOMPARE(page.output().toolTip(), combiner);
+    page.mode().setCurrentIndex(1);
+    QCOMPARE(page.output().toolTip(), QString());
+    page.mode().setCurrentIndex(0);
+    QCOMPARE(page.output().toolTip(), combiner);
+    page.press(QStringLiteral("C"));
+    QCOMPARE(page.output().toolTip(), QString());
+}
+
+void KeypadCalculatorWidgetTest::aReasonShowsMarkupAsItStands()
+{
+    CalculatorPage page = shownPage();
+    page.type("1<br>+1");
+    QVERIFY(page.output().accessibleDescription().contains(QStringLiteral("<br>")));
+    QVERIFY(page.output().toolTip().contains(QStringLiteral("&lt;br&gt;")));
 }
 
 void KeypadCalculatorWidgetTest::resultIsReadOnlyAndCanBeCopied()

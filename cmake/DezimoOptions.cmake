@@ -39,8 +39,8 @@ target_compile_definitions(dezimo_options INTERFACE
   QT_USE_QSTRINGBUILDER
   QT_DEPRECATED_WARNINGS
   QT_DISABLE_DEPRECATED_BEFORE=0x050d00
-  # Later versions deprecate what has no other name in the oldest ones that are supported.
-  QT_WARN_DEPRECATED_UP_TO=0x060400
+  # What Qt 6 deprecates has no other name in Qt 5.
+  QT_WARN_DEPRECATED_UP_TO=0x050f00
   # The header of Windows without macros that hide std::min, and without what nobody here asks for.
   $<$<PLATFORM_ID:Windows>:NOMINMAX>
   $<$<PLATFORM_ID:Windows>:WIN32_LEAN_AND_MEAN>

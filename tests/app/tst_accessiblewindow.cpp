@@ -26,7 +26,7 @@ private Q_SLOTS:
     void everyControlOfAPage();
     void theUnitBelongsToTheValue_data();
     void theUnitBelongsToTheValue();
-    void anErrorHasNoUnit();
+    void anErrorHasAReasonInPlaceOfAUnit();
     void theModules();
     void aModuleSelectedByAScreenReaderOpens();
     void theModeButtonSaysWhatItDoes();
@@ -237,7 +237,7 @@ void AccessibleWindowTest::theUnitBelongsToTheValue()
     QTEST(unit->text(QAccessible::Value), "unit");
 }
 
-void AccessibleWindowTest::anErrorHasNoUnit()
+void AccessibleWindowTest::anErrorHasAReasonInPlaceOfAUnit()
 {
     openPage(0);
     auto *expression = page()->findChild<QLineEdit *>(QStringLiteral("inputLineEdit"));
@@ -250,7 +250,8 @@ void AccessibleWindowTest::anErrorHasNoUnit()
 
     QTest::keyClicks(expression, QStringLiteral("+"));
     QCOMPARE(result->text(QAccessible::Value), QStringLiteral("invalid input"));
-    QCOMPARE(result->text(QAccessible::Description), QString());
+    QCOMPARE(result->text(QAccessible::Description),
+             QStringLiteral("A value is missing after '+'"));
 }
 
 void AccessibleWindowTest::theModules()

@@ -3,20 +3,8 @@
 #
 # Makes the application fonts in the build folder; DEZIMO_FONT_SOURCES holds them as a resource.
 
-# The distribution installs fontTools for the system's own Python, so that one is tried first.
-find_program(DEZIMO_FONT_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
-find_program(DEZIMO_FONT_PYTHON NAMES python3 python DOC "Python that has fontTools")
-if(NOT DEZIMO_FONT_PYTHON)
-  message(FATAL_ERROR "Python is needed to make the fonts. Debian's package: python3")
-endif()
-execute_process(
-  COMMAND ${DEZIMO_FONT_PYTHON} -c "import fontTools.subset"
-  RESULT_VARIABLE DEZIMO_FONTTOOLS_RESULT
-  OUTPUT_QUIET ERROR_QUIET
-)
-if(NOT DEZIMO_FONTTOOLS_RESULT EQUAL 0)
-  message(FATAL_ERROR "${DEZIMO_FONT_PYTHON} has no fontTools. Debian's package: python3-fonttools")
-endif()
+include(DezimoPython)
+dezimo_require_python_module(fontTools.subset python3-fonttools)
 
 # dezimo_find_fonts(<variable> <package> <file>...): sets the variable to the files found.
 function(dezimo_find_fonts out package)
@@ -39,7 +27,7 @@ function(dezimo_find_fonts out package)
 endfunction()
 
 set(DEZIMO_FONT_DIRS "" CACHE STRING "Folders with the source fonts, searched first")
-mark_as_advanced(DEZIMO_FONT_PYTHON DEZIMO_FONT_DIRS)
+mark_as_advanced(DEZIMO_FONT_DIRS)
 
 dezimo_find_fonts(outlines fonts-roboto-unhinted
   Roboto-Bold.ttf Roboto-Italic.ttf Roboto-Light.ttf Roboto-Regular.ttf
@@ -60,7 +48,7 @@ endforeach()
 
 add_custom_command(
   OUTPUT ${font_files}
-  COMMAND ${DEZIMO_FONT_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/fonts/make_fonts.py
+  COMMAND ${DEZIMO_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/fonts/make_fonts.py
           ${font_folder} ${DEZIMO_QT} ${outlines} ${fillers}
   DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/fonts/make_fonts.py ${outlines} ${fillers}
   COMMENT "Making the fonts Tessan and TessanCd"

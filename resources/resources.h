@@ -4,7 +4,7 @@
 #ifndef RESOURCES_RESOURCES_H
 #define RESOURCES_RESOURCES_H
 
-/// Makes fonts, icons, style sheets and the legal page reachable under ":/".
+/// Makes fonts, icons, style sheets, the legal page and the guide reachable under ":/".
 ///
 /// The linker drops the resources of a static library unless something names them, so every
 /// executable calls this once before it opens one. Calling it again changes nothing.

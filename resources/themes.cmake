@@ -44,6 +44,11 @@ endforeach()
 dezimo_themed_resource(bright main_light.qss style/colors/main.qss)
 dezimo_themed_resource(dark main_dark.qss style/colors/main.qss)
 
+foreach(theme IN ITEMS bright dark)
+  dezimo_themed_resource(${theme}
+    Global/Html/guide_${theme}.css style/guide.css style/colors/guide.css)
+endforeach()
+
 # The panel has no dark sheet of its own; its dark colors stand in the general one.
 dezimo_themed_resource(bright Global/Style/kelpanelwidget_bright.qss
   style/colors/kelpanelwidget.qss)

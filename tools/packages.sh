@@ -7,8 +7,8 @@
 # neither root nor sudo), it names them and succeeds if the commands that they bring are there.
 set -euo pipefail
 
-build_tools="g++ cmake ninja-build python3 python3-fonttools fonts-roboto-unhinted fonts-dejavu-core
-    librsvg2-bin"
+build_tools="g++ cmake ninja-build python3 python3-fonttools python3-markdown fonts-roboto-unhinted
+    fonts-dejavu-core librsvg2-bin"
 test_tools="xvfb xauth x11-utils xdotool openbox dbus at-spi2-core python3-pyatspi"
 
 # Debian's packages, and the commands that show that a system without apt has the same. new|old is a

@@ -43,6 +43,7 @@ const Pair kPairs[] = {
     {"muted text on the window", Palette::mutedText, Palette::window, kText},
     {"placeholder in a field", Palette::mutedText, Palette::surface, kText},
     {"chosen tab on the window", Palette::accentText, Palette::window, kText},
+    {"heading and link of the guide", Palette::accentText, Palette::surface, kText},
     {"unit key", Palette::accentText, Palette::surface, kText},
     {"unit key under the pointer", Palette::accentText, Palette::pointer, kText},
     {"chosen module", Palette::accentText, Palette::chosen, kText},
@@ -122,8 +123,9 @@ QSet<QString> iconColors(bool dark)
 QStringList themeSheets(bool dark)
 {
     const QDir folder(QStringLiteral(":/Global/Style/"));
-    QStringList files{dark ? QStringLiteral(":/main_dark.qss")
-                           : QStringLiteral(":/main_light.qss")};
+    QStringList files{dark ? QStringLiteral(":/main_dark.qss") : QStringLiteral(":/main_light.qss"),
+                      dark ? QStringLiteral(":/Global/Html/guide_dark.css")
+                           : QStringLiteral(":/Global/Html/guide_bright.css")};
     const QStringList names =
         folder.entryList({dark ? QStringLiteral("*_dark.qss") : QStringLiteral("*_bright.qss")});
     for (const QString &name : names)
@@ -297,7 +299,8 @@ void ContrastTest::findsEveryWayToWriteAColor()
 
 void ContrastTest::sheetsAndIconsNameRolesInsteadOfColors()
 {
-    const QStringList sheets = sourceFiles("resources/style", {QStringLiteral("*.qss")});
+    const QStringList sheets =
+        sourceFiles("resources/style", {QStringLiteral("*.qss"), QStringLiteral("*.css")});
     QVERIFY(sheets.size() > 10);
     QCOMPARE(sorted(colorsOf(sheets)), QStringList());
     const QStringList icons = sourceFiles("resources/icons", {QStringLiteral("*_??.svg")});

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 /// The program asks for its resources by name, so each name must stay and have contents.
@@ -58,7 +59,13 @@ QStringList iconNames()
 
 QStringList otherNames()
 {
-    QStringList names{QStringLiteral(":/Global/Html/License.html")};
+    QStringList names{QStringLiteral(":/Global/Html/License.html"),
+                      QStringLiteral(":/Global/Html/guide.html"),
+                      QStringLiteral(":/Global/Html/guide_bright.css"),
+                      QStringLiteral(":/Global/Html/guide_dark.css")};
+    for (const char *module : {"dbm-calculator", "voltage-calculator", "unit-converter",
+                               "db-converter", "vswr-converter"})
+        names += QStringLiteral(":/Global/Html/pictures/%1.png").arg(QLatin1String(module));
     for (const char *family : {"Tessan", "TessanCd"}) {
         for (const char *style : {"Bold", "Italic", "Light", "Regular"})
             names += QStringLiteral(":/Global/Fonts/%1_v3_%2_02.ttf")
@@ -109,7 +116,8 @@ void ResourcesTest::areFilledIn()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
     QVERIFY(!content.trimmed().isEmpty());
-    if (name.endsWith(QLatin1String(".qss")) || name.endsWith(QLatin1String(".svg")))
+    static const QRegularExpression themed(QStringLiteral("\\.(qss|css|svg)$"));
+    if (name.contains(themed))
         QVERIFY2(!content.contains('@'), "a role of the palette that nothing replaced");
 }
 

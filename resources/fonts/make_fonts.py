@@ -78,6 +78,7 @@ BLOCKS = [
 ]
 SINGLES = (
     "†‡•…‰′″‹›⁄€№™ℓ"
+    "ₙ"
     "\u2026\u202F\u205F"  # ellipsis, narrow no-break space, mathematical space
     "\u2126\u212B"  # ohm sign, angstrom sign
     "⇄⇆⇒⇔↔↺↻"

@@ -9,6 +9,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QWidget>
 
 namespace {
 
@@ -46,6 +47,18 @@ bool isLetterWithAlt(const QKeyEvent &key)
            key.text().at(0).isPrint();
 }
 
+/// A menu or a list of choices keeps the keyboard to itself, and would lie above whatever opens. So
+/// it closes, and the key goes to the window below.
+void passOnFromPopup(const QKeyEvent &key)
+{
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    if (QWidget *below = QApplication::focusWidget()) {
+        QKeyEvent again(key.type(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat());
+        QCoreApplication::sendEvent(below, &again);
+    }
+}
+
 } // namespace
 
 KelApplication::KelApplication(int &argc, char **argv, bool flag)
@@ -66,11 +79,16 @@ void KelApplication::installStyleSheet(ApplicationTheme theme)
     setStyleSheet(StyleSheets::combined(QStringLiteral(":/Global/Style/"), theme));
 }
 
-/// On most platforms Qt's fields type a letter even while Alt is held.
+/// On most platforms Qt's fields type a letter even while Alt is held. F1 asks the window for help,
+/// so a menu passes it on.
 bool KelApplication::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
-        isLetterWithAlt(*static_cast<QKeyEvent *>(event)))
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+        return QApplication::eventFilter(watched, event);
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    if (key.key() == Qt::Key_F1 && activePopupWidget()) {
+        passOnFromPopup(key);
         return true;
-    return QApplication::eventFilter(watched, event);
+    }
+    return isLetterWithAlt(key) || QApplication::eventFilter(watched, event);
 }

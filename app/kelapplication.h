@@ -14,7 +14,8 @@
  * whatever the system's locale), and the style sheets of the bright theme. A font or style sheet
  * that cannot be loaded is skipped.
  *
- * A letter that is pressed together with Alt is a command and never typed.
+ * A letter that is pressed together with Alt is a command and never typed. F1 closes menus and
+ * lists of choices and goes to the window below them.
  */
 class KelApplication final : public QApplication
 {

@@ -14,14 +14,17 @@ namespace Dezimo {
 class MainProfile;
 }
 
+class KelGuideWindow;
+
 namespace Ui {
 class MainWindow;
 }
 
 /**
- * The only top-level window: the list of modules at the left, the chosen module's page at the
- * right, and the menus. Its geometry, list mode and module are mirrored into MainProfile, which is
- * read from the application settings when the window is made and written when it is destroyed.
+ * The program's window: the list of modules at the left, the chosen module's page at the right, and
+ * the menus. F1 opens the guide beside it, which ends with it. Its geometry, list mode and module
+ * are mirrored into MainProfile, which is read from the application settings when the window is
+ * made and written when it is destroyed.
  */
 class MainWindow final : public KelMainWindow
 {
@@ -40,6 +43,8 @@ public:
     void endProgram();
 
 protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -68,12 +73,14 @@ private:
     void connectKeyboard();
     void focusPage();
     void focusFirstField();
+    void openGuide();
     void updateWindowTitle();
     void updateModeButton(ApplicationTheme theme);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     Dezimo::MainProfile &m_profile;
-    ApplicationTheme m_iconTheme = Bright; ///< of the list's icons; the form has the bright ones
+    ApplicationTheme m_iconTheme = Bright;   ///< of the list's icons; the form has the bright ones
+    std::unique_ptr<KelGuideWindow> m_guide; ///< null until it is opened for the first time
 };
 
 #endif

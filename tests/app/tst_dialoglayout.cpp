@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "expectedmessages.h"
 #include "fakeosinfo.h"
 #include "kelaboutwindow.h"
 #include "kelapplication.h"
+#include "kelguidewindow.h"
 #include "kelmessagebox.h"
 #include "layoutcheck.h"
 #include "mainwindow.h"
@@ -29,6 +31,8 @@ private Q_SLOTS:
     void everyTabOfTheAboutWindowIsRight();
     void everyStateOfTheMessageBoxIsRight_data() { themes(); }
     void everyStateOfTheMessageBoxIsRight();
+    void everyWidthOfTheGuideIsRight_data() { themes(); }
+    void everyWidthOfTheGuideIsRight();
     void everyMenuShowsItsTexts_data() { themes(); }
     void everyMenuShowsItsTexts();
 
@@ -105,6 +109,30 @@ void DialogLayoutTest::everyStateOfTheMessageBoxIsRight()
             box, QStringLiteral("message, %1, %2")
                      .arg(QLatin1String(QTest::currentDataTag()), QLatin1String(states.key(i))));
         QCOMPARE(LayoutCheck::complaints(box), QStringList());
+    }
+}
+
+/// From the smallest width to one that is wider than the text.
+void DialogLayoutTest::everyWidthOfTheGuideIsRight()
+{
+    QFETCH(ApplicationTheme, theme);
+
+    const ExpectedMessages messages(offscreenPopupMessages());
+    apply(theme);
+    KelGuideWindow guide;
+    guide.onThemeChanged(theme);
+    for (const int width : {guide.minimumWidth(), guide.width(), 1400}) {
+        for (const char *chapter : {"", "unit-converter", "error-words"}) {
+            guide.resize(width, guide.height());
+            guide.openAt(QLatin1String(chapter));
+            QVERIFY(QTest::qWaitForWindowExposed(&guide));
+            QTest::keyClick(&guide, Qt::Key_F, Qt::ControlModifier);
+            LayoutCheck::savePicture(guide, QStringLiteral("guide, %1, %2, %3")
+                                                .arg(QLatin1String(QTest::currentDataTag()))
+                                                .arg(width)
+                                                .arg(QLatin1String(chapter)));
+            QCOMPARE(LayoutCheck::complaints(guide), QStringList());
+        }
     }
 }
 

@@ -14,6 +14,11 @@ if(NOT DEFINED oldest_qt${DEZIMO_QT})
 endif()
 set(DEZIMO_OLDEST_QT ${oldest_qt${DEZIMO_QT}})
 
+# From Qt 6.5 on the macros of Qt Test narrow a number in every source that uses them.
+set(test_warnings_qt5 "")
+set(test_warnings_qt6 -Wno-conversion)
+set(DEZIMO_QT_TEST_WARNINGS ${test_warnings_qt${DEZIMO_QT}})
+
 # Debian's packages with the plugin for SVG icons, which later releases of Qt 6 have in a package of its
 # own, and with the platform plugin for Wayland.
 set(svg_plugin_qt5 "libqt5svg5 (>= 5.15)")

@@ -42,9 +42,13 @@ function(dezimo_add_test_moc target source)
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}_moc")
 endfunction()
 
+# What takes something back from Dezimo::Options has to come after it.
+add_library(dezimo_test_warnings INTERFACE)
+target_compile_options(dezimo_test_warnings INTERFACE ${DEZIMO_QT_TEST_WARNINGS})
+
 # dezimo_test_options(<target>): how the sources of tests are compiled.
 function(dezimo_test_options target)
-  target_link_libraries(${target} PRIVATE Dezimo::Options)
+  target_link_libraries(${target} PRIVATE Dezimo::Options dezimo_test_warnings)
   target_compile_options(${target} PRIVATE ${DEZIMO_TEST_FLAGS})
   dezimo_precompile(${target} core_tests widget_tests)
 endfunction()

@@ -36,4 +36,5 @@ file(CONFIGURE OUTPUT ${html_folder}/html.qrc @ONLY CONTENT "<RCC>
 ${html_entries}  </qresource>
 </RCC>
 ")
-qt5_add_resources(DEZIMO_HTML_SOURCES ${html_folder}/html.qrc OPTIONS ${DEZIMO_RCC_OPTIONS})
+cmake_language(CALL qt${DEZIMO_QT}_add_resources
+  DEZIMO_HTML_SOURCES ${html_folder}/html.qrc OPTIONS ${DEZIMO_RCC_OPTIONS})

@@ -8,6 +8,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+# The linters read headers that the build makes.
+if [[ ! -e build/asan/compile_commands.json ]]; then
+    cmake --preset asan -DDEZIMO_BENCHMARKS=ON
+    cmake --build --preset asan
+fi >&2
 mkdir -p build/lint
 sed --regexp-extended 's/ -Winvalid-pch -include (\\"[^"]*"|[^ ]+)//; s/ -fpch-preprocess//' \
     build/asan/compile_commands.json >build/lint/compile_commands.json

@@ -11,9 +11,11 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTextDocument>
+#include <QToolTip>
 
 using namespace Dezimo;
 
@@ -59,6 +61,12 @@ bool KeypadCalculatorWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_output && event->type() == QEvent::Resize)
         fitUnitSelector();
+    if (watched == m_output && event->type() == QEvent::ToolTip) {
+        // A tip takes on the font size of its widget, which is far too large here.
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), m_output->toolTip(),
+                           m_outputRow);
+        return true;
+    }
     return ModulePage::eventFilter(watched, event);
 }
 

@@ -12,8 +12,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
+
+#include <algorithm>
 
 using namespace Dezimo;
 
@@ -39,6 +43,7 @@ private Q_SLOTS:
     void anErrorWordSaysWhy();
     void theReasonFollowsEveryKey();
     void aReasonShowsMarkupAsItStands();
+    void theReasonHasTheSizeOfATip();
     void resultIsReadOnlyAndCanBeCopied();
     void keysGiveTheFocusToTheInput();
     void tabGoesThroughThePage();
@@ -267,6 +272,25 @@ void KeypadCalculatorWidgetTest::aReasonShowsMarkupAsItStands()
     page.type("1<br>+1");
     QVERIFY(page.output().accessibleDescription().contains(QStringLiteral("<br>")));
     QVERIFY(page.output().toolTip().contains(QStringLiteral("&lt;br&gt;")));
+}
+
+/// The result beside it may be 80 pixels high.
+void KeypadCalculatorWidgetTest::theReasonHasTheSizeOfATip()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm");
+    QLineEdit &output = page.output();
+    const QPoint middle = output.rect().center();
+    QHelpEvent rest(QEvent::ToolTip, middle, output.mapToGlobal(middle));
+    QCoreApplication::sendEvent(&output, &rest);
+    QCOMPARE(QToolTip::text(), output.toolTip());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->windowType() == Qt::ToolTip && window->isVisible();
+    });
+    QVERIFY(tip != windows.end());
+    QVERIFY2((*tip)->height() < 60, QByteArray::number((*tip)->height()).constData());
+    QToolTip::hideText();
 }
 
 void KeypadCalculatorWidgetTest::resultIsReadOnlyAndCanBeCopied()

@@ -19,6 +19,7 @@ KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
     style->setParent(this);
     setStyle(style);
     setView(new QListView(view()->parentWidget()));
+    view()->installEventFilter(this);
     installAccessibleWidgets();
     setFocusPolicy(Qt::StrongFocus);
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -42,11 +43,13 @@ void KelComboBox::showPopup()
     view()->parentWidget()->move(mapToGlobal(QPoint(0, height())));
 }
 
-/// Qt hides the list before it reads a choice by key from it, so the list must not change at once.
-void KelComboBox::hidePopup()
+/// Later versions of Qt 6 hide the list without hidePopup() when it is left by Esc. Qt reads a
+/// choice by key from the hidden list, so the list must not change at once.
+bool KelComboBox::eventFilter(QObject *watched, QEvent *event)
 {
-    QComboBox::hidePopup();
-    QMetaObject::invokeMethod(this, "endPopup", Qt::QueuedConnection);
+    if (watched == view() && event->type() == QEvent::Hide)
+        QMetaObject::invokeMethod(this, "endPopup", Qt::QueuedConnection);
+    return QComboBox::eventFilter(watched, event);
 }
 
 /// An ignored wheel event goes to the page, which scrolls.

@@ -24,7 +24,7 @@ public:
     ~KelComboBox() override;
 
     void showPopup() override;
-    void hidePopup() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     void wheelEvent(QWheelEvent *event) override;

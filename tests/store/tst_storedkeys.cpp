@@ -42,8 +42,8 @@ private Q_SLOTS:
 namespace {
 
 /// The name that QSettings gives the group of all keys without a group.
-constexpr QLatin1String kGroup("");
-constexpr QLatin1String kText("default");
+const QLatin1String kGroup("");
+const QLatin1String kText("default");
 constexpr int kInteger = 42;
 constexpr double kDouble = 4.25;
 constexpr bool kTrue = true;

@@ -52,7 +52,8 @@ QString line(const QAccessibleInterface *interface)
         text += QLatin1String(" [disabled]");
     if (state.checked)
         text += QLatin1String(" [checked]");
-    if (state.selected)
+    // Only later versions of Qt 6 say it of a tab; the name of the list of tabs says it in all.
+    if (state.selected && interface->role() != QAccessible::PageTab)
         text += QLatin1String(" [selected]");
     if (state.defaultButton)
         text += QLatin1String(" [default]");

@@ -129,8 +129,8 @@ void EditCase::chooseFromContextMenu(const QString &entry)
     const QList<QAction *> actions = menu.actions();
     for (QAction *action : actions) {
         if (action->text().startsWith(entry)) {
-            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier,
-                              menu.actionGeometry(action).center());
+            menu.setActiveAction(action);
+            QTest::keyClick(&menu, Qt::Key_Return);
             return;
         }
     }

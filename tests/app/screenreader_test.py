@@ -14,6 +14,8 @@ import time
 import pyatspi
 from gi.repository import GLib
 
+# Qt 6.8 complains whenever one of its own labels lays out markup.
+OF_QT_ITSELF = "qt.accessibility.atspi: Received text event for invalid interface.\n"
 PATIENCE_SECONDS = 60
 PAUSE_SECONDS = 0.02
 
@@ -225,8 +227,8 @@ def main():
             process.kill()
             process.wait()
             stderr.seek(0)
-            said = stderr.read()
-    assert not said, f"the program wrote:\n{said}"
+            said = [line for line in stderr if line != OF_QT_ITSELF]
+    assert not said, f"the program wrote:\n{''.join(said)}"
 
 
 main()

@@ -84,7 +84,7 @@ QString withoutExponent(const QString &value)
     int end = sign + 1;
     while (isDigitOrPoint(end))
         ++end;
-    const double number = value.mid(begin, end - begin).toDouble();
+    const double number = QStringView(value).mid(begin, end - begin).toDouble();
     return value.left(begin) + QString::number(number, 'f', QLocale::FloatingPointShortest) +
            value.mid(end);
 }

@@ -174,7 +174,8 @@ bool hasExponent(const QString &number)
     if (first < number.size() && ExpressionText::isOperator(number.at(first)))
         ++first;
     bool isNumber = false;
-    number.left(letter).toDouble(&isNumber);
+    const QStringView mantissa = QStringView(number).left(letter < 0 ? number.size() : letter);
+    static_cast<void>(mantissa.toDouble(&isNumber));
     return isNumber && first < number.size() &&
            std::all_of(number.begin() + first, number.end(), isDigit);
 }

@@ -83,8 +83,9 @@ QString wordsOf(QString text)
 {
     static const QRegularExpression picture(QStringLiteral("!\\[[^]]*\\]\\([^)]*\\)"));
     static const QRegularExpression target(QStringLiteral("\\]\\([^)]*\\)"));
-    static const QRegularExpression line(QStringLiteral("^\\|?[-|]+\\|$|^#+ |^- "),
-                                         QRegularExpression::MultilineOption);
+    // What ^ and $ take for the end of a line depends on how the system's expressions were built.
+    static const QRegularExpression line(
+        QStringLiteral("(?<![^\n])(\\|?[-|]+\\|(?![^\n])|#+ |- )"));
     static const QRegularExpression mark(
         QStringLiteral("\\*\\*|\\*(?=empty)|(?<=empty)\\*|[\\[`|]"));
     static const QRegularExpression blanks(QStringLiteral("[\\s\\x{FFFC}\\x{2028}]+"));
@@ -291,7 +292,6 @@ void GuidePageTest::everyPictureFits()
 
     resizeTo(windowWidth);
     const QTextDocument &document = *m_browser->document();
-    const qreal room = m_browser->viewport()->width();
     int pictures = 0;
     eachFragment(document, [&](const QTextFragment &fragment) {
         if (!fragment.charFormat().isImageFormat())
@@ -306,8 +306,8 @@ void GuidePageTest::everyPictureFits()
     });
     QCOMPARE(pictures, 5);
     QTRY_COMPARE(m_browser->horizontalScrollBar()->maximum(), 0);
-    QVERIFY(document.idealWidth() <= room);
-    QVERIFY(room <= 800);
+    QTRY_VERIFY(document.idealWidth() <= m_browser->viewport()->width());
+    QVERIFY(m_browser->viewport()->width() <= 800);
     const QVector<QRectF> rects = picturesIn(document);
     for (const QRectF &rect : rects)
         QVERIFY2(rect.height() > rect.width() * 0.6 && rect.height() < rect.width() * 0.7,

@@ -475,7 +475,10 @@ void GuideWindowTest::isNotLargerThanTheScreen()
 {
     QSettings().setValue(QStringLiteral("GuideWindow/windowSize"), QSize(2000000000, 15000));
     openGuide();
-    QCOMPARE(guide().size(), guide().screen()->availableSize());
+    // Windows leaves room for the title bar, too.
+    const QSize screen = guide().screen()->availableSize();
+    QCOMPARE(guide().width(), screen.width());
+    QVERIFY(guide().height() <= screen.height() && guide().height() > screen.height() - 100);
 }
 
 void GuideWindowTest::ignoresAMalformedSize_data()

@@ -234,6 +234,11 @@ bool KeypadCalculatorWidget::hasUnit() const
     return m_profile.outputUnit() != m_profile.plainUnit();
 }
 
+bool KeypadCalculatorWidget::isUnitShown() const
+{
+    return hasResult() && hasUnit();
+}
+
 QString KeypadCalculatorWidget::resultWithUnit() const
 {
     if (!hasUnit())
@@ -243,7 +248,7 @@ QString KeypadCalculatorWidget::resultWithUnit() const
 
 void KeypadCalculatorWidget::showUnitSelector()
 {
-    m_outputUnit->setVisible(hasResult() && hasUnit());
+    m_outputUnit->setVisible(isUnitShown());
     describeOutput();
 }
 
@@ -252,8 +257,7 @@ void KeypadCalculatorWidget::showUnitSelector()
 void KeypadCalculatorWidget::describeOutput()
 {
     const QString reason = m_output->hasError() ? m_profile.reason() : QString();
-    const QString unit =
-        hasResult() && hasUnit() ? m_profile.unitText(m_profile.outputUnit()) : QString();
+    const QString unit = isUnitShown() ? m_profile.unitText(m_profile.outputUnit()) : QString();
     m_output->setToolTip(asPlainText(reason));
     m_output->setAccessibleDescription(reason.isEmpty() ? unit : reason);
 }

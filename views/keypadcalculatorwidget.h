@@ -80,6 +80,7 @@ private:
     /// Whether the output can be taken over. "---" and "bracket missing" can, on purpose.
     bool hasResult() const;
     bool hasUnit() const;
+    bool isUnitShown() const;
     QString resultWithUnit() const;
     void showUnitSelector();
     void describeOutput();

@@ -3,6 +3,7 @@
 
 #include "dbconverterwidget.h"
 
+#include "errortexts.h"
 #include "mainprofile.h"
 #include "ui_dbconverterwidget.h"
 
@@ -23,12 +24,57 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     // again, even without an edit.
     m_ui->p2LineEdit->setFinishedByEveryLeaving(true);
     m_ui->v2LineEdit->setFinishedByEveryLeaving(true);
+    tellAboutFields();
     showModel();
 }
 
 DbConverterWidget::~DbConverterWidget()
 {
     finishOpenEdit();
+}
+
+void DbConverterWidget::tellAboutFields()
+{
+    const std::vector<HintReason> powers = {
+        {ErrorText::kInvalidInput,
+         QT_TR_NOOP("A power is a number with dBm, dBW, W or no unit, with a point: 2.5W")},
+        {ErrorText::kUnitMismatch, QT_TR_NOOP("P1 and P2 have a unit both, or none")}};
+    const std::vector<HintReason> powerRatio = {
+        {ErrorText::kInvalid, QT_TR_NOOP("The ratio in dB is no number; write -3 or 1.5")},
+        {ErrorText::kNotANumber, QT_TR_NOOP("There is no ratio to a P2 of zero")}};
+    const std::vector<HintReason> voltages = {
+        {ErrorText::kInvalidInput,
+         QT_TR_NOOP("A voltage is a number of volts without unit, with a point: 2.5, 100m")},
+        {ErrorText::kUnitMismatch, QT_TR_NOOP("V1 and V2 are written without unit")}};
+    const std::vector<HintReason> voltageRatio = {
+        {ErrorText::kInvalid, QT_TR_NOOP("The ratio in dB is no number; write -3 or 1.5")},
+        {ErrorText::kNotANumber, QT_TR_NOOP("There is no ratio to a V2 of zero")}};
+    hints().add({
+        {m_ui->p1LineEdit,
+         QT_TR_NOOP("P1: dBm, dBW or W, as P2 has it, or no unit; 10·log₁₀(P1/P2) is in dB"),
+         powers},
+        {m_ui->p2LineEdit,
+         QT_TR_NOOP("P2: dBm, dBW or W, as P1 has it, or no unit; 10·log₁₀(P1/P2) is in dB"),
+         powers},
+        {m_ui->pRatioLineEdit,
+         QT_TR_NOOP("P1/P2 without unit: 2, 0.5, 1k; gives the dB, and P1 or P2 if that is empty"),
+         powerRatio},
+        {m_ui->pDbLineEdit,
+         QT_TR_NOOP("10·log₁₀(P1/P2): 3, -20; gives the ratio, and P1 or P2 if that is empty"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("The ratio P1/P2 is no number; write 2, 0.5 or 1k")}}},
+        {m_ui->v1LineEdit, QT_TR_NOOP("V1: volts without unit: 2, 100m; 20·log₁₀(V1/V2) is in dB"),
+         voltages},
+        {m_ui->v2LineEdit, QT_TR_NOOP("V2: volts without unit: 2, 100m; 20·log₁₀(V1/V2) is in dB"),
+         voltages},
+        {m_ui->vRatioLineEdit,
+         QT_TR_NOOP("V1/V2 without unit: 2, 0.5, 1k; gives the dB, and V1 or V2 if that is empty"),
+         voltageRatio},
+        {m_ui->vDbLineEdit,
+         QT_TR_NOOP("20·log₁₀(V1/V2): 6, -20; gives the ratio, and V1 or V2 if that is empty"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("The ratio V1/V2 is no number; write 2, 0.5 or 1k")}}},
+    });
 }
 
 void DbConverterWidget::showModel()

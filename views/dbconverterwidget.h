@@ -58,6 +58,7 @@ private Q_SLOTS:
     void onVDbChanged();
 
 private:
+    void tellAboutFields();
     void showModel();
 
     const std::unique_ptr<Ui::DbConverterWidget> m_ui;

@@ -6,6 +6,7 @@
 #include "errortexts.h"
 #include "expressionprofile.h"
 #include "kelautoresizelineedit.h"
+#include "plaintip.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -14,7 +15,6 @@
 #include <QHelpEvent>
 #include <QPushButton>
 #include <QStandardItemModel>
-#include <QTextDocument>
 #include <QToolTip>
 
 using namespace Dezimo;
@@ -33,12 +33,6 @@ bool isFunctionKey(const QPushButton *key)
     return names.contains(key->objectName());
 }
 
-/// A tool tip that shows what looks like markup as it stands. The reason may quote anything.
-QString asPlainText(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
-
 } // namespace
 
 KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidget *parent)
@@ -47,6 +41,13 @@ KeypadCalculatorWidget::KeypadCalculatorWidget(ExpressionProfile &profile, QWidg
       m_slide(this)
 {
     connect(&m_slide, &TakeOverSlide::finished, this, &KeypadCalculatorWidget::endTakeOver);
+}
+
+void KeypadCalculatorWidget::changeEvent(QEvent *event)
+{
+    ModulePage::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_mode)
+        tellAboutModes();
 }
 
 /// While a result slides, the model has taken it as its input already and has an output for it. A
@@ -167,6 +168,7 @@ void KeypadCalculatorWidget::onOutputUnitChanged()
 void KeypadCalculatorWidget::onModeChanged()
 {
     m_mode->setCurrentIndex(m_profile.mode());
+    hints().setTakes(m_mode, m_sentences.modes.at(size_t(m_profile.mode())));
     describeOutput();
 }
 
@@ -184,6 +186,14 @@ void KeypadCalculatorWidget::setUpOutput()
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
     m_output->installEventFilter(this);
+    describeOutput();
+}
+
+void KeypadCalculatorWidget::tellAboutModes()
+{
+    for (int mode = 0; mode < m_mode->count(); ++mode)
+        m_mode->setItemData(mode, hints().translated(m_sentences.modes.at(size_t(mode))),
+                            Qt::ToolTipRole);
 }
 
 /// The list of units keeps its size, however large the chosen unit is shown. It gets its style
@@ -258,8 +268,9 @@ void KeypadCalculatorWidget::describeOutput()
 {
     const QString reason = m_output->hasError() ? m_profile.reason() : QString();
     const QString unit = isUnitShown() ? m_profile.unitText(m_profile.outputUnit()) : QString();
-    m_output->setToolTip(asPlainText(reason));
+    m_output->setToolTip(PlainTip::of(reason));
     m_output->setAccessibleDescription(reason.isEmpty() ? unit : reason);
+    hints().setReason(m_input, reason);
 }
 
 /// The selector is wide enough for the largest size of a result in this row, so that its arrow

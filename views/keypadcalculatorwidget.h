@@ -32,10 +32,19 @@ protected:
     /// @p profile must outlive the page.
     KeypadCalculatorWidget(Dezimo::ExpressionProfile &profile, QWidget *parent);
 
+    /// What the page tells, in its translation context.
+    struct Sentences
+    {
+        const char *input;
+        /// An example of each mode.
+        std::vector<const char *> modes;
+    };
+
     /// Builds the form, connects its widgets and shows the model.
     template <typename Form>
-    void setUp(Form &form)
+    void setUp(Form &form, const Sentences &sentences)
     {
+        m_sentences = sentences;
         build(form);
         m_input = form.inputLineEdit;
         m_outputRow = form.outputWidget;
@@ -43,11 +52,14 @@ protected:
         m_outputUnit = form.outputUnitComboBox;
         m_mode = form.calcModeComboBox;
         setFocusProxy(form.inputLineEdit);
+        hints().add({{m_input, sentences.input}, {m_mode, sentences.modes.front()}});
+        tellAboutModes();
         connectKeys();
         showProfile();
         setUpOutput(); // last, so that a result that is an error is marked at once
     }
 
+    void changeEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -74,6 +86,7 @@ private Q_SLOTS:
 
 private:
     void setUpOutput();
+    void tellAboutModes();
     void connectKeys();
     void showProfile();
 
@@ -89,6 +102,7 @@ private:
     void endTakeOver();
 
     Dezimo::ExpressionProfile &m_profile;
+    Sentences m_sentences;
     QLineEdit *m_input = nullptr;
     QWidget *m_outputRow = nullptr;
     KelAutoResizeLineEdit *m_output = nullptr;

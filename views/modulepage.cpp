@@ -4,10 +4,17 @@
 #include "modulepage.h"
 
 #include "errortexts.h"
+#include "hintline.h"
 #include "kellineedit.h"
 
-#include <QComboBox>
 #include <QEvent>
+
+namespace {
+
+/// Pixels at the foot of every page, which the form leaves free.
+constexpr int kHintLineHeight = 24;
+
+} // namespace
 
 ModulePage::ModulePage(QWidget *parent) : QWidget(parent) {}
 
@@ -23,12 +30,6 @@ void ModulePage::markErrors(const QList<KelLineEdit *> &fields)
         field->setErrorTexts(Dezimo::ErrorText::all());
 }
 
-void ModulePage::describeByUnit(QLineEdit *field, const QComboBox *unit)
-{
-    field->setAccessibleDescription(unit->currentText());
-    connect(unit, &QComboBox::currentTextChanged, field, &QWidget::setAccessibleDescription);
-}
-
 void ModulePage::finishOpenEdit()
 {
     hide();
@@ -36,7 +37,25 @@ void ModulePage::finishOpenEdit()
 
 void ModulePage::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange && m_retranslate)
+    if (event->type() == QEvent::LanguageChange && m_retranslate) {
         m_retranslate();
+        m_hints->retranslate();
+    }
     QWidget::changeEvent(event);
+}
+
+void ModulePage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_hintLine)
+        m_hintLine->setGeometry(0, height() - kHintLineHeight, width(), kHintLineHeight);
+}
+
+/// The line is no part of the form's layout, so it has the same place on every page, and no
+/// sentence can move anything.
+void ModulePage::addHintLine()
+{
+    m_hintLine = new HintLine(this);
+    m_hints = new FieldHints(this, m_hintLine);
+    setContentsMargins(0, 0, 0, kHintLineHeight);
 }

@@ -4,19 +4,21 @@
 #ifndef VIEWS_MODULEPAGE_H
 #define VIEWS_MODULEPAGE_H
 
+#include "fieldhints.h"
+
 #include <QWidget>
 
 #include <functional>
 #include <vector>
 
+class HintLine;
 class KelLineEdit;
-class QComboBox;
 class QLineEdit;
 
 /**
  * The page of a module: a form and a model. The page hands the texts that a person types and the
  * items that a person chooses to the model, and shows what the model announces. It computes
- * nothing.
+ * nothing. At its foot a line tells about the field with the focus.
  */
 class ModulePage : public QWidget
 {
@@ -25,11 +27,13 @@ class ModulePage : public QWidget
 protected:
     explicit ModulePage(QWidget *parent);
 
-    /// Builds the form on the page. From then on its texts follow the language of the program.
+    /// Builds the form on the page, and the hint line below it. From then on its texts follow the
+    /// language of the program.
     template <typename Form>
     void build(Form &form)
     {
         form.setupUi(this);
+        addHintLine();
         m_retranslate = [this, &form] {
             form.retranslateUi(this);
         };
@@ -59,18 +63,22 @@ protected:
     /// Has each of the fields look like an error whenever its text is one of the models' error
     /// texts.
     static void markErrors(const QList<KelLineEdit *> &fields);
-    /// Makes the unit chosen beside a field its description, so that a screen reader tells the unit
-    /// together with the value.
-    static void describeByUnit(QLineEdit *field, const QComboBox *unit);
+    /// What the page tells about its fields. Add them before the page shows its model.
+    FieldHints &hints() { return *m_hints; }
 
     /// Hiding takes the focus from a field that is being edited, which finishes the edit. A page
     /// calls this in its destructor, while its form and its slots are still there.
     void finishOpenEdit();
 
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void addHintLine();
+
     std::function<void()> m_retranslate;
+    HintLine *m_hintLine = nullptr;
+    FieldHints *m_hints = nullptr;
 };
 
 #endif

@@ -3,6 +3,7 @@
 
 #include "unitconverterwidget.h"
 
+#include "errortexts.h"
 #include "mainprofile.h"
 #include "ui_unitconverterwidget.h"
 
@@ -18,11 +19,8 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     build(*m_ui);
     m_ui->impedanceLineEdit->setSuffixText(QStringLiteral("Ω"));
     markErrors(findChildren<KelLineEdit *>());
-    describeByUnit(m_ui->dbmLineEdit, m_ui->dbmUnitComboBox);
-    describeByUnit(m_ui->wattLineEdit, m_ui->wattUnitComboBox);
-    describeByUnit(m_ui->voltLineEdit, m_ui->voltUnitComboBox);
-    describeByUnit(m_ui->dbvLineEdit, m_ui->dbvUnitComboBox);
     addVoltageModes();
+    tellAboutFields();
     showModel();
 }
 
@@ -46,6 +44,33 @@ void UnitConverterWidget::addVoltageModes()
         setTabOrder(previous, button);
         previous = button;
     }
+}
+
+void UnitConverterWidget::tellAboutFields()
+{
+    const auto because = [](const char *sentence) {
+        return std::vector<HintReason>{{ErrorText::kInvalidInput, sentence}};
+    };
+    hints().add({
+        {m_ui->dbmLineEdit, QT_TR_NOOP("Power in %1: 13.5, -30; P = V²/R"),
+         because(QT_TR_NOOP("The logarithmic power is a number with a point: 13.5, -30")),
+         m_ui->dbmUnitComboBox},
+        {m_ui->wattLineEdit, QT_TR_NOOP("Power in %1: 22.4, 500u; P = V²/R"),
+         because(QT_TR_NOOP("The linear power is a number from 0 up, with a point: 2.5, 100m")),
+         m_ui->wattUnitComboBox},
+        {m_ui->impedanceLineEdit,
+         QT_TR_NOOP("Impedance in ohms; a new one empties the four values"),
+         {{ErrorText::kInvalid,
+           QT_TR_NOOP("The impedance is a number of ohms, with a point: 50, 37.5")}}},
+        {m_ui->vModeToggle,
+         QT_TR_NOOP("What the voltages of a sine tell; a new mode calculates from the power")},
+        {m_ui->dbvLineEdit, QT_TR_NOOP("Voltage in %1: -13, 107; V = √(P·R)"),
+         because(QT_TR_NOOP("The logarithmic voltage is a number with a point: 107, -13.5")),
+         m_ui->dbvUnitComboBox},
+        {m_ui->voltLineEdit, QT_TR_NOOP("Voltage in %1: 2.5, 100u; V = √(P·R)"),
+         because(QT_TR_NOOP("The linear voltage is a number from 0 up, with a point: 2.5, 100u")),
+         m_ui->voltUnitComboBox},
+    });
 }
 
 void UnitConverterWidget::showModel()

@@ -61,6 +61,7 @@ private Q_SLOTS:
 
 private:
     void addVoltageModes();
+    void tellAboutFields();
     void showModel();
 
     const std::unique_ptr<Ui::UnitConverterWidget> m_ui;

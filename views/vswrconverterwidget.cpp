@@ -3,6 +3,7 @@
 
 #include "vswrconverterwidget.h"
 
+#include "errortexts.h"
 #include "mainprofile.h"
 #include "ui_vswrconverterwidget.h"
 
@@ -16,6 +17,7 @@ VswrConverterWidget::VswrConverterWidget(QWidget *parent)
     build(*m_ui);
     setUpFields();
     connectCalculations();
+    tellAboutFields();
     showModel();
 }
 
@@ -31,12 +33,6 @@ void VswrConverterWidget::setUpFields()
     m_ui->arLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->amLineEdit->setSuffixText(QStringLiteral("dB"));
     markErrors(findChildren<KelLineEdit *>());
-    describeByUnit(m_ui->forwardPowerLineEdit, m_ui->forwardPowerUnitComboBox);
-    describeByUnit(m_ui->reflectedPowerLineEdit, m_ui->reflectedPowerUnitComboBox);
-    describeByUnit(m_ui->absorbedPowerLineEdit, m_ui->absorbedPowerUnitComboBox);
-    describeByUnit(m_ui->forwardVoltageLineEdit, m_ui->forwardVoltageUnitComboBox);
-    describeByUnit(m_ui->reflectedVoltageLineEdit, m_ui->reflectedVoltageUnitComboBox);
-    describeByUnit(m_ui->absorbedVoltageLineEdit, m_ui->absorbedVoltageUnitComboBox);
 }
 
 /// Leaving a field, or Enter in it, calculates from its row.
@@ -62,6 +58,49 @@ void VswrConverterWidget::connectCalculations()
     };
     for (const auto &row : rows)
         connect(row.field, &KelLineEdit::editingFinished, m_profile, row.calculate);
+}
+
+void VswrConverterWidget::tellAboutFields()
+{
+    const auto because = [](const char *sentence) {
+        return std::vector<HintReason>{{ErrorText::kInvalidInput, sentence}};
+    };
+    const std::vector<HintReason> noPower = {
+        {ErrorText::kInvalidInput, QT_TR_NOOP("A power is a number with a point: 2.5, -30")},
+        {ErrorText::kNotANumber, QT_TR_NOOP("This power is below zero, so it has no level")}};
+    const std::vector<HintReason> noVoltage = {
+        {ErrorText::kInvalidInput, QT_TR_NOOP("A voltage is a number with a point: 2.5, -30")},
+        {ErrorText::kNotANumber, QT_TR_NOOP("This voltage is below zero, so it has no level")}};
+    hints().add({
+        {m_ui->vswrLineEdit, QT_TR_NOOP("VSWR s, from 1 up: 2, 1.5:1; Γ = (s - 1)/(s + 1)"),
+         because(QT_TR_NOOP("The VSWR is a number from 1 up, with a point: 1.5 or 1.5:1"))},
+        {m_ui->rLineEdit, QT_TR_NOOP("Magnitude of Γ, from 0 to 1: 0.33; s = (1 + Γ)/(1 - Γ)"),
+         because(QT_TR_NOOP("Γ is a number from 0 to 1, with a point: 0.33"))},
+        {m_ui->r2LineEdit, QT_TR_NOOP("Reflected power in %, from 0 to 100: 11; Γ²·100"),
+         because(QT_TR_NOOP("Γ² is a number from 0 to 100, with a point: 11.1"))},
+        {m_ui->arLineEdit, QT_TR_NOOP("Return loss in dB, from 0 up: 9.5; -20·log₁₀ Γ"),
+         because(QT_TR_NOOP("The return loss is a number from 0 up, with a point: 9.5"))},
+        {m_ui->amLineEdit, QT_TR_NOOP("Mismatch loss in dB, from 0 up: 0.5; -10·log₁₀(1 - Γ²)"),
+         because(QT_TR_NOOP("The mismatch loss is a number from 0 up, with a point: 0.5"))},
+        {m_ui->forwardPowerLineEdit,
+         QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"), noPower,
+         m_ui->forwardPowerUnitComboBox},
+        {m_ui->reflectedPowerLineEdit,
+         QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"), noPower,
+         m_ui->reflectedPowerUnitComboBox},
+        {m_ui->absorbedPowerLineEdit,
+         QT_TR_NOOP("Absorbed power P→ - P← in %1; a new one empties P→ if Γ² is known"), noPower,
+         m_ui->absorbedPowerUnitComboBox},
+        {m_ui->forwardVoltageLineEdit,
+         QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"), noVoltage,
+         m_ui->forwardVoltageUnitComboBox},
+        {m_ui->reflectedVoltageLineEdit,
+         QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"), noVoltage,
+         m_ui->reflectedVoltageUnitComboBox},
+        {m_ui->absorbedVoltageLineEdit,
+         QT_TR_NOOP("Absorbed voltage V→ - V← in %1; a new one empties V→ if Γ² is known"),
+         noVoltage, m_ui->absorbedVoltageUnitComboBox},
+    });
 }
 
 void VswrConverterWidget::showModel()

@@ -98,6 +98,7 @@ private Q_SLOTS:
 private:
     void setUpFields();
     void connectCalculations();
+    void tellAboutFields();
     void showModel();
 
     const std::unique_ptr<Ui::VswrConverterWidget> m_ui;

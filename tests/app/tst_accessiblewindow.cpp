@@ -47,6 +47,17 @@ QString listed(const QStringList &names)
     return names.join(QLatin1Char('\n'));
 }
 
+/// The controls without what the page tells about its fields, for which the hint line has tests of
+/// its own.
+QStringList withoutHints(QStringList controls)
+{
+    for (QString &control : controls) {
+        if (!control.contains(QLatin1String(" Result / ")))
+            control = control.section(QLatin1String(" / "), 0, 0);
+    }
+    return controls;
+}
+
 QString listed(const char *names)
 {
     return listed(lines(names));
@@ -120,23 +131,23 @@ void AccessibleWindowTest::everyControlOfAPage_data()
         Button Decimal point
         Button Calculate)");
     QTest::newRow("the unit converter") << 2 << 0 << listed(R"(
-        EditableText Logarithmic power / dBm
+        EditableText Logarithmic power
         ComboBox Logarithmic power unit
-        EditableText Linear power / mW
+        EditableText Linear power
         ComboBox Linear power unit
-        EditableText Impedance in ohms / Ω
+        EditableText Impedance in ohms
         Grouping Voltage mode
         RadioButton Vrms [checked]
         RadioButton Vpp
         RadioButton Vavg
-        EditableText Logarithmic voltage / dBV
+        EditableText Logarithmic voltage
         ComboBox Logarithmic voltage unit
-        EditableText Linear voltage / mV
+        EditableText Linear voltage
         ComboBox Linear voltage unit)");
     QTest::newRow("the dB converter's powers") << 3 << 0 << listed(R"(
         EditableText Power 1
         EditableText Power ratio
-        EditableText Power ratio in dB / dB
+        EditableText Power ratio in dB
         EditableText Power 2
         PageTabList Powers
         PageTab Powers
@@ -144,37 +155,37 @@ void AccessibleWindowTest::everyControlOfAPage_data()
     QTest::newRow("the dB converter's voltages") << 3 << 1 << listed(R"(
         EditableText Voltage 1
         EditableText Voltage ratio
-        EditableText Voltage ratio in dB / dB
+        EditableText Voltage ratio in dB
         EditableText Voltage 2
         PageTabList Voltages
         PageTab Powers
         PageTab Voltages)");
     QTest::newRow("the VSWR converter's powers") << 4 << 0 << listed(R"(
-        EditableText Voltage standing wave ratio / 1 :
-        EditableText Reflection coefficient / Reflection
-        EditableText Reflected power in percent / %
-        EditableText Return loss in dB / dB
-        EditableText Mismatch loss in dB / dB
-        EditableText Forward power / dBm
+        EditableText Voltage standing wave ratio
+        EditableText Reflection coefficient
+        EditableText Reflected power in percent
+        EditableText Return loss in dB
+        EditableText Mismatch loss in dB
+        EditableText Forward power
         ComboBox Forward power unit
-        EditableText Reflected power / dBm
+        EditableText Reflected power
         ComboBox Reflected power unit
-        EditableText Absorbed power / dBm
+        EditableText Absorbed power
         ComboBox Absorbed power unit
         PageTabList Powers
         PageTab Powers
         PageTab Voltages)");
     QTest::newRow("the VSWR converter's voltages") << 4 << 1 << listed(R"(
-        EditableText Voltage standing wave ratio / 1 :
-        EditableText Reflection coefficient / Reflection
-        EditableText Reflected power in percent / %
-        EditableText Return loss in dB / dB
-        EditableText Mismatch loss in dB / dB
-        EditableText Forward voltage / dBV
+        EditableText Voltage standing wave ratio
+        EditableText Reflection coefficient
+        EditableText Reflected power in percent
+        EditableText Return loss in dB
+        EditableText Mismatch loss in dB
+        EditableText Forward voltage
         ComboBox Forward voltage unit
-        EditableText Reflected voltage / dBV
+        EditableText Reflected voltage
         ComboBox Reflected voltage unit
-        EditableText Absorbed voltage / dBV
+        EditableText Absorbed voltage
         ComboBox Absorbed voltage unit
         PageTabList Voltages
         PageTab Powers
@@ -187,7 +198,7 @@ void AccessibleWindowTest::everyControlOfAPage()
     QFETCH(int, tab);
 
     openPage(module, tab);
-    QTEST(listed(AccessibleTree::controls(page())), "controls");
+    QTEST(listed(withoutHints(AccessibleTree::controls(page()))), "controls");
 }
 
 void AccessibleWindowTest::theUnitBelongsToTheValue_data()
@@ -225,16 +236,18 @@ void AccessibleWindowTest::theUnitBelongsToTheValue()
     QFETCH(int, module);
     QFETCH(int, tab);
     QFETCH(QString, field);
+    QFETCH(QString, unit);
 
     openPage(module, tab);
     const QAccessibleInterface *value =
         AccessibleTree::find(page(), QAccessible::EditableText, field);
-    QAccessibleInterface *unit =
+    QAccessibleInterface *selector =
         AccessibleTree::find(page(), QAccessible::ComboBox, field + QLatin1String(" unit"));
-    QVERIFY(value && unit);
-    unit->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-    QTEST(value->text(QAccessible::Description), "unit");
-    QTEST(unit->text(QAccessible::Value), "unit");
+    QVERIFY(value && selector);
+    selector->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    const QString description = value->text(QAccessible::Description);
+    QVERIFY2(description.contains(QLatin1String(" in ") + unit), qPrintable(description));
+    QCOMPARE(selector->text(QAccessible::Value), unit);
 }
 
 void AccessibleWindowTest::anErrorHasAReasonInPlaceOfAUnit()

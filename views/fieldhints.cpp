@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "fieldhints.h"
+
+#include "hintline.h"
+#include "kellineedit.h"
+#include "plaintip.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QTabWidget>
+
+#include <algorithm>
+
+namespace {
+
+QString textOf(const QWidget *field)
+{
+    const auto *edit = qobject_cast<const QLineEdit *>(field);
+    return edit ? edit->text() : QString();
+}
+
+} // namespace
+
+FieldHints::FieldHints(QWidget *page, HintLine *line) : QObject(page), m_page(page), m_line(line)
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget *, QWidget *now) { noteFocus(now); });
+    // A field on a tab that is turned away is told about no longer.
+    const QList<QTabWidget *> tabs = page->findChildren<QTabWidget *>();
+    for (const QTabWidget *tab : tabs)
+        connect(tab, &QTabWidget::currentChanged, this, &FieldHints::updateLine);
+}
+
+void FieldHints::add(const std::vector<FieldHint> &hints)
+{
+    for (const FieldHint &hint : hints) {
+        m_entries.push_back({hint, textOf(hint.field), QString()});
+        watch(hint);
+    }
+    retranslate();
+}
+
+void FieldHints::setTakes(const QWidget *field, const char *takes)
+{
+    Entry *entry = entryOf(field);
+    entry->hint.takes = takes;
+    tell(*entry);
+}
+
+void FieldHints::setReason(const QWidget *field, const QString &reason)
+{
+    Entry *entry = entryOf(field);
+    entry->reason = reason;
+    tell(*entry);
+}
+
+void FieldHints::retranslate()
+{
+    for (Entry &entry : m_entries) {
+        if (!entry.hint.reasons.empty())
+            entry.reason = reasonOf(entry.hint);
+        tell(entry);
+    }
+}
+
+void FieldHints::watch(const FieldHint &hint)
+{
+    QWidget *field = hint.field;
+    if (const auto *edit = qobject_cast<QLineEdit *>(field))
+        connect(edit, &QLineEdit::textChanged, this, [this, field] { noteText(field); });
+    if (hint.unit)
+        connect(hint.unit, &QComboBox::currentTextChanged, this,
+                [this, field] { tell(*entryOf(field)); });
+}
+
+FieldHints::Entry *FieldHints::entryOf(const QWidget *field)
+{
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(),
+                     [field](const Entry &entry) { return entry.hint.field == field; });
+    return found == m_entries.end() ? nullptr : &*found;
+}
+
+void FieldHints::noteText(QWidget *field)
+{
+    Entry *entry = entryOf(field);
+    if (!entry->hint.reasons.empty())
+        entry->reason = reasonOf(entry->hint);
+    tell(*entry);
+}
+
+/// What has the focus may be a part of the field, such as a button of a switch. Anything else, on
+/// this page or not, leaves the line as it is.
+void FieldHints::noteFocus(QWidget *now)
+{
+    for (const QWidget *widget = now; widget && widget != m_page; widget = widget->parentWidget()) {
+        if (entryOf(widget)) {
+            m_focused = widget;
+            updateLine();
+            return;
+        }
+    }
+}
+
+void FieldHints::tell(const Entry &entry)
+{
+    const QString sentence = sentenceOf(entry);
+    entry.hint.field->setToolTip(PlainTip::of(sentence));
+    entry.hint.field->setAccessibleDescription(sentence);
+    updateLine();
+}
+
+void FieldHints::updateLine()
+{
+    const Entry *entry = toldEntry();
+    QStringList texts;
+    if (entry)
+        texts += sentenceOf(*entry);
+    if (!entry || isPageEmpty())
+        texts += translated("F1: guide");
+    m_line->setText(texts.join(QLatin1String(" | ")));
+}
+
+QString FieldHints::translated(const char *sentence) const
+{
+    return QCoreApplication::translate(m_page->metaObject()->className(), sentence);
+}
+
+QString FieldHints::reasonOf(const FieldHint &hint) const
+{
+    const auto *edit = qobject_cast<const KelLineEdit *>(hint.field);
+    if (!edit || !edit->hasError())
+        return {};
+    const auto found =
+        std::find_if(hint.reasons.begin(), hint.reasons.end(),
+                     [edit](const HintReason &reason) { return reason.word == edit->text(); });
+    return translated(found == hint.reasons.end() ? hint.reasons.front().sentence
+                                                  : found->sentence);
+}
+
+QString FieldHints::sentenceOf(const Entry &entry) const
+{
+    if (!entry.reason.isEmpty())
+        return entry.reason;
+    const QString takes = translated(entry.hint.takes);
+    return entry.hint.unit ? takes.arg(entry.hint.unit->currentText()) : takes;
+}
+
+const FieldHints::Entry *FieldHints::toldEntry()
+{
+    const auto hasReason = [this](const Entry &entry) {
+        return !entry.reason.isEmpty() && entry.hint.field->isVisibleTo(m_page);
+    };
+    const Entry *focused = entryOf(m_focused);
+    if (focused && !focused->hint.field->isVisibleTo(m_page))
+        focused = nullptr;
+    if (focused && hasReason(*focused))
+        return focused;
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(), hasReason);
+    return found == m_entries.end() ? focused : &*found;
+}
+
+bool FieldHints::isPageEmpty() const
+{
+    return std::all_of(m_entries.begin(), m_entries.end(), [](const Entry &entry) {
+        return textOf(entry.hint.field) == entry.startText;
+    });
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "hintline.h"
+
+#include "plaintip.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+namespace {
+
+/// Pixels between the letters and the edges of the page at the left and the right.
+constexpr int kSideMargin = 16;
+
+} // namespace
+
+HintLine::HintLine(QWidget *page) : QLabel(page)
+{
+    setObjectName(QStringLiteral("hintLine"));
+    setTextFormat(Qt::PlainText);
+    setContentsMargins(kSideMargin, 0, kSideMargin, 0);
+}
+
+bool HintLine::isCut() const
+{
+    return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+bool HintLine::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString tip = isCut() ? PlainTip::of(text()) : QString();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), tip, this);
+    return true;
+}
+
+void HintLine::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QRect room = contentsRect();
+    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
+                          foregroundRole());
+}

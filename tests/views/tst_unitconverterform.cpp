@@ -172,8 +172,8 @@ void UnitConverterFormTest::fitsItsPage()
     const QList<KelLineEdit *> fields = m_page->findChildren<KelLineEdit *>();
     QCOMPARE(fields.size(), 5);
     for (const KelLineEdit *field : fields) {
-        QVERIFY2(field->height() >= 24, qPrintable(field->objectName()));
-        QVERIFY2(field->width() >= 100 && field->width() <= 360, qPrintable(field->objectName()));
+        QVERIFY2(field->height() >= 36, qPrintable(field->objectName()));
+        QVERIFY2(field->width() >= 100 && field->width() <= 440, qPrintable(field->objectName()));
     }
     QCOMPARE(page.labelsTooNarrow(), QStringList());
 }

@@ -261,9 +261,9 @@ void VswrConverterFormTest::columnsAreAlignedAcrossAllRows()
     QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
     QCOMPARE(area.verticalScrollBar()->maximum(), 0);
     const KelLineEdit &field = page.field(QStringLiteral("rLineEdit"));
-    QVERIFY(field.height() >= 24);
+    QVERIFY(field.height() >= 36);
     QVERIFY(field.width() >= 150);
-    QVERIFY(field.width() <= 360);
+    QVERIFY(field.width() <= 440);
 }
 
 /// The left and the right edge of each column, in the coordinates of the page.

@@ -20,7 +20,7 @@ using LayoutCheck::roomForText;
 
 namespace {
 
-constexpr int kWidestField = 960; ///< the keypad's lines; see the design page
+constexpr int kWidestField = 800; ///< the column of a page; see the design page
 
 int textWidth(const QLabel &label)
 {

@@ -9,22 +9,32 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 
-/// How large the values of the converters are, and that the smallest window has room for them.
+/// Where the pages put their contents, and how large the values of the converters are.
 class PageColumnTest : public MainWindowCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyPageStandsInOneColumn_data() { sizes(); }
+    void everyPageStandsInOneColumn();
+    void bothRowsOfTabsStandAlike_data() { sizes(); }
+    void bothRowsOfTabsStandAlike();
     void noPageScrollsInTheSmallestWindow();
+    void noPageNeedsTheWholeHeight_data();
+    void noPageNeedsTheWholeHeight();
     void valuesAreLargerThanCaptions_data();
     void valuesAreLargerThanCaptions();
 
 private:
+    static void sizes();
     void openWindow(const QSize &size);
     QWidget &showPage(int module);
 };
@@ -43,7 +53,38 @@ QList<Widget *> visible(const QWidget &page)
     return found;
 }
 
+QRect placeOf(const QWidget &widget, const QWidget &page)
+{
+    return {widget.mapTo(&page, QPoint()), widget.size()};
+}
+
+/// What encloses all that a person sees in the containers of the page.
+QRect contentsOf(const QWidget &page)
+{
+    QRect contents;
+    const QList<QWidget *> widgets = visible<QWidget>(page);
+    for (const QWidget *widget : widgets) {
+        const bool isSeen =
+            qobject_cast<const QLabel *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+            qobject_cast<const QComboBox *>(widget) || qobject_cast<const QPushButton *>(widget) ||
+            qobject_cast<const QTabBar *>(widget);
+        if (isSeen && widget->parentWidget() != &page)
+            contents |= placeOf(*widget, page);
+    }
+    return contents;
+}
+
 } // namespace
+
+void PageColumnTest::sizes()
+{
+    columns<QSize, int>({"size", "listMode"});
+    row("the smallest window", QSize(600, 413), 0);
+    row("the first size", QSize(958, 605), 0);
+    row("the first size, expanded list", QSize(958, 605), 1);
+    row("1280 x 800", QSize(1280, 800), 0);
+    row("1600 x 1000", QSize(1600, 1000), 0);
+}
 
 void PageColumnTest::openWindow(const QSize &size)
 {
@@ -60,6 +101,39 @@ QWidget &PageColumnTest::showPage(int module)
     return *frame->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+void PageColumnTest::everyPageStandsInOneColumn()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, listMode);
+
+    store("windowMode", listMode);
+    openWindow(size);
+    for (int module = 0; module < kModules; ++module) {
+        const QWidget &page = showPage(module);
+        const QRect contents = contentsOf(page);
+        const int width = qMin(page.width() - 2 * 16, 800);
+        QCOMPARE(contents.top(), 16);
+        QCOMPARE(contents.left(), (page.width() - width) / 2);
+        QCOMPARE(contents.width(), width);
+    }
+}
+
+void PageColumnTest::bothRowsOfTabsStandAlike()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, listMode);
+
+    store("windowMode", listMode);
+    openWindow(size);
+    QList<QRect> places;
+    for (const int module : {3, 4}) {
+        const QWidget &page = showPage(module);
+        places += placeOf(*page.findChild<QTabWidget *>(), page);
+    }
+    QCOMPARE(places.first().left(), places.last().left());
+    QCOMPARE(places.first().width(), places.last().width());
+}
+
 void PageColumnTest::noPageScrollsInTheSmallestWindow()
 {
     openWindow(QSize(600, 413));
@@ -72,6 +146,30 @@ void PageColumnTest::noPageScrollsInTheSmallestWindow()
         }
     }
     QCOMPARE(areas, 3);
+}
+
+void PageColumnTest::noPageNeedsTheWholeHeight_data()
+{
+    columns<int, QString, int>({"module", "container", "outside"});
+    row("dBm calculator", 0, "contentWidget", 16 + 8);
+    row("voltage calculator", 1, "contentWidget", 16 + 8);
+    row("unit converter", 2, "scrollAreaWidgetContents_3", 0);
+    row("dB converter", 3, "mainTab", 16 + 8);
+    row("VSWR converter", 4, "scrollAreaWidgetContents_3", 0);
+}
+
+/// In the smallest window a line of 24 px at the foot finds room without moving anything.
+void PageColumnTest::noPageNeedsTheWholeHeight()
+{
+    QFETCH(int, module);
+    QFETCH(QString, container);
+    QFETCH(int, outside);
+
+    openWindow(QSize(600, 413));
+    const QWidget &page = showPage(module);
+    const auto *contents = page.findChild<QWidget *>(container);
+    const int needed = contents->minimumSizeHint().height() + outside;
+    QVERIFY2(needed <= 388 - 24, QByteArray::number(needed).constData());
 }
 
 void PageColumnTest::valuesAreLargerThanCaptions_data()

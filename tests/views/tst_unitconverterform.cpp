@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void tabGoesFromTopToBottom();
     void fitsItsPage_data() { addPageSizes(); }
     void fitsItsPage();
+    void framesTheConditionsOfBothRows_data() { addPageSizes(); }
+    void framesTheConditionsOfBothRows();
 
 private:
     ConverterPage open();
@@ -176,6 +179,31 @@ void UnitConverterFormTest::fitsItsPage()
         QVERIFY2(field->width() >= 100 && field->width() <= 440, qPrintable(field->objectName()));
     }
     QCOMPARE(page.labelsTooNarrow(), QStringList());
+}
+
+/// The frame spans both columns, between the powers and the voltages, and each half of it ends or
+/// begins where the column above it does.
+void UnitConverterFormTest::framesTheConditionsOfBothRows()
+{
+    QFETCH(QSize, size);
+
+    applyStyleSheet();
+    const ConverterPage page = open();
+    page.resize(size);
+    const auto place = [&page, this](const char *name) {
+        const auto &widget = page.child<QWidget>(QLatin1String(name));
+        return QRect(widget.mapTo(m_page.get(), QPoint()), widget.size());
+    };
+    const auto &frame = page.child<QFrame>(QStringLiteral("conditionsFrame"));
+    for (const char *name : {"impedanceLabel", "impedanceLineEdit", "vModeToggle"})
+        QVERIFY(frame.isAncestorOf(&page.child<QWidget>(QLatin1String(name))));
+    QCOMPARE(frame.findChildren<KelLineEdit *>().size(), 1);
+    QVERIFY(place("dbmLineEdit").bottom() < place("conditionsFrame").top());
+    QVERIFY(place("conditionsFrame").bottom() < place("voltageHeading").top());
+    QCOMPARE(place("conditionsFrame").left(), place("dbmLineEdit").left());
+    QCOMPARE(place("conditionsFrame").right(), place("wattUnitComboBox").right());
+    QVERIFY(qAbs(place("impedanceLineEdit").right() - place("dbmUnitComboBox").right()) <= 1);
+    QVERIFY(qAbs(place("vModeToggle").left() - place("wattLineEdit").left()) <= 1);
 }
 
 DEZIMO_TEST_MAIN(QApplication, UnitConverterFormTest)

@@ -23,6 +23,10 @@ private Q_SLOTS:
     void unitKeysHaveTheProgramsFont();
     void aContainerHoldsItsWidgets_data();
     void aContainerHoldsItsWidgets();
+    void keysThatTakeAwayAreAsLargeAsADigit_data() { pages(); }
+    void keysThatTakeAwayAreAsLargeAsADigit();
+    void unitKeysAreAsWideOnBothPages_data();
+    void unitKeysAreAsWideOnBothPages();
 
 private:
     static void pages();
@@ -108,6 +112,48 @@ void KeypadFormTest::aContainerHoldsItsWidgets()
     const auto &parent = calculator.find<QWidget>(qPrintable(container));
     for (const QString &name : widgets)
         QVERIFY2(parent.findChild<QWidget *>(name), qPrintable(name));
+}
+
+void KeypadFormTest::keysThatTakeAwayAreAsLargeAsADigit()
+{
+    QFETCH(QString, page);
+
+    CalculatorPage calculator = newPage(page);
+    calculator.show();
+    const QSize digit = calculator.key(QStringLiteral("7")).size();
+    for (const char *name : {"C", "back"}) {
+        const QSize key = calculator.key(QLatin1String(name)).size();
+        QVERIFY2(qAbs(key.width() - digit.width()) <= 1, name);
+        QCOMPARE(key.height(), digit.height());
+    }
+}
+
+void KeypadFormTest::unitKeysAreAsWideOnBothPages_data()
+{
+    columns<QSize>({"size"});
+    row("a small page", QSize(560, 388));
+    row("the first size", QSize(918, 580));
+    row("a large page", QSize(1560, 975));
+}
+
+void KeypadFormTest::unitKeysAreAsWideOnBothPages()
+{
+    QFETCH(QSize, size);
+
+    CalculatorPage powers = newPage(QStringLiteral("dBm"));
+    CalculatorPage voltages = newPage(QStringLiteral("voltage"));
+    for (CalculatorPage *page : {&powers, &voltages}) {
+        page->show();
+        page->widget().resize(size);
+        QCoreApplication::processEvents();
+    }
+    const QStringList pairs[] = {words("dBm V"), words("dB mV")};
+    for (const QStringList &pair : pairs) {
+        const QRect power = powers.key(pair.first()).geometry();
+        const QRect voltage = voltages.key(pair.last()).geometry();
+        QVERIFY(qAbs(power.width() - voltage.width()) <= 1);
+        QVERIFY(qAbs(power.left() - voltage.left()) <= 1);
+    }
 }
 
 DEZIMO_TEST_MAIN(QApplication, KeypadFormTest)

@@ -5,6 +5,7 @@
 
 #include "errortexts.h"
 #include "mainprofile.h"
+#include "placeholderlook.h"
 #include "ui_dbconverterwidget.h"
 
 #include <QApplication>
@@ -19,7 +20,10 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     build(*m_ui);
     m_ui->pDbLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->vDbLineEdit->setSuffixText(QStringLiteral("dB"));
-    markErrors(findChildren<KelLineEdit *>());
+    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
+    markErrors(fields);
+    for (KelLineEdit *field : fields)
+        followPlaceholder(field);
     // The model notes a run from P2 or V2 as one from P1 or V1. So leaving P2 or V2 calculates
     // again, even without an edit.
     m_ui->p2LineEdit->setFinishedByEveryLeaving(true);

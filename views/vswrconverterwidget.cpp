@@ -5,6 +5,7 @@
 
 #include "errortexts.h"
 #include "mainprofile.h"
+#include "placeholderlook.h"
 #include "ui_vswrconverterwidget.h"
 
 using namespace Dezimo;
@@ -32,7 +33,10 @@ void VswrConverterWidget::setUpFields()
     m_ui->r2LineEdit->setSuffixText(QStringLiteral("%"));
     m_ui->arLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->amLineEdit->setSuffixText(QStringLiteral("dB"));
-    markErrors(findChildren<KelLineEdit *>());
+    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
+    markErrors(fields);
+    for (KelLineEdit *field : fields)
+        followPlaceholder(field);
 }
 
 /// Leaving a field, or Enter in it, calculates from its row.

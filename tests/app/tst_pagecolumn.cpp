@@ -32,6 +32,8 @@ private Q_SLOTS:
     void noPageNeedsTheWholeHeight();
     void valuesAreLargerThanCaptions_data();
     void valuesAreLargerThanCaptions();
+    void aPlaceholderDoesNotLookLikeAValue_data();
+    void aPlaceholderDoesNotLookLikeAValue();
 
 private:
     static void sizes();
@@ -206,6 +208,36 @@ void PageColumnTest::valuesAreLargerThanCaptions()
     for (const QLabel *label : labels)
         captions += label->buddy() && label->font().pixelSize() == 14 ? 1 : 0;
     QTEST(captions, "captions");
+}
+
+void PageColumnTest::aPlaceholderDoesNotLookLikeAValue_data()
+{
+    columns<int>({"module"});
+    row("dB converter", 3);
+    row("VSWR converter", 4);
+}
+
+void PageColumnTest::aPlaceholderDoesNotLookLikeAValue()
+{
+    QFETCH(int, module);
+
+    openWindow(QSize(600, 413));
+    const QList<KelLineEdit *> fields = visible<KelLineEdit>(showPage(module));
+    QVERIFY(!fields.isEmpty());
+    for (KelLineEdit *field : fields) {
+        QVERIFY2(!field->placeholderText().isEmpty(), qPrintable(field->objectName()));
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(field->font().italic());
+            QCOMPARE(field->font().pixelSize(), 14);
+            QVERIFY(field->palette().color(QPalette::PlaceholderText) !=
+                    field->palette().color(QPalette::Text));
+            const int height = field->height();
+            field->setText(QStringLiteral("1"));
+            QVERIFY(!field->font().italic());
+            QCOMPARE(field->height(), height);
+            field->clear();
+        }
+    }
 }
 
 int main(int argc, char **argv)

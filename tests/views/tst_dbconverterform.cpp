@@ -6,6 +6,7 @@
 #include "kellineedit.h"
 #include "table.h"
 #include "testmain.h"
+#include "words.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -29,6 +30,13 @@ private Q_SLOTS:
     void eachDbFieldShowsItsUnit();
     void readsFromFractionToDecibels_data();
     void readsFromFractionToDecibels();
+    void anEmptyFieldShowsAnExample_data() { halves(); }
+    void anEmptyFieldShowsAnExample();
+    void theExamplesBelongTogether_data() { halves(); }
+    void theExamplesBelongTogether();
+
+private:
+    static void halves();
 };
 
 void DbConverterFormTest::hasAPlainTitle()
@@ -140,6 +148,45 @@ void DbConverterFormTest::readsFromFractionToDecibels()
     QCOMPARE(page.child<QFrame>(fieldBar).frameShape(), QFrame::HLine);
     QVERIFY(qMax(first.right(), second.right()) < ratio.left());
     QVERIFY(ratio.right() < decibels.left());
+}
+
+void DbConverterFormTest::halves()
+{
+    columns<QString, QStringList>({"half", "examples"});
+    row("powers", "p", words("2W 30dBm 2 3.01"));
+    row("voltages", "v", words("2 500m 4 12.04"));
+}
+
+void DbConverterFormTest::anEmptyFieldShowsAnExample()
+{
+    QFETCH(QString, half);
+    QFETCH(QStringList, examples);
+
+    const DbConverterWidget widget;
+    const char *const fields[] = {"1", "2", "Ratio", "Db"};
+    for (int i = 0; i < 4; ++i) {
+        const QString name = half + QLatin1String(fields[i]) + QStringLiteral("LineEdit");
+        QCOMPARE(widget.findChild<QLineEdit *>(name)->placeholderText(),
+                 QStringLiteral("e.g. ") + examples.at(i));
+    }
+}
+
+/// Who types the examples of both operands gets those of the ratio and of the decibels.
+void DbConverterFormTest::theExamplesBelongTogether()
+{
+    QFETCH(QString, half);
+    QFETCH(QStringList, examples);
+
+    loadDefaults();
+    DbConverterWidget widget;
+    const ConverterPage page(widget);
+    page.child<QTabWidget>(QStringLiteral("mainTab"))
+        .setCurrentIndex(half == QLatin1String("p") ? 0 : 1);
+    page.type(half + QStringLiteral("1LineEdit"), examples.at(0));
+    page.type(half + QStringLiteral("2LineEdit"), examples.at(1));
+    page.focus(half + QStringLiteral("RatioLineEdit"));
+    QCOMPARE(page.field(half + QStringLiteral("RatioLineEdit")).text(), examples.at(2));
+    QCOMPARE(page.field(half + QStringLiteral("DbLineEdit")).text(), examples.at(3));
 }
 
 DEZIMO_TEST_MAIN(QApplication, DbConverterFormTest)

@@ -81,6 +81,15 @@ void addView(KelLatePage *page, const char *name)
     page->layout()->addWidget(view);
 }
 
+/// Such a key comes before the widget that has the focus, but waits while a menu, a list or a
+/// dialog is open.
+template <typename Action>
+void onKey(MainWindow *window, const QKeySequence &key, const Action &action)
+{
+    const auto *shortcut = new QShortcut(key, window);
+    QObject::connect(shortcut, &QShortcut::activated, window, action);
+}
+
 } // namespace
 
 /// A part of the window whose size depends on the list mode.
@@ -325,15 +334,42 @@ void MainWindow::restoreGeometryFromProfile()
     resize(restored);
 }
 
-/// Qt opens the menus by Alt. F10 opens them, too, as in other programs on a desktop. Return goes
-/// from the list of modules into the page.
+/// Qt goes to the menus by Alt. F10 opens the first one, as in other programs on a desktop. The
+/// texts of the menus mark no letter, so Alt with the first letter of a menu needs a key of its own.
+/// Return goes from the list of modules into the page.
 void MainWindow::connectKeyboard()
 {
-    const auto *menuKey = new QShortcut(Qt::Key_F10, this);
-    connect(menuKey, &QShortcut::activated, this,
-            [this] { m_ui->menubar->setActiveAction(m_ui->menuFile->menuAction()); });
+    onKey(this, Qt::Key_F10, [this] { showMenu(*m_ui->menuFile); });
+    onKey(this, Qt::ALT | Qt::Key_F, [this] { showMenu(*m_ui->menuFile); });
+    onKey(this, Qt::ALT | Qt::Key_O, [this] { showMenu(*m_ui->menuOptions); });
+    onKey(this, Qt::ALT | Qt::Key_H, [this] { showMenu(*m_ui->menuHelp); });
+    connectModuleKeys();
     connect(m_ui->menuItemsWidget, &QListWidget::itemClicked, this, &MainWindow::focusPage);
     connect(m_ui->menuItemsWidget, &QListWidget::itemActivated, this, &MainWindow::focusFirstField);
+}
+
+void MainWindow::connectModuleKeys()
+{
+    for (int row = 0; row < m_ui->menuItemsWidget->count(); ++row) {
+        onKey(this, QKeySequence::fromString(QStringLiteral("Ctrl+%1").arg(row + 1)),
+              [this, row] { chooseModule(row); });
+    }
+    onKey(this, Qt::CTRL | Qt::Key_PageUp,
+          [this] { chooseModule(m_ui->menuItemsWidget->currentRow() - 1); });
+    onKey(this, Qt::CTRL | Qt::Key_PageDown,
+          [this] { chooseModule(m_ui->menuItemsWidget->currentRow() + 1); });
+}
+
+void MainWindow::showMenu(const QMenu &menu)
+{
+    m_ui->menubar->setActiveAction(menu.menuAction());
+}
+
+/// Does what a click on the row does. Beyond an end of the list there is no module.
+void MainWindow::chooseModule(int row)
+{
+    m_ui->menuItemsWidget->setCurrentRow(qBound(0, row, m_ui->menuItemsWidget->count() - 1));
+    focusPage();
 }
 
 /// After choosing a page the person can type on it at once. A list that has the focus keeps it, so

@@ -15,6 +15,7 @@ class MainProfile;
 }
 
 class KelGuideWindow;
+class QMenu;
 
 namespace Ui {
 class MainWindow;
@@ -71,6 +72,9 @@ private:
     void applyWindowMode();
     void restoreGeometryFromProfile();
     void connectKeyboard();
+    void connectModuleKeys();
+    void showMenu(const QMenu &menu);
+    void chooseModule(int row);
     void focusPage();
     void focusFirstField();
     void openGuide();

@@ -3,9 +3,13 @@
 
 #include "expectedmessages.h"
 #include "kelapplication.h"
+#include "kelcombobox.h"
 #include "mainwindowcase.h"
+#include "table.h"
 #include "testmain.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -25,6 +29,8 @@ private Q_SLOTS:
     void altAgainGoesBackToTheField();
     void theMenusAreWalkedByArrowKeys();
     void f10OpensTheFirstMenu();
+    void altWithItsFirstLetterOpensAMenu_data();
+    void altWithItsFirstLetterOpensAMenu();
     void altWithALetterTypesNothing_data();
     void altWithALetterTypesNothing();
     void altGrTypes();
@@ -32,6 +38,13 @@ private Q_SLOTS:
     void thePhaseTakesNoDigitWithAlt();
     void theArrowKeysWalkThroughTheModules();
     void returnInTheListGoesIntoThePage();
+    void ctrlWithADigitChoosesAModule_data();
+    void ctrlWithADigitChoosesAModule();
+    void ctrlWithPageKeysGoesThroughTheModules();
+    void moduleKeysWorkWhereverTheFocusIs_data();
+    void moduleKeysWorkWhereverTheFocusIs();
+    void moduleKeysFinishAnEdit();
+    void keysOfTheWindowWaitWhileAListIsOpen();
 
 private:
     QLineEdit *expression() const;
@@ -87,6 +100,30 @@ void KeyboardTest::f10OpensTheFirstMenu()
     child("menuFile")->close();
 }
 
+void KeyboardTest::altWithItsFirstLetterOpensAMenu_data()
+{
+    columns<int, QString>({"key", "menu"});
+    row("Alt+F", int(Qt::Key_F), "menuFile");
+    row("Alt+O", int(Qt::Key_O), "menuOptions");
+    row("Alt+H", int(Qt::Key_H), "menuHelp");
+}
+
+void KeyboardTest::altWithItsFirstLetterOpensAMenu()
+{
+    QFETCH(int, key);
+    QFETCH(QString, menu);
+
+    const ExpectedMessages messages(offscreenPopupMessages());
+    openWindow();
+    QTest::keyClick(expression(), Qt::Key(key), Qt::AltModifier);
+    auto *opened = child<QMenu>(qPrintable(menu));
+    QVERIFY(opened->isVisible());
+    QCOMPARE(expression()->text(), QString());
+    QTest::keyClick(opened, Qt::Key_Down);
+    QCOMPARE(opened->activeAction(), opened->actions().constFirst());
+    opened->close();
+}
+
 void KeyboardTest::altWithALetterTypesNothing_data()
 {
     QTest::addColumn<int>("module");
@@ -106,7 +143,7 @@ void KeyboardTest::altWithALetterTypesNothing()
     const QWidget *page = child<QStackedWidget>("stackedWidget")->currentWidget();
     auto *edit = page->findChild<QLineEdit *>(field);
     QTest::keyClicks(edit, QStringLiteral("3"));
-    QTest::keyClick(edit, 'f', Qt::AltModifier);
+    QTest::keyClick(edit, 'g', Qt::AltModifier);
     QTest::keyClick(edit, 'X', Qt::AltModifier | Qt::ShiftModifier);
     QCOMPARE(edit->text(), QStringLiteral("3"));
 }
@@ -161,6 +198,120 @@ void KeyboardTest::returnInTheListGoesIntoThePage()
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Return);
     QVERIFY(expression()->hasFocus());
+}
+
+void KeyboardTest::ctrlWithADigitChoosesAModule_data()
+{
+    columns<int, QString>({"module", "field"});
+    row("the dBm calculator", 0, "inputLineEdit");
+    row("the voltage calculator", 1, "inputLineEdit");
+    row("the unit converter", 2, "dbmLineEdit");
+    row("the dB converter", 3, "p1LineEdit");
+    row("the VSWR converter", 4, "vswrLineEdit");
+}
+
+/// One can type on the page at once, even if it was chosen before.
+void KeyboardTest::ctrlWithADigitChoosesAModule()
+{
+    QFETCH(int, module);
+    QFETCH(QString, field);
+
+    openWindow();
+    const auto *pages = child<QStackedWidget>("stackedWidget");
+    for (int time = 1; time <= 2; ++time) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(Qt::Key_1 + module),
+                        Qt::ControlModifier);
+        QCOMPARE(m_profile.currentModule(), module);
+        QCOMPARE(pages->currentIndex(), module);
+        const auto *edit = pages->currentWidget()->findChild<QLineEdit *>(field);
+        QVERIFY(edit->hasFocus());
+        QCOMPARE(edit->text(), QString());
+        child("changeWindowModeButton")->setFocus();
+    }
+}
+
+/// At the ends of the list there is nowhere to go.
+void KeyboardTest::ctrlWithPageKeysGoesThroughTheModules()
+{
+    openWindow();
+    const auto go = [this](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+        return m_profile.currentModule();
+    };
+    QCOMPARE(go(Qt::Key_PageUp), 0);
+    for (const int module : {1, 2, 3, 4, 4})
+        QCOMPARE(go(Qt::Key_PageDown), module);
+    for (const int module : {3, 2, 1, 0, 0})
+        QCOMPARE(go(Qt::Key_PageUp), module);
+
+    m_profile.setCurrentModule(99); // as the settings may say
+    QCOMPARE(go(Qt::Key_PageDown), 0);
+}
+
+void KeyboardTest::moduleKeysWorkWhereverTheFocusIs_data()
+{
+    columns<QString>({"name"});
+    row("in a field", "inputLineEdit");
+    row("in the result", "outputLineEdit");
+    row("in a selector", "calcModeComboBox");
+    row("in the phase", "phaseSpinBox");
+    row("on the button below the list", "changeWindowModeButton");
+    row("in the list of modules", "menuItemsWidget");
+}
+
+void KeyboardTest::moduleKeysWorkWhereverTheFocusIs()
+{
+    QFETCH(QString, name);
+
+    store("currentModule", 1);
+    openWindow();
+    auto *focused = child("voltageCalculatorWidget")->findChild<QWidget *>(name);
+    if (!focused)
+        focused = child(qPrintable(name));
+    const auto press = [focused](Qt::Key key) {
+        focused->setFocus();
+        QTest::keyClick(focused, key, Qt::ControlModifier);
+    };
+    press(Qt::Key_4);
+    QCOMPARE(m_profile.currentModule(), 3);
+    m_profile.setCurrentModule(1);
+    press(Qt::Key_PageDown);
+    QCOMPARE(m_profile.currentModule(), 2);
+    m_profile.setCurrentModule(1);
+    press(Qt::Key_PageUp);
+    QCOMPARE(m_profile.currentModule(), 0);
+    QCOMPARE(focused->hasFocus(), name == QLatin1String("menuItemsWidget"));
+    // Nothing but the module has changed.
+    QCOMPARE(m_profile.voltageCalculator().mode(), 0);
+    QCOMPARE(m_profile.voltageCalculator().phase(), 0.0);
+    QCOMPARE(m_profile.voltageCalculator().input(), QString());
+}
+
+void KeyboardTest::moduleKeysFinishAnEdit()
+{
+    store("currentModule", 2);
+    openWindow();
+    QTest::keyClicks(child("dbmLineEdit"), QStringLiteral("30"));
+    QCOMPARE(child<QLineEdit>("wattLineEdit")->text(), QString());
+    QTest::keyClick(child("dbmLineEdit"), Qt::Key_5, Qt::ControlModifier);
+    QCOMPARE(child<QLineEdit>("wattLineEdit")->text(), QStringLiteral("1E+03")); // mW
+}
+
+void KeyboardTest::keysOfTheWindowWaitWhileAListIsOpen()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    openWindow();
+    auto *selector =
+        child("dbmCalculatorWidget")->findChild<KelComboBox *>(QStringLiteral("calcModeComboBox"));
+    selector->setFocus();
+    selector->showPopup();
+    QTRY_VERIFY(selector->view()->isVisible());
+    QTest::keyClick(selector->view(), Qt::Key_3, Qt::ControlModifier);
+    QTest::keyClick(selector->view(), Qt::Key_F, Qt::AltModifier);
+    QCOMPARE(m_profile.currentModule(), 0);
+    QVERIFY(!child("menuFile")->isVisible());
+    QVERIFY(selector->view()->isVisible());
+    selector->hidePopup();
 }
 
 int main(int argc, char **argv)

@@ -17,6 +17,7 @@ DbmCalculatorWidget::DbmCalculatorWidget(QWidget *parent)
                   {QT_TR_NOOP("mean of the inputs: 10dBm + 10dBm = 10dBm"),
                    QT_TR_NOOP("sum of the inputs, in phase: 10dBm + 10dBm = 13.01dBm"),
                    QT_TR_NOOP("plain sum of the powers: 10W + 5W = 15W")}});
+    m_ui->inputLineEdit->setMicroSign(PastedText::MicroSign::Kept); // of the unit µW
 }
 
 DbmCalculatorWidget::~DbmCalculatorWidget() = default;

@@ -21,6 +21,12 @@ QString textOf(const QWidget *field)
     return edit ? edit->text() : QString();
 }
 
+const QComboBox *unitSelectorOf(const QWidget *field)
+{
+    const auto *edit = qobject_cast<const KelLineEdit *>(field);
+    return edit ? edit->unitSelector() : nullptr;
+}
+
 } // namespace
 
 FieldHints::FieldHints(QWidget *page, HintLine *line) : QObject(page), m_page(page), m_line(line)
@@ -70,8 +76,8 @@ void FieldHints::watch(const FieldHint &hint)
     QWidget *field = hint.field;
     if (const auto *edit = qobject_cast<QLineEdit *>(field))
         connect(edit, &QLineEdit::textChanged, this, [this, field] { noteText(field); });
-    if (hint.unit)
-        connect(hint.unit, &QComboBox::currentTextChanged, this,
+    if (const QComboBox *unit = unitSelectorOf(field))
+        connect(unit, &QComboBox::currentTextChanged, this,
                 [this, field] { tell(*entryOf(field)); });
 }
 
@@ -145,7 +151,8 @@ QString FieldHints::sentenceOf(const Entry &entry) const
     if (!entry.reason.isEmpty())
         return entry.reason;
     const QString takes = translated(entry.hint.takes);
-    return entry.hint.unit ? takes.arg(entry.hint.unit->currentText()) : takes;
+    const QComboBox *unit = unitSelectorOf(entry.hint.field);
+    return unit ? takes.arg(unit->currentText()) : takes;
 }
 
 const FieldHints::Entry *FieldHints::toldEntry()

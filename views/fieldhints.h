@@ -10,7 +10,6 @@
 #include <vector>
 
 class HintLine;
-class QComboBox;
 class QWidget;
 
 /// Why a field shows an error word.
@@ -25,12 +24,10 @@ struct FieldHint
 {
     /// One of the page's fields, or what holds the field.
     QWidget *field;
-    /// What the field takes. "%1" stands for the unit.
+    /// What the field takes. "%1" stands for the unit that is chosen beside it.
     const char *takes;
     /// The first of them also explains each word that has no reason of its own.
     std::vector<HintReason> reasons = {};
-    /// The selector of the unit, if there is one beside the field.
-    const QComboBox *unit = nullptr;
 };
 
 /**

@@ -19,6 +19,10 @@ UnitConverterWidget::UnitConverterWidget(QWidget *parent)
     build(*m_ui);
     m_ui->impedanceLineEdit->setSuffixText(QStringLiteral("Ω"));
     markErrors(findChildren<KelLineEdit *>());
+    m_ui->dbmLineEdit->setUnitSelector(m_ui->dbmUnitComboBox);
+    m_ui->wattLineEdit->setUnitSelector(m_ui->wattUnitComboBox);
+    m_ui->voltLineEdit->setUnitSelector(m_ui->voltUnitComboBox);
+    m_ui->dbvLineEdit->setUnitSelector(m_ui->dbvUnitComboBox);
     addVoltageModes();
     tellAboutFields();
     showModel();
@@ -53,11 +57,9 @@ void UnitConverterWidget::tellAboutFields()
     };
     hints().add({
         {m_ui->dbmLineEdit, QT_TR_NOOP("Power in %1: 13.5, -30; P = V²/R"),
-         because(QT_TR_NOOP("The logarithmic power is a number with a point: 13.5, -30")),
-         m_ui->dbmUnitComboBox},
+         because(QT_TR_NOOP("The logarithmic power is a number with a point: 13.5, -30"))},
         {m_ui->wattLineEdit, QT_TR_NOOP("Power in %1: 22.4, 500u; P = V²/R"),
-         because(QT_TR_NOOP("The linear power is a number from 0 up, with a point: 2.5, 100m")),
-         m_ui->wattUnitComboBox},
+         because(QT_TR_NOOP("The linear power is a number from 0 up, with a point: 2.5, 100m"))},
         {m_ui->impedanceLineEdit,
          QT_TR_NOOP("Impedance in ohms; a new one empties the four values"),
          {{ErrorText::kInvalid,
@@ -65,11 +67,9 @@ void UnitConverterWidget::tellAboutFields()
         {m_ui->vModeToggle,
          QT_TR_NOOP("What the voltages of a sine tell; a new mode calculates from the power")},
         {m_ui->dbvLineEdit, QT_TR_NOOP("Voltage in %1: -13, 107; V = √(P·R)"),
-         because(QT_TR_NOOP("The logarithmic voltage is a number with a point: 107, -13.5")),
-         m_ui->dbvUnitComboBox},
+         because(QT_TR_NOOP("The logarithmic voltage is a number with a point: 107, -13.5"))},
         {m_ui->voltLineEdit, QT_TR_NOOP("Voltage in %1: 2.5, 100u; V = √(P·R)"),
-         because(QT_TR_NOOP("The linear voltage is a number from 0 up, with a point: 2.5, 100u")),
-         m_ui->voltUnitComboBox},
+         because(QT_TR_NOOP("The linear voltage is a number from 0 up, with a point: 2.5, 100u"))},
     });
 }
 

@@ -37,6 +37,12 @@ void VswrConverterWidget::setUpFields()
     markErrors(fields);
     for (KelLineEdit *field : fields)
         followPlaceholder(field);
+    m_ui->forwardPowerLineEdit->setUnitSelector(m_ui->forwardPowerUnitComboBox);
+    m_ui->reflectedPowerLineEdit->setUnitSelector(m_ui->reflectedPowerUnitComboBox);
+    m_ui->absorbedPowerLineEdit->setUnitSelector(m_ui->absorbedPowerUnitComboBox);
+    m_ui->forwardVoltageLineEdit->setUnitSelector(m_ui->forwardVoltageUnitComboBox);
+    m_ui->reflectedVoltageLineEdit->setUnitSelector(m_ui->reflectedVoltageUnitComboBox);
+    m_ui->absorbedVoltageLineEdit->setUnitSelector(m_ui->absorbedVoltageUnitComboBox);
 }
 
 /// Leaving a field, or Enter in it, calculates from its row.
@@ -87,23 +93,18 @@ void VswrConverterWidget::tellAboutFields()
         {m_ui->amLineEdit, QT_TR_NOOP("Mismatch loss in dB, from 0 up: 0.5; -10·log₁₀(1 - Γ²)"),
          because(QT_TR_NOOP("The mismatch loss is a number from 0 up, with a point: 0.5"))},
         {m_ui->forwardPowerLineEdit,
-         QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"), noPower,
-         m_ui->forwardPowerUnitComboBox},
+         QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"), noPower},
         {m_ui->reflectedPowerLineEdit,
-         QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"), noPower,
-         m_ui->reflectedPowerUnitComboBox},
+         QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"), noPower},
         {m_ui->absorbedPowerLineEdit,
-         QT_TR_NOOP("Absorbed power P→ - P← in %1; a new one empties P→ if Γ² is known"), noPower,
-         m_ui->absorbedPowerUnitComboBox},
+         QT_TR_NOOP("Absorbed power P→ - P← in %1; a new one empties P→ if Γ² is known"), noPower},
         {m_ui->forwardVoltageLineEdit,
-         QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"), noVoltage,
-         m_ui->forwardVoltageUnitComboBox},
+         QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"), noVoltage},
         {m_ui->reflectedVoltageLineEdit,
-         QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"), noVoltage,
-         m_ui->reflectedVoltageUnitComboBox},
+         QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"), noVoltage},
         {m_ui->absorbedVoltageLineEdit,
          QT_TR_NOOP("Absorbed voltage V→ - V← in %1; a new one empties V→ if Γ² is known"),
-         noVoltage, m_ui->absorbedVoltageUnitComboBox},
+         noVoltage},
     });
 }
 

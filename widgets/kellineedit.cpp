@@ -6,11 +6,17 @@
 #include "accessiblewidgets.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -21,6 +27,40 @@ int marginFor(const QLabel *label)
 {
     return label->text().isEmpty() ? 0 : label->width() + kLabelMargin;
 }
+
+/// Shift turns Ctrl+Insert, which copies, into the key that pastes what is selected anywhere.
+QClipboard::Mode clipboardOf(const QKeyEvent &key)
+{
+    const bool isSelection = key.key() == Qt::Key_Insert &&
+                             key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+                             QGuiApplication::clipboard()->supportsSelection();
+    return isSelection ? QClipboard::Selection : QClipboard::Clipboard;
+}
+
+/// The entry Paste of a context menu by Qt, or null.
+QAction *pasteAction(const QMenu &menu)
+{
+    const QList<QAction *> actions = menu.actions();
+    const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction *action) {
+        return action->text().startsWith(QLineEdit::tr("&Paste"));
+    });
+    return paste == actions.end() ? nullptr : *paste;
+}
+
+/// Drops @p contents where and how @p event drops something else.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
+{
+    return QDropEvent(event.posF(), event.possibleActions(), &contents, event.mouseButtons(),
+                      event.keyboardModifiers());
+}
+#else
+QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
+{
+    return QDropEvent(event.position(), event.possibleActions(), &contents, event.buttons(),
+                      event.modifiers());
+}
+#endif
 
 } // namespace
 
@@ -71,6 +111,16 @@ void KelLineEdit::setErrorTexts(const QStringList &texts)
 {
     m_errorTexts = texts;
     updateError();
+}
+
+const QComboBox *KelLineEdit::unitSelector() const
+{
+    return m_unitSelector;
+}
+
+void KelLineEdit::setUnitSelector(const QComboBox *selector)
+{
+    m_unitSelector = selector;
 }
 
 bool KelLineEdit::event(QEvent *event)
@@ -131,20 +181,47 @@ void KelLineEdit::focusOutEvent(QFocusEvent *event)
         leave();
 }
 
+void KelLineEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (isReadOnly() || !event->matches(QKeySequence::Paste))
+        return QLineEdit::keyPressEvent(event);
+    pasteFrom(clipboardOf(*event));
+    event->accept();
+}
+
 /// The click that brings the focus also places the cursor, so an error word is selected after it.
-/// What the person does then, clicking again or selecting a part, stays as it is.
+/// What the person does then, clicking again or selecting a part, stays as it is. The middle button
+/// pastes where it was pressed, beside what was selected.
 void KelLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
-    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::MiddleButton && !isReadOnly() &&
+        QGuiApplication::clipboard()->supportsSelection()) {
+        deselect();
+        pasteFrom(QClipboard::Selection);
+    } else {
+        QLineEdit::mouseReleaseEvent(event);
+    }
     if (m_isEnteredByClick && !hasSelectedText())
         selectError();
     m_isEnteredByClick = false;
 }
 
-/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it.
+/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it. A text
+/// that is moved within the edit does not come in, so it stays as it is.
 void KelLineEdit::dropEvent(QDropEvent *event)
 {
-    QLineEdit::dropEvent(event);
+    if (event->source() == this || !event->mimeData()->hasText()) {
+        QLineEdit::dropEvent(event);
+    } else {
+        QMimeData contents;
+        contents.setText(cleaned(event->mimeData()->text()));
+        QDropEvent drop = dropOf(contents, *event);
+        endUndoStep();
+        QLineEdit::dropEvent(&drop);
+        endUndoStep();
+        event->setDropAction(drop.dropAction());
+        event->setAccepted(drop.isAccepted());
+    }
     if (event->isAccepted())
         setFocus(Qt::OtherFocusReason);
 }
@@ -157,7 +234,46 @@ void KelLineEdit::contextMenuEvent(QContextMenuEvent *event)
         return;
     m_contextMenu->setParent(window(), m_contextMenu->windowFlags());
     m_contextMenu->setAttribute(Qt::WA_DeleteOnClose);
+    if (QAction *paste = pasteAction(*m_contextMenu)) {
+        disconnect(paste, &QAction::triggered, this, nullptr);
+        connect(paste, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
+    }
     m_contextMenu->popup(event->globalPos());
+}
+
+QString KelLineEdit::cleaned(const QString &text) const
+{
+    const QString unit = m_unitSelector ? m_unitSelector->currentText() : m_suffixLabel->text();
+    return PastedText::cleaned(text, unit, m_microSign);
+}
+
+/// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when there is
+/// nothing to paste.
+void KelLineEdit::pasteFrom(QClipboard::Mode mode)
+{
+    const QString text = QGuiApplication::clipboard()->text(mode);
+    if (text.isEmpty() && !hasSelectedText())
+        return;
+    endUndoStep();
+    insert(cleaned(text));
+    endUndoStep();
+}
+
+/// What was typed before is undone by itself, and so is what comes after. Qt ends a step when the
+/// cursor moves, when an edit is cleared, or when a selection is removed, which insert() does.
+void KelLineEdit::endUndoStep()
+{
+    if (hasSelectedText())
+        return;
+    const QSignalBlocker nothingHappens(this);
+    const int cursor = cursorPosition();
+    if (text().isEmpty())
+        clear();
+    else if (cursor == 0)
+        end(false);
+    else
+        home(false);
+    setCursorPosition(cursor);
 }
 
 void KelLineEdit::noteEdit(const QString &text)

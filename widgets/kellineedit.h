@@ -4,11 +4,15 @@
 #ifndef WIDGETS_KELLINEEDIT_H
 #define WIDGETS_KELLINEEDIT_H
 
+#include "pastedtext.h"
+
+#include <QClipboard>
 #include <QColor>
 #include <QLineEdit>
 #include <QPointer>
 #include <QStringList>
 
+class QComboBox;
 class QLabel;
 class QMenu;
 
@@ -26,6 +30,9 @@ class QMenu;
  * that a style sheet can make it look like one. It selects such a word whole, so that typing
  * replaces it. Screen readers get the fixed texts as the edit's description, unless the edit has a
  * description of its own.
+ *
+ * A text that is pasted or dropped is cleaned first (see pastedtext.h), and the unit beside the
+ * edit, in its right end or in a selector, is left out. What is typed stays as it is.
  */
 class KelLineEdit : public QLineEdit
 {
@@ -49,6 +56,12 @@ public:
     void setSuffixText(const QString &text);
     void setErrorTexts(const QStringList &texts);
 
+    /// The unit that is chosen there stands beside the edit. Null at first.
+    const QComboBox *unitSelector() const;
+    void setUnitSelector(const QComboBox *selector);
+    /// Whether the edit's reader knows the micro sign. If not, a pasted one becomes "u".
+    void setMicroSign(PastedText::MicroSign sign) { m_microSign = sign; }
+
     /// Emits editingFinished whenever the edit is left, changed or not. Off at first.
     void setFinishedByEveryLeaving(bool finished) { m_isFinishedByEveryLeaving = finished; }
 
@@ -63,11 +76,17 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
+    /// What the edit takes of a text that is pasted or dropped.
+    virtual QString cleaned(const QString &text) const;
+
 private:
+    void pasteFrom(QClipboard::Mode mode);
+    void endUndoStep();
     void noteEdit(const QString &text);
     void noteWrittenText(const QString &text);
     void leave();
@@ -79,6 +98,8 @@ private:
 
     QLabel *const m_prefixLabel;
     QLabel *const m_suffixLabel;
+    QPointer<const QComboBox> m_unitSelector;
+    PastedText::MicroSign m_microSign = PastedText::MicroSign::Replaced;
     QString m_labelDescription;
     QStringList m_errorTexts;
     bool m_hasError = false;

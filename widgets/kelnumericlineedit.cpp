@@ -75,6 +75,8 @@ void KelNumericLineEdit::setUnitText(const QString &text)
     if (text == m_unitText)
         return;
     m_unitText = text;
+    setMicroSign(text.contains(QChar(u'\u00B5')) ? PastedText::MicroSign::Kept
+                                                 : PastedText::MicroSign::Replaced);
     rebuildValidator();
     Q_EMIT unitTextChanged();
 }
@@ -104,6 +106,12 @@ void KelNumericLineEdit::changeEvent(QEvent *event)
         rebuildValidator();
 }
 
+/// The locale may have a minus sign of its own, and the field takes no other.
+QString KelNumericLineEdit::cleaned(const QString &text) const
+{
+    return KelLineEdit::cleaned(text).replace(QLatin1Char('-'), minusSign());
+}
+
 void KelNumericLineEdit::rebuildValidator()
 {
     auto *validator = new Validator(expressionOf(pattern()), this);
@@ -112,11 +120,16 @@ void KelNumericLineEdit::rebuildValidator()
     m_validator = validator;
 }
 
+/// In Qt 6 the signs of some locales also have marks of direction, which nobody types.
+QString KelNumericLineEdit::minusSign() const
+{
+    const QString sign = locale().negativeSign();
+    return sign.size() == 1 ? sign : QStringLiteral("-");
+}
+
 QString KelNumericLineEdit::pattern() const
 {
-    // In Qt 6 the signs of some locales also have marks of direction, which nobody types.
-    const QString sign = locale().negativeSign();
-    const QString minus = Expression::escape(sign.size() == 1 ? sign : QStringLiteral("-"));
+    const QString minus = Expression::escape(minusSign());
     const QString point = Expression::escape(locale().decimalPoint());
 
     QString text = QLatin1Char('^') + minus + QLatin1Char('?');

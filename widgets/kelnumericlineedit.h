@@ -42,9 +42,11 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    QString cleaned(const QString &text) const override;
 
 private:
     void rebuildValidator();
+    QString minusSign() const;
     QString pattern() const;
 
     QString m_unitText;

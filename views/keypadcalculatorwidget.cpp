@@ -7,6 +7,7 @@
 #include "expressionprofile.h"
 #include "kelautoresizelineedit.h"
 #include "plaintip.h"
+#include "quieterror.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -106,6 +107,7 @@ void KeypadCalculatorWidget::on_calcModeComboBox_currentIndexChanged(int index)
 
 void KeypadCalculatorWidget::on_pushButton_calc_clicked()
 {
+    m_output->setQuiet(false);
     if (m_takenOver || !hasResult())
         return;
     m_takenOver = resultWithUnit();
@@ -169,6 +171,7 @@ void KeypadCalculatorWidget::onModeChanged()
 {
     m_mode->setCurrentIndex(m_profile.mode());
     hints().setTakes(m_mode, m_sentences.modes.at(size_t(m_profile.mode())));
+    m_output->setQuiet(false);
     describeOutput();
 }
 
@@ -183,6 +186,7 @@ void KeypadCalculatorWidget::onValidUnitsChanged()
 void KeypadCalculatorWidget::setUpOutput()
 {
     markErrors({m_output});
+    new QuietError(m_input, m_output);
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
     m_output->installEventFilter(this);

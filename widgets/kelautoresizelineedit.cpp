@@ -17,6 +17,8 @@ constexpr int kSmallestFontSize = 10;
 KelAutoResizeLineEdit::KelAutoResizeLineEdit(QWidget *parent) : KelLineEdit(parent)
 {
     connect(this, &QLineEdit::textChanged, this, &KelAutoResizeLineEdit::adjustTextSizeAuto);
+    // A style sheet may give a quiet error other letters, which need another width.
+    connect(this, &KelLineEdit::quietChanged, this, &KelAutoResizeLineEdit::adjustTextSizeAuto);
 }
 
 int KelAutoResizeLineEdit::largestFontSize() const

@@ -107,6 +107,16 @@ void KelLineEdit::setPlaceholderColor(const QColor &color)
     Q_EMIT placeholderColorChanged();
 }
 
+void KelLineEdit::setQuiet(bool quiet)
+{
+    if (quiet == m_isQuiet)
+        return;
+    m_isQuiet = quiet;
+    if (m_hasError)
+        styleAgain();
+    Q_EMIT quietChanged();
+}
+
 void KelLineEdit::setErrorTexts(const QStringList &texts)
 {
     m_errorTexts = texts;
@@ -333,11 +343,17 @@ void KelLineEdit::updateError()
     if (isError == m_hasError)
         return;
     m_hasError = isError;
-    style()->unpolish(this);
-    style()->polish(this);
+    styleAgain();
     if (hasFocus() && !m_isEdited)
         selectError();
     Q_EMIT errorChanged();
+}
+
+/// A style sheet reads the properties of a widget only when it is applied.
+void KelLineEdit::styleAgain()
+{
+    style()->unpolish(this);
+    style()->polish(this);
 }
 
 /// Every application of a style sheet replaces the palette, and with it the placeholder's color.

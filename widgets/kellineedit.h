@@ -38,6 +38,7 @@ class KelLineEdit : public QLineEdit
 {
     Q_OBJECT
     Q_PROPERTY(bool error READ hasError NOTIFY errorChanged)
+    Q_PROPERTY(bool quiet READ isQuiet WRITE setQuiet NOTIFY quietChanged)
     Q_PROPERTY(QColor placeholderColor READ placeholderColor WRITE setPlaceholderColor NOTIFY
                    placeholderColorChanged)
 
@@ -46,6 +47,10 @@ public:
 
     /// Whether the whole text is one of the error texts.
     bool hasError() const { return m_hasError; }
+
+    /// Whether a style sheet should keep an error from drawing attention. It stays an error.
+    bool isQuiet() const { return m_isQuiet; }
+    void setQuiet(bool quiet);
 
     /// The color of the placeholder. A style sheet sets it as qproperty-placeholderColor: by itself
     /// Qt 5.15 draws placeholders in the full text color of the sheet, like something typed.
@@ -67,6 +72,7 @@ public:
 
 Q_SIGNALS:
     void errorChanged();
+    void quietChanged();
     void placeholderColorChanged();
 
 protected:
@@ -94,6 +100,7 @@ private:
     void layOutLabels();
     void updateDescription();
     void updateError();
+    void styleAgain();
     void applyPlaceholderColor();
 
     QLabel *const m_prefixLabel;
@@ -103,6 +110,7 @@ private:
     QString m_labelDescription;
     QStringList m_errorTexts;
     bool m_hasError = false;
+    bool m_isQuiet = false;
     QColor m_placeholderColor;
 
     bool m_isFinishedByEveryLeaving = false;

@@ -50,6 +50,7 @@ const Pair kPairs[] = {
     {"calculate key, selected text, checked segment", Palette::inverseText, Palette::accentText,
      kText},
     {"calculate key under the pointer", Palette::inverseText, Palette::accentPointer, kText},
+    {"error on the window while one types", Palette::mutedText, Palette::window, kText},
     {"error on the window", Palette::error, Palette::window, kText},
     {"error in a field", Palette::error, Palette::surface, kText},
     {"border of a field on the window", Palette::border, Palette::window, kMark},

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void errorIsAnnouncedOnlyWhenItChanges();
     void errorFollowsTheListOfTexts();
     void styleSheetFollowsTheError();
+    void aQuietErrorStaysAnError();
+    void styleSheetFollowsTheQuiet();
 
     void placeholderKeepsItsColorUnderAStyleSheet();
 
@@ -228,6 +230,43 @@ void KelLineEditTest::styleSheetFollowsTheError()
     QCOMPARE(m_edit->palette().color(QPalette::Text), error);
     m_edit->setText(QStringLiteral("1"));
     QVERIFY(m_edit->palette().color(QPalette::Text) != error);
+}
+
+void KelLineEditTest::aQuietErrorStaysAnError()
+{
+    m_edit->setErrorTexts({QStringLiteral("NAN")});
+    QVERIFY(!m_edit->isQuiet());
+    QSignalSpy changes(m_edit, &KelLineEdit::quietChanged);
+    m_edit->setQuiet(true);
+    m_edit->setQuiet(true);
+    QCOMPARE(changes.count(), 1);
+
+    m_edit->setText(QStringLiteral("NAN"));
+    QVERIFY(m_edit->hasError());
+    QVERIFY(m_edit->property("quiet").toBool());
+    m_edit->setText(QStringLiteral("1"));
+    QVERIFY(m_edit->isQuiet());
+    m_edit->setQuiet(false);
+    QCOMPARE(changes.count(), 2);
+}
+
+void KelLineEditTest::styleSheetFollowsTheQuiet()
+{
+    qApp->setStyleSheet(
+        QStringLiteral("KelLineEdit[error=\"true\"][quiet=\"true\"] { color: rgb(0, 200, 0) }"));
+    m_edit->setErrorTexts({QStringLiteral("NAN")});
+    const QColor quiet(0, 200, 0);
+    const auto isShownQuiet = [&] {
+        return m_edit->palette().color(QPalette::Text) == quiet;
+    };
+    m_edit->setQuiet(true);
+    QVERIFY(!isShownQuiet());
+    m_edit->setText(QStringLiteral("NAN"));
+    QVERIFY(isShownQuiet());
+    m_edit->setQuiet(false);
+    QVERIFY(!isShownQuiet());
+    m_edit->setQuiet(true);
+    QVERIFY(isShownQuiet());
 }
 
 void KelLineEditTest::placeholderKeepsItsColorUnderAStyleSheet()

@@ -5,6 +5,7 @@
 
 #include "errortexts.h"
 #include "expressionprofile.h"
+#include "inputkeys.h"
 #include "kelautoresizelineedit.h"
 #include "plaintip.h"
 #include "quieterror.h"
@@ -120,9 +121,11 @@ void KeypadCalculatorWidget::numpadButtonClicked()
     m_input->insert(qobject_cast<QPushButton *>(sender())->text());
 }
 
+/// Empties the line as a person would, so that Ctrl+Z brings the expression back.
 void KeypadCalculatorWidget::on_pushButton_C_clicked()
 {
-    m_profile.setInput(QString());
+    m_input->selectAll();
+    m_input->del();
     m_profile.setOutput(QString());
 }
 
@@ -181,6 +184,15 @@ void KeypadCalculatorWidget::onValidUnitsChanged()
     const auto *items = qobject_cast<QStandardItemModel *>(m_outputUnit->model());
     for (int i = 0; i < items->rowCount(); ++i)
         items->item(i)->setEnabled(validUnits.value(i));
+}
+
+void KeypadCalculatorWidget::setUpKeyboard()
+{
+    const auto *keys = new InputKeys(m_input);
+    connect(keys, &InputKeys::calculateRequested, this,
+            &KeypadCalculatorWidget::on_pushButton_calc_clicked);
+    connect(keys, &InputKeys::clearRequested, this,
+            &KeypadCalculatorWidget::on_pushButton_C_clicked);
 }
 
 void KeypadCalculatorWidget::setUpOutput()

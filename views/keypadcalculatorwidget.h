@@ -55,6 +55,7 @@ protected:
         hints().add({{m_input, sentences.input}, {m_mode, sentences.modes.front()}});
         tellAboutModes();
         connectKeys();
+        setUpKeyboard();
         showProfile();
         setUpOutput(); // last, so that a result that is an error is marked at once
     }
@@ -85,6 +86,7 @@ private Q_SLOTS:
     void onValidUnitsChanged();
 
 private:
+    void setUpKeyboard();
     void setUpOutput();
     void tellAboutModes();
     void connectKeys();

@@ -145,6 +145,7 @@ QuietErrorTest::QuietErrorTest()
     Steps &ended = m_endings;
     add(ended, "with Return", [](Page &page) { page.type(Qt::Key_Return); });
     add(ended, "with Enter", [](Page &page) { page.type(Qt::Key_Enter); });
+    add(ended, "with =", [](Page &page) { page.type("="); });
     add(ended, "with = of the keypad", [](Page &page) { page.press(QStringLiteral("calc")); });
     add(ended, "with Tab", [](Page &page) { page.type(Qt::Key_Tab); });
     add(ended, "by a click on the result",

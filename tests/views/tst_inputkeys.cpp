@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "calculatorpage.h"
+#include "dbmcalculatorwidget.h"
+#include "expectedmessages.h"
+#include "table.h"
+#include "testmain.h"
+
+#include <QApplication>
+#include <QTest>
+
+using namespace Dezimo;
+
+/// The keys that an input line has as the line of a calculator.
+class InputKeysTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void theEqualsSignTakesTheResultOver_data();
+    void theEqualsSignTakesTheResultOver();
+    void theEqualsSignTypesNothing_data();
+    void theEqualsSignTypesNothing();
+    void aCommandWithTheEqualsSignDoesNothing_data();
+    void aCommandWithTheEqualsSignDoesNothing();
+
+    void escEmptiesTheInput_data();
+    void escEmptiesTheInput();
+    void anEmptiedInputComesBack_data();
+    void anEmptiedInputComesBack();
+    void escClosesAListFirst();
+    void escDuringTheSlide();
+
+private:
+    DbmCalculatorProfile &m_profile = MainProfile::instance().dbmCalculator();
+};
+
+namespace {
+
+CalculatorPage shownPage()
+{
+    return CalculatorPage::shown<DbmCalculatorWidget>();
+}
+
+} // namespace
+
+void InputKeysTest::initTestCase()
+{
+    applyStyleSheet();
+}
+
+void InputKeysTest::init()
+{
+    loadDefaults();
+}
+
+void InputKeysTest::theEqualsSignTakesTheResultOver_data()
+{
+    columns<Qt::KeyboardModifiers>({"held"});
+    row("with a key of its own", Qt::KeyboardModifiers(Qt::NoModifier));
+    row("with Shift, as on many keyboards", Qt::KeyboardModifiers(Qt::ShiftModifier));
+    row("on the numeric keypad", Qt::KeyboardModifiers(Qt::KeypadModifier));
+}
+
+void InputKeysTest::theEqualsSignTakesTheResultOver()
+{
+    QFETCH(Qt::KeyboardModifiers, held);
+
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    const MoveLog rowMoves(page.outputRow());
+    QTest::keyClick(&page.input(), '=', held);
+
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm"));
+    QTRY_COMPARE(page.result(), QString());
+    QVERIFY(!rowMoves.places().empty());
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm"));
+}
+
+void InputKeysTest::theEqualsSignTypesNothing_data()
+{
+    columns<QString>({"input"});
+    row("where it cannot take over a lone value", "10dBm");
+    row("where a unit is missing", "1mW+1");
+}
+
+void InputKeysTest::theEqualsSignTypesNothing()
+{
+    QFETCH(QString, input);
+
+    CalculatorPage page = shownPage();
+    page.type(input);
+    page.type("=");
+    QCOMPARE(page.input().text(), input);
+}
+
+void InputKeysTest::aCommandWithTheEqualsSignDoesNothing_data()
+{
+    columns<Qt::KeyboardModifiers>({"held"});
+    row("with Ctrl", Qt::KeyboardModifiers(Qt::ControlModifier));
+    row("with Meta", Qt::KeyboardModifiers(Qt::MetaModifier));
+}
+
+void InputKeysTest::aCommandWithTheEqualsSignDoesNothing()
+{
+    QFETCH(Qt::KeyboardModifiers, held);
+
+    CalculatorPage page = shownPage();
+    page.type("10dBm+3dB");
+    QTest::keyClick(&page.input(), '=', held);
+    QVERIFY(page.input().text().startsWith(QStringLiteral("10dBm+3dB")));
+}
+
+void InputKeysTest::escEmptiesTheInput_data()
+{
+    columns<QString>({"input"});
+    row("an expression with a result", "10dBm+10dBm");
+    row("an error", "10dBm");
+    row("an input that is empty already", "");
+}
+
+void InputKeysTest::escEmptiesTheInput()
+{
+    QFETCH(QString, input);
+
+    CalculatorPage page = shownPage();
+    page.type(input);
+    page.type(Qt::Key_Escape);
+    QCOMPARE(page.input().text(), QString());
+    QCOMPARE(page.result(), QString());
+    QCOMPARE(m_profile.input(), QString());
+    QCOMPARE(m_profile.output(), QString());
+}
+
+void InputKeysTest::anEmptiedInputComesBack_data()
+{
+    columns<bool>({"byKey"});
+    row("after Esc", false);
+    row("after the key C of the keypad", true);
+}
+
+void InputKeysTest::anEmptiedInputComesBack()
+{
+    QFETCH(bool, byKey);
+
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    byKey ? page.press(QStringLiteral("C")) : page.type(Qt::Key_Escape);
+    QCOMPARE(page.input().text(), QString());
+
+    QTest::keySequence(&page.input(), QKeySequence::Undo);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+}
+
+void InputKeysTest::escClosesAListFirst()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    QTest::mouseClick(&page.unit(), Qt::LeftButton);
+    QWidget *list = QApplication::activePopupWidget();
+    QVERIFY(list);
+    QTest::keyClick(list, Qt::Key_Escape);
+    QVERIFY(!list->isVisible());
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+}
+
+void InputKeysTest::escDuringTheSlide()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm=");
+    page.type(Qt::Key_Escape);
+    QCOMPARE(page.input().text(), QString());
+    QTRY_COMPARE(page.result(), QString());
+    QCOMPARE(m_profile.output(), QString());
+}
+
+DEZIMO_TEST_MAIN(QApplication, InputKeysTest)
+#include "tst_inputkeys.moc"

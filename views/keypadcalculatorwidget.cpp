@@ -9,6 +9,7 @@
 #include "kelautoresizelineedit.h"
 #include "plaintip.h"
 #include "quieterror.h"
+#include "resultcopy.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -199,6 +200,7 @@ void KeypadCalculatorWidget::setUpOutput()
 {
     markErrors({m_output});
     new QuietError(m_input, m_output);
+    new ResultCopy(m_input, m_output, m_outputUnit);
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
     m_output->installEventFilter(this);

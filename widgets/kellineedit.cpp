@@ -242,6 +242,7 @@ void KelLineEdit::contextMenuEvent(QContextMenuEvent *event)
     m_contextMenu = createStandardContextMenu();
     if (!m_contextMenu)
         return;
+    m_contextMenu->insertActions(m_contextMenu->actions().value(0), actions());
     m_contextMenu->setParent(window(), m_contextMenu->windowFlags());
     m_contextMenu->setAttribute(Qt::WA_DeleteOnClose);
     if (QAction *paste = pasteAction(*m_contextMenu)) {

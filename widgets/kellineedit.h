@@ -33,6 +33,8 @@ class QMenu;
  *
  * A text that is pasted or dropped is cleaned first (see pastedtext.h), and the unit beside the
  * edit, in its right end or in a selector, is left out. What is typed stays as it is.
+ *
+ * Actions that are added to the edit come first in its context menu.
  */
 class KelLineEdit : public QLineEdit
 {

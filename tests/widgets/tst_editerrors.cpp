@@ -26,6 +26,7 @@ private Q_SLOTS:
     void theContextMenuKeepsTheCursor();
     void theContextMenuHasTheFontOfMenus();
     void theContextMenuGoesWhenItIsClosed();
+    void theContextMenuBeginsWithAddedActions();
 };
 
 void EditErrorsTest::anErrorIsSelectedOnArrival_data()
@@ -147,6 +148,19 @@ void EditErrorsTest::theContextMenuGoesWhenItIsClosed()
     m_edit->selectAll();
     chooseFromContextMenu(QStringLiteral("&Copy"));
     QTRY_COMPARE(m_window->findChildren<QMenu *>(), QList<QMenu *>{m_menu.get()});
+}
+
+void EditErrorsTest::theContextMenuBeginsWithAddedActions()
+{
+    QAction first(QStringLiteral("First"));
+    QAction second(QStringLiteral("Second"));
+    const auto entries = openContextMenu().actions().size();
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    m_edit->addActions({&first, &second});
+    const QList<QAction *> actions = openContextMenu().actions();
+    QCOMPARE(actions.mid(0, 2), (QList<QAction *>{&first, &second}));
+    QCOMPARE(actions.size(), entries + 2);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
 }
 
 DEZIMO_TEST_MAIN(QApplication, EditErrorsTest)

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "resultcopy.h"
+
+#include "errortexts.h"
+#include "kellineedit.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+namespace {
+
+bool isCopyKey(QEvent *event)
+{
+    return event->type() == QEvent::KeyPress &&
+           static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy);
+}
+
+} // namespace
+
+ResultCopy::ResultCopy(QLineEdit *input, KelLineEdit *result, const QComboBox *unit)
+    : QObject(result),
+      m_result(result),
+      m_unit(unit)
+{
+    input->installEventFilter(this);
+    result->installEventFilter(this);
+}
+
+bool ResultCopy::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_result && event->type() == QEvent::ContextMenu)
+        updateMenuEntry();
+    if (!isCopyKey(event) || static_cast<QLineEdit *>(watched)->hasSelectedText() || !hasResult())
+        return QObject::eventFilter(watched, event);
+    copy();
+    return true;
+}
+
+bool ResultCopy::hasResult() const
+{
+    return !m_result->hasError() && !m_result->text().isEmpty() &&
+           m_result->text() != Dezimo::ErrorText::kNoResult;
+}
+
+void ResultCopy::copy() const
+{
+    QString text = m_result->text();
+    if (!m_unit->isHidden())
+        text += QLatin1Char(' ') + m_unit->currentText();
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void ResultCopy::updateMenuEntry()
+{
+    if (m_menuEntry == nullptr) {
+        m_menuEntry = new QAction(tr("Copy with Unit"), m_result);
+        connect(m_menuEntry, &QAction::triggered, this, &ResultCopy::copy);
+        m_result->addAction(m_menuEntry);
+    }
+    m_menuEntry->setEnabled(hasResult());
+}

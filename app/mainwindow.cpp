@@ -72,13 +72,14 @@ constexpr QSize kSmallestPage(560, 388);
 
 /// Styles the page while it is empty, so that showing the window does not style the view, too.
 template <typename View>
-void addView(KelLatePage *page, const char *name)
+View *addView(KelLatePage *page, const char *name)
 {
     page->setExpectedSize(kSmallestPage);
     page->ensurePolished();
     auto *view = new View(page);
     view->setObjectName(QLatin1String(name));
     page->layout()->addWidget(view);
+    return view;
 }
 
 /// Such a key comes before the widget that has the focus, but waits while a menu, a list or a
@@ -273,8 +274,10 @@ void MainWindow::on_actionAbout_triggered()
 /// withdrawn: Qt styles a widget when it is shown, and nothing is shown yet.
 void MainWindow::addViews()
 {
-    addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");
-    addView<VoltageCalculatorWidget>(m_ui->page_2, "voltageCalculatorWidget");
+    auto *powers = addView<DbmCalculatorWidget>(m_ui->page, "dbmCalculatorWidget");
+    auto *voltages = addView<VoltageCalculatorWidget>(m_ui->page_2, "voltageCalculatorWidget");
+    powers->takeKeysFrom(m_ui->menuItemsWidget);
+    voltages->takeKeysFrom(m_ui->menuItemsWidget);
     addView<UnitConverterWidget>(m_ui->page_3, "unitConverterWidget");
     addView<DbConverterWidget>(m_ui->page_4, "dbConverterWidget");
     addView<VswrConverterWidget>(m_ui->page_5, "vswrConverterWidget");

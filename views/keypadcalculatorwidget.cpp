@@ -10,6 +10,7 @@
 #include "plaintip.h"
 #include "quieterror.h"
 #include "resultcopy.h"
+#include "straykeys.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -51,6 +52,11 @@ void KeypadCalculatorWidget::changeEvent(QEvent *event)
     ModulePage::changeEvent(event);
     if (event->type() == QEvent::LanguageChange && m_mode)
         tellAboutModes();
+}
+
+void KeypadCalculatorWidget::takeKeysFrom(QWidget *control)
+{
+    m_strayKeys->takeFrom(control);
 }
 
 /// While a result slides, the model has taken it as its input already and has an output for it. A
@@ -194,6 +200,11 @@ void KeypadCalculatorWidget::setUpKeyboard()
             &KeypadCalculatorWidget::on_pushButton_calc_clicked);
     connect(keys, &InputKeys::clearRequested, this,
             &KeypadCalculatorWidget::on_pushButton_C_clicked);
+    // The keypad has no brackets, but they are typed in the same go.
+    m_strayKeys = new StrayKeys(m_input, connectKeys() + QStringLiteral("()="));
+    takeKeysFrom(m_output);
+    takeKeysFrom(m_outputUnit);
+    takeKeysFrom(m_mode);
 }
 
 void KeypadCalculatorWidget::setUpOutput()
@@ -223,14 +234,18 @@ void KeypadCalculatorWidget::keepListSize()
 }
 
 /// After a click on a key, typing goes on in the input line, whatever had the focus before.
-void KeypadCalculatorWidget::connectKeys()
+QString KeypadCalculatorWidget::connectKeys()
 {
+    QString characters;
     const QList<QPushButton *> keys = findChildren<QPushButton *>();
     for (QPushButton *key : keys) {
-        if (!isFunctionKey(key))
+        if (!isFunctionKey(key)) {
             connect(key, &QPushButton::clicked, this, &KeypadCalculatorWidget::numpadButtonClicked);
+            characters += key->text();
+        }
         connect(key, &QPushButton::clicked, m_input, qOverload<>(&QWidget::setFocus));
     }
+    return characters;
 }
 
 /// The font of the result is not fitted yet, because its row has no size.

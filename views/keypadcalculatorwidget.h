@@ -12,6 +12,7 @@
 class KelAutoResizeLineEdit;
 class QComboBox;
 class QLineEdit;
+class StrayKeys;
 
 namespace Dezimo {
 class ExpressionProfile;
@@ -27,6 +28,10 @@ class ExpressionProfile;
 class KeypadCalculatorWidget : public ModulePage
 {
     Q_OBJECT
+
+public:
+    /// Brings to the input line what is typed while @p control has the focus and this page is open.
+    void takeKeysFrom(QWidget *control);
 
 protected:
     /// @p profile must outlive the page.
@@ -54,7 +59,6 @@ protected:
         setFocusProxy(form.inputLineEdit);
         hints().add({{m_input, sentences.input}, {m_mode, sentences.modes.front()}});
         tellAboutModes();
-        connectKeys();
         setUpKeyboard();
         showProfile();
         setUpOutput(); // last, so that a result that is an error is marked at once
@@ -89,7 +93,8 @@ private:
     void setUpKeyboard();
     void setUpOutput();
     void tellAboutModes();
-    void connectKeys();
+    /// Returns the characters that the keys type.
+    QString connectKeys();
     void showProfile();
 
     /// Whether the output can be taken over. "---" and "bracket missing" can, on purpose.
@@ -110,6 +115,7 @@ private:
     KelAutoResizeLineEdit *m_output = nullptr;
     QComboBox *m_outputUnit = nullptr;
     QComboBox *m_mode = nullptr;
+    StrayKeys *m_strayKeys = nullptr;
     TakeOverSlide m_slide;
     std::optional<QString> m_takenOver; ///< while it slides into the input
 };

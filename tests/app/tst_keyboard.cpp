@@ -45,6 +45,9 @@ private Q_SLOTS:
     void moduleKeysWorkWhereverTheFocusIs();
     void moduleKeysFinishAnEdit();
     void keysOfTheWindowWaitWhileAListIsOpen();
+    void whatIsTypedInTheListGoesToTheExpression();
+    void theListIsSearchedByLetters();
+    void whatIsTypedInTheListOfAConverterGoesNowhere();
 
 private:
     QLineEdit *expression() const;
@@ -312,6 +315,51 @@ void KeyboardTest::keysOfTheWindowWaitWhileAListIsOpen()
     QVERIFY(!child("menuFile")->isVisible());
     QVERIFY(selector->view()->isVisible());
     selector->hidePopup();
+}
+
+void KeyboardTest::whatIsTypedInTheListGoesToTheExpression()
+{
+    openWindow();
+    auto *list = child<QListWidget>("menuItemsWidget");
+    list->setFocus();
+    QTest::keyClicks(list, QStringLiteral("5"));
+    QCOMPARE(expression()->text(), QStringLiteral("5"));
+    QVERIFY(expression()->hasFocus());
+
+    m_profile.setCurrentModule(1);
+    list->setFocus();
+    QTest::keyClicks(list, QStringLiteral("7"));
+    const auto *voltages =
+        child("voltageCalculatorWidget")->findChild<QLineEdit *>(QStringLiteral("inputLineEdit"));
+    QCOMPARE(voltages->text(), QStringLiteral("7"));
+    QVERIFY(voltages->hasFocus());
+    QCOMPARE(expression()->text(), QStringLiteral("5"));
+}
+
+void KeyboardTest::theListIsSearchedByLetters()
+{
+    openWindow();
+    auto *list = child<QListWidget>("menuItemsWidget");
+    list->setFocus();
+    QTest::keyClicks(list, QStringLiteral("V"));
+    QCOMPARE(m_profile.currentModule(), 1);
+    QVERIFY(list->hasFocus());
+    QCOMPARE(expression()->text(), QString());
+}
+
+void KeyboardTest::whatIsTypedInTheListOfAConverterGoesNowhere()
+{
+    openWindow();
+    m_profile.setCurrentModule(2);
+    auto *list = child<QListWidget>("menuItemsWidget");
+    list->setFocus();
+    QTest::keyClicks(list, QStringLiteral("5"));
+    QVERIFY(list->hasFocus());
+    const QList<QLineEdit *> fields = m_window->findChildren<QLineEdit *>();
+    for (const QLineEdit *field : fields)
+        QVERIFY2(!field->text().contains(QLatin1Char('5')) ||
+                     field->objectName() == QStringLiteral("impedanceLineEdit"),
+                 qPrintable(field->objectName()));
 }
 
 int main(int argc, char **argv)

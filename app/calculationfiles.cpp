@@ -12,6 +12,7 @@
 #include <QDate>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QSettings>
 #include <QVector>
@@ -31,6 +32,26 @@ QString extension()
 QString fileFilter()
 {
     return QCoreApplication::translate("CalculationFiles", "dB Calulation (*.%1)").arg(extension());
+}
+
+/// Where the last file of this session is. Empty before the first one.
+QString &lastFolder()
+{
+    static QString folder;
+    return folder;
+}
+
+void rememberFolderOf(const QString &fileName)
+{
+    lastFolder() = QFileInfo(fileName).absolutePath();
+}
+
+/// By itself a dialog begins where the one before it was left, even if that was cancelled. The
+/// folder may be gone, for example with its drive.
+void beginInLastFolder(QFileDialog &dialog)
+{
+    if (QFileInfo(lastFolder()).isDir())
+        dialog.setDirectory(lastFolder());
 }
 
 QString chosenFile(QFileDialog &dialog)
@@ -79,6 +100,7 @@ QString CalculationFiles::askForFileToOpen(QWidget *parent)
                        QCoreApplication::translate("CalculationFiles", "Open dB Calulation ..."),
                        QString(), fileFilter());
     dialog.setFileMode(QFileDialog::ExistingFile);
+    beginInLastFolder(dialog);
     return chosenFile(dialog);
 }
 
@@ -93,18 +115,21 @@ QString CalculationFiles::askForFileToSave(QWidget *parent)
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.selectNameFilter(fileFilter());
     dialog.setDefaultSuffix(extension());
+    beginInLastFolder(dialog);
     dialog.selectFile(today + QLatin1Char('.') + extension());
     return chosenFile(dialog);
 }
 
 void CalculationFiles::open(MainProfile &profile, const QString &fileName)
 {
+    rememberFolderOf(fileName);
     CheckedSettings::readFile(fileName, profile.storedGroups(),
                               [&](QSettings &file) { profile.loadModuleSettings(file); });
 }
 
 void CalculationFiles::save(MainProfile &profile, const QString &fileName)
 {
+    rememberFolderOf(fileName);
     if (!CheckedSettings::makeWritable(fileName))
         return;
     {

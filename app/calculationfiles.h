@@ -20,7 +20,8 @@ class MainProfile;
  */
 namespace CalculationFiles {
 
-/// The file that the person chose, or an empty text if the dialog was cancelled.
+/// The file that the person chose, or an empty text if the dialog was cancelled. The dialog begins
+/// in the folder of the file that was last opened or saved since the program was started.
 QString askForFileToOpen(QWidget *parent);
 /// The same for saving; the dialog adds the extension to a name that has none.
 QString askForFileToSave(QWidget *parent);

@@ -6,6 +6,7 @@
 #include "mainprofile.h"
 #include "mainwindow.h"
 #include "propertyvalues.h"
+#include "table.h"
 #include "testmain.h"
 #include "windowsystem.h"
 #include "words.h"
@@ -37,6 +38,9 @@ private Q_SLOTS:
     void saveWritesAllGroups();
     void saveAddsTheExtension();
     void openAsksForAnExistingFile();
+    void dialogsBeginWhereTheLastFileIs_data();
+    void dialogsBeginWhereTheLastFileIs();
+    void dialogsBeginElsewhereIfTheFolderIsGone();
     void openRestoresTheModulesAndLeavesTheWindow();
     void aCancelledDialogDoesNothing_data();
     void aCancelledDialogDoesNothing();
@@ -54,6 +58,8 @@ private:
     /// Triggers the action, which opens a modal dialog, and does @p answer to that dialog.
     void trigger(const char *action, const DialogAction &answer);
     static void choose(QFileDialog &dialog, const QString &fileName);
+    QString folderOfDialog(const char *action);
+    void openFromCommandLine(const QString &fileName);
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
     QString fieldText(const char *name) const;
     void typeExample();
@@ -118,7 +124,7 @@ void CalculationFilesTest::typeExample()
     model.setCurrentMode(1);
 }
 
-/// Only the first dialog of a run starts there, and later ones start where the last file was. So
+/// Only the first dialog of a run starts there, and later ones start where the last file is. So
 /// this test comes first.
 void CalculationFilesTest::openStartsInTheCurrentFolder()
 {
@@ -181,6 +187,69 @@ void CalculationFilesTest::openAsksForAnExistingFile()
         QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("dB Calulation (*.dezimo)")));
         dialog.reject();
     });
+}
+
+/// Leaves the dialog in another folder, by a click on Cancel.
+QString CalculationFilesTest::folderOfDialog(const char *action)
+{
+    QString folder;
+    trigger(action, [&folder](QFileDialog &dialog) {
+        folder = dialog.directory().canonicalPath();
+        dialog.setDirectory(QDir::rootPath());
+        dialog.reject();
+    });
+    return folder;
+}
+
+void CalculationFilesTest::openFromCommandLine(const QString &fileName)
+{
+    QCOMPARE(CalculationFiles::openFromCommandLine(MainProfile::instance(),
+                                                   {QStringLiteral("dezimo"), fileName}),
+             QString());
+}
+
+void CalculationFilesTest::dialogsBeginWhereTheLastFileIs_data()
+{
+    columns<QString>({"way"});
+    row("the file was opened", "actionOpen");
+    row("the file was saved", "actionSave");
+    row("the file was named on the command line", "its name");
+    row("the file was named without its folder", "its name alone");
+}
+
+/// Each time, another file was there before.
+void CalculationFilesTest::dialogsBeginWhereTheLastFileIs()
+{
+    QFETCH(QString, way);
+
+    const QString name = path("a.dezimo");
+    if (way != QLatin1String("actionSave"))
+        CalculationFiles::save(MainProfile::instance(), name);
+    const QTemporaryDir elsewhere;
+    CalculationFiles::save(MainProfile::instance(), elsewhere.filePath(QStringLiteral("b.dezimo")));
+    if (way == QLatin1String("its name")) {
+        openFromCommandLine(name);
+    } else if (way == QLatin1String("its name alone")) {
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        openFromCommandLine(QStringLiteral("a.dezimo"));
+        QVERIFY(QDir::setCurrent(before));
+    } else {
+        trigger(qPrintable(way), [&name](QFileDialog &dialog) { choose(dialog, name); });
+    }
+    const QString folder = QDir(m_folder->path()).canonicalPath();
+    QCOMPARE(folderOfDialog("actionOpen"), folder);
+    QCOMPARE(folderOfDialog("actionSave"), folder);
+    QCOMPARE(folderOfDialog("actionOpen"), folder);
+}
+
+void CalculationFilesTest::dialogsBeginElsewhereIfTheFolderIsGone()
+{
+    CalculationFiles::save(MainProfile::instance(), path("a.dezimo"));
+    QVERIFY(m_folder->remove());
+    const QString folder = folderOfDialog("actionOpen");
+    QVERIFY(!folder.isEmpty());
+    QVERIFY(folder != m_folder->path());
 }
 
 void CalculationFilesTest::openRestoresTheModulesAndLeavesTheWindow()

@@ -5,14 +5,18 @@
 
 #include "checkedsettings.h"
 #include "iniformat.h"
+#include "kellatepages.h"
 #include "mainprofile.h"
 #include "settingstext.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QCoreApplication>
 #include <QDate>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QSaveFile>
 #include <QSettings>
 #include <QVector>
@@ -54,8 +58,18 @@ void beginInLastFolder(QFileDialog &dialog)
         dialog.setDirectory(lastFolder());
 }
 
+/// The names that the dialog proposes while one is typed are in a window of their own, so the style
+/// sheets do not know that it belongs to the dialog. A dialog of the system has no such field.
+void dressProposals(const QFileDialog &dialog)
+{
+    const auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (name && name->completer())
+        KelScrollBar::installOn(*name->completer()->popup());
+}
+
 QString chosenFile(QFileDialog &dialog)
 {
+    dressProposals(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);

@@ -3,6 +3,7 @@
 
 #include "calculationfiles.h"
 #include "kelapplication.h"
+#include "kellatepages.h"
 #include "mainprofile.h"
 #include "mainwindow.h"
 #include "propertyvalues.h"
@@ -11,7 +12,9 @@
 #include "windowsystem.h"
 #include "words.h"
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QCompleter>
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
@@ -41,6 +44,7 @@ private Q_SLOTS:
     void dialogsBeginWhereTheLastFileIs_data();
     void dialogsBeginWhereTheLastFileIs();
     void dialogsBeginElsewhereIfTheFolderIsGone();
+    void proposedNamesScrollAsThePagesDo();
     void openRestoresTheModulesAndLeavesTheWindow();
     void aCancelledDialogDoesNothing_data();
     void aCancelledDialogDoesNothing();
@@ -250,6 +254,19 @@ void CalculationFilesTest::dialogsBeginElsewhereIfTheFolderIsGone()
     const QString folder = folderOfDialog("actionOpen");
     QVERIFY(!folder.isEmpty());
     QVERIFY(folder != m_folder->path());
+}
+
+/// Qt's own scroll bars would have the colors of the desktop.
+void CalculationFilesTest::proposedNamesScrollAsThePagesDo()
+{
+    for (const char *action : {"actionOpen", "actionSave"}) {
+        trigger(action, [](QFileDialog &dialog) {
+            const auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            const QAbstractItemView *proposals = name->completer()->popup();
+            QVERIFY(qobject_cast<KelScrollBar *>(proposals->verticalScrollBar()));
+            dialog.reject();
+        });
+    }
 }
 
 void CalculationFilesTest::openRestoresTheModulesAndLeavesTheWindow()

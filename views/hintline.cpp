@@ -10,18 +10,10 @@
 #include <QStyle>
 #include <QToolTip>
 
-namespace {
-
-/// Pixels between the letters and the edges of the page at the left and the right.
-constexpr int kSideMargin = 16;
-
-} // namespace
-
 HintLine::HintLine(QWidget *page) : QLabel(page)
 {
     setObjectName(QStringLiteral("hintLine"));
     setTextFormat(Qt::PlainText);
-    setContentsMargins(kSideMargin, 0, kSideMargin, 0);
 }
 
 bool HintLine::isCut() const

@@ -7,8 +7,8 @@
 #include <QLabel>
 
 /**
- * The line at the foot of a page, in quiet letters. It is always as high, and never wider than the
- * page: a sentence that has no room ends in an ellipsis, and is whole in the tool tip.
+ * The line at the foot of a page, in quiet letters. Its sentence never asks for more room: one that
+ * is longer ends in an ellipsis, and is whole in the tool tip.
  */
 class HintLine : public QLabel
 {

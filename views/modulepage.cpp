@@ -13,6 +13,9 @@ namespace {
 
 /// Pixels at the foot of every page, which the form leaves free.
 constexpr int kHintLineHeight = 24;
+/// The column in which the forms stand, and the pixels beside it in a small window.
+constexpr int kColumnWidth = 800;
+constexpr int kColumnMargin = 16;
 
 } // namespace
 
@@ -47,8 +50,11 @@ void ModulePage::changeEvent(QEvent *event)
 void ModulePage::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    if (m_hintLine)
-        m_hintLine->setGeometry(0, height() - kHintLineHeight, width(), kHintLineHeight);
+    if (!m_hintLine)
+        return;
+    const int columnWidth = qMin(width() - 2 * kColumnMargin, kColumnWidth);
+    m_hintLine->setGeometry((width() - columnWidth) / 2, height() - kHintLineHeight, columnWidth,
+                            kHintLineHeight);
 }
 
 /// The line is no part of the form's layout, so it has the same place on every page, and no

@@ -7,7 +7,7 @@
 
 #include <QLineEdit>
 
-InputKeys::InputKeys(QLineEdit *input) : QObject(input)
+InputKeys::InputKeys(QLineEdit *input) : QObject(input), m_input(input)
 {
     input->installEventFilter(this);
 }
@@ -25,9 +25,27 @@ bool InputKeys::hasUseFor(const QKeyEvent &key)
         Q_EMIT calculateRequested();
         return true;
     }
-    if (key.key() == Qt::Key_Escape && key.modifiers() == Qt::NoModifier) {
+    if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return false;
+    switch (key.key()) {
+    case Qt::Key_Escape:
         Q_EMIT clearRequested();
         return true;
+    case Qt::Key_Up:
+        recall(m_history.older(m_input->text()));
+        return true;
+    case Qt::Key_Down:
+        recall(m_history.newer(m_input->text()));
+        return true;
+    default:
+        return false;
     }
-    return false;
+}
+
+void InputKeys::recall(const QString &line)
+{
+    if (line == m_input->text())
+        return;
+    m_input->selectAll();
+    m_input->insert(line);
 }

@@ -118,6 +118,7 @@ void KeypadCalculatorWidget::on_pushButton_calc_clicked()
     m_output->setQuiet(false);
     if (m_takenOver || !hasResult())
         return;
+    m_inputKeys->noteTakenOver(m_profile.input());
     m_takenOver = resultWithUnit();
     m_profile.setInput(*m_takenOver);
     m_slide.start(m_outputRow, m_input);
@@ -195,10 +196,10 @@ void KeypadCalculatorWidget::onValidUnitsChanged()
 
 void KeypadCalculatorWidget::setUpKeyboard()
 {
-    const auto *keys = new InputKeys(m_input);
-    connect(keys, &InputKeys::calculateRequested, this,
+    m_inputKeys = new InputKeys(m_input);
+    connect(m_inputKeys, &InputKeys::calculateRequested, this,
             &KeypadCalculatorWidget::on_pushButton_calc_clicked);
-    connect(keys, &InputKeys::clearRequested, this,
+    connect(m_inputKeys, &InputKeys::clearRequested, this,
             &KeypadCalculatorWidget::on_pushButton_C_clicked);
     // The keypad has no brackets, but they are typed in the same go.
     m_strayKeys = new StrayKeys(m_input, connectKeys() + QStringLiteral("()="));

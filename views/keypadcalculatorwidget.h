@@ -9,6 +9,7 @@
 
 #include <optional>
 
+class InputKeys;
 class KelAutoResizeLineEdit;
 class QComboBox;
 class QLineEdit;
@@ -115,6 +116,7 @@ private:
     KelAutoResizeLineEdit *m_output = nullptr;
     QComboBox *m_outputUnit = nullptr;
     QComboBox *m_mode = nullptr;
+    InputKeys *m_inputKeys = nullptr;
     StrayKeys *m_strayKeys = nullptr;
     TakeOverSlide m_slide;
     std::optional<QString> m_takenOver; ///< while it slides into the input

@@ -6,6 +6,7 @@
 #include "expectedmessages.h"
 #include "table.h"
 #include "testmain.h"
+#include "voltagecalculatorwidget.h"
 
 #include <QApplication>
 #include <QTest>
@@ -35,6 +36,13 @@ private Q_SLOTS:
     void escClosesAListFirst();
     void escDuringTheSlide();
 
+    void recallsWhatWasTakenOver();
+    void comesBackToWhatWasBeingTyped();
+    void whatIsRecalledIsCalculated();
+    void recallingCanBeUndone();
+    void eachCalculatorRecallsItsOwn();
+    void heldKeysRecallNothing();
+
 private:
     DbmCalculatorProfile &m_profile = MainProfile::instance().dbmCalculator();
 };
@@ -44,6 +52,13 @@ namespace {
 CalculatorPage shownPage()
 {
     return CalculatorPage::shown<DbmCalculatorWidget>();
+}
+
+void takeOver(CalculatorPage &page, const char *expression)
+{
+    page.enter(expression);
+    page.type(Qt::Key_Return);
+    QTRY_COMPARE(page.result(), QString());
 }
 
 } // namespace
@@ -178,6 +193,84 @@ void InputKeysTest::escDuringTheSlide()
     QCOMPARE(page.input().text(), QString());
     QTRY_COMPARE(page.result(), QString());
     QCOMPARE(m_profile.output(), QString());
+}
+
+void InputKeysTest::recallsWhatWasTakenOver()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    takeOver(page, "(1mW"); // "bracket missing" is taken over as well
+
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("(1mW"));
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    page.type(Qt::Key_Down);
+    page.type(Qt::Key_Down);
+    QCOMPARE(page.input().text(), QStringLiteral("bracket missing dBm"));
+    page.type(Qt::Key_Down);
+    QCOMPARE(page.input().text(), QStringLiteral("bracket missing dBm"));
+}
+
+void InputKeysTest::comesBackToWhatWasBeingTyped()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    page.type("+1dB");
+    page.type(Qt::Key_Up);
+    page.type("+2dB");
+
+    page.type(Qt::Key_Down);
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm+1dB"));
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm+2dB"));
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+}
+
+void InputKeysTest::whatIsRecalledIsCalculated()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.result(), QStringLiteral("10.00 dBm"));
+    QCOMPARE(page.input().cursorPosition(), int(qstrlen("10dBm+10dBm")));
+    page.type("-3dB");
+    QCOMPARE(page.result(), QStringLiteral("7.00 dBm"));
+}
+
+void InputKeysTest::recallingCanBeUndone()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    page.type("+1dB");
+    page.type(Qt::Key_Up);
+    QTest::keySequence(&page.input(), QKeySequence::Undo);
+    QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm+1dB"));
+}
+
+void InputKeysTest::eachCalculatorRecallsItsOwn()
+{
+    CalculatorPage powers = shownPage();
+    takeOver(powers, "10dBm+10dBm");
+    CalculatorPage voltages = CalculatorPage::shown<VoltageCalculatorWidget>();
+    voltages.type("1V");
+    voltages.type(Qt::Key_Up);
+    QCOMPARE(voltages.input().text(), QStringLiteral("1V"));
+}
+
+/// With Shift, Ctrl or Meta the arrows are left to the system.
+void InputKeysTest::heldKeysRecallNothing()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    for (const Qt::KeyboardModifier held :
+         {Qt::ShiftModifier, Qt::ControlModifier, Qt::MetaModifier}) {
+        QTest::keyClick(&page.input(), Qt::Key_Up, held);
+        QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm"));
+    }
 }
 
 DEZIMO_TEST_MAIN(QApplication, InputKeysTest)

@@ -5,6 +5,13 @@
 
 #include <algorithm>
 
+namespace {
+
+/// So many nobody goes through, and a program that is open for months stays small.
+constexpr std::size_t kMostExpressions = 1000;
+
+} // namespace
+
 void ExpressionHistory::add(const QString &expression)
 {
     const auto isOver = [&expression](const Line &line) {
@@ -13,6 +20,8 @@ void ExpressionHistory::add(const QString &expression)
     m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), isOver), m_lines.end());
     if (!expression.trimmed().isEmpty())
         m_lines.push_back({expression, true});
+    if (m_lines.size() > kMostExpressions)
+        m_lines.erase(m_lines.begin());
     m_lines.push_back({QString(), false});
     m_present = m_lines.size() - 1;
 }

@@ -21,7 +21,8 @@ class ExpressionHistory final
 {
 public:
     /// Makes @p expression the newest one and begins a new line after it. An expression is held
-    /// once, at its newest place, and a blank one is not held at all.
+    /// once, at its newest place, and a blank one is not held at all. The oldest of more than a
+    /// thousand is forgotten.
     void add(const QString &expression);
 
     /// The line before the present one, which reads @p typed by now, or the first line again.

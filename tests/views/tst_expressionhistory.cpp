@@ -18,6 +18,7 @@ private Q_SLOTS:
     void recalls();
     void aBlankExpressionIsNotHeld_data();
     void aBlankExpressionIsNotHeld();
+    void theOldestOfMoreThanAThousandIsForgotten();
 };
 
 void ExpressionHistoryTest::recalls_data()
@@ -100,6 +101,17 @@ void ExpressionHistoryTest::aBlankExpressionIsNotHeld()
     history.add(blank);
     QCOMPARE(history.older(QStringLiteral("x")), QStringLiteral("A"));
     QCOMPARE(history.newer(QStringLiteral("A")), QStringLiteral("x"));
+}
+
+void ExpressionHistoryTest::theOldestOfMoreThanAThousandIsForgotten()
+{
+    ExpressionHistory history;
+    for (int i = 0; i <= 1000; ++i)
+        history.add(QString::number(i));
+    QString line;
+    for (int i = 0; i < 2000; ++i)
+        line = history.older(line);
+    QCOMPARE(line, QStringLiteral("1"));
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, ExpressionHistoryTest)

@@ -211,7 +211,8 @@ void ResultCopyTest::whatIsCopiedCanBePasted()
     page.input().clear();
     QTest::keySequence(&page.input(), QKeySequence::Paste);
     page.type("+0dB");
-    QCOMPARE(page.input().text(), QString(result + QStringLiteral("+0dB")));
+    QCOMPARE(page.input().text().remove(QLatin1String("+0dB")),
+             QString(result).remove(QLatin1Char(' ')));
     QCOMPARE(page.result(), result);
 }
 

@@ -92,10 +92,10 @@ void AccessibleWindowTest::everyControlOfAPage_data()
         Button 8
         Button 9
         Button Backspace
+        Button Clear
         Button 4
         Button 5
         Button 6
-        Button Clear
         Button 1
         Button 2
         Button 3
@@ -117,10 +117,10 @@ void AccessibleWindowTest::everyControlOfAPage_data()
         Button 8
         Button 9
         Button Backspace
+        Button Clear
         Button 4
         Button 5
         Button 6
-        Button Clear
         Button 1
         Button 2
         Button 3

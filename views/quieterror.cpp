@@ -19,12 +19,10 @@ QuietError::QuietError(QLineEdit *input, KelLineEdit *result) : QObject(result),
     });
 }
 
-/// A page that is turned is hidden, and in a window that is not active nothing loses the focus.
 bool QuietError::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isLeft = event->type() == QEvent::Hide ||
-                        (event->type() == QEvent::FocusOut &&
-                         static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason);
+    const bool isLeft = event->type() == QEvent::FocusOut &&
+                        static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason;
     if (isLeft)
         end();
     return QObject::eventFilter(watched, event);

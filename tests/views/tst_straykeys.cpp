@@ -169,13 +169,13 @@ void StrayKeysTest::thePhaseKeepsItsDigits()
     QCOMPARE(page.input().text(), QString());
 }
 
-/// One list may stand beside several pages.
+/// One list may stand beside several pages. The last of them is the first to see its keys.
 void StrayKeysTest::aPageThatIsNotOpenTakesNothing()
 {
     CalculatorPage closed = shownPage();
     CalculatorPage open = CalculatorPage::shown<VoltageCalculatorWidget>();
     QListWidget list;
-    for (const CalculatorPage *page : {&closed, &open})
+    for (const CalculatorPage *page : {&open, &closed})
         qobject_cast<KeypadCalculatorWidget *>(&page->widget())->takeKeysFrom(&list);
     closed.widget().hide();
     QTest::keyClicks(&list, QStringLiteral("1V"));

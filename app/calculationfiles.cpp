@@ -21,6 +21,8 @@
 #include <QSettings>
 #include <QVector>
 
+#include <utility>
+
 #include <algorithm>
 
 using namespace Dezimo;
@@ -58,18 +60,22 @@ void beginInLastFolder(QFileDialog &dialog)
         dialog.setDirectory(lastFolder());
 }
 
-/// The names that the dialog proposes while one is typed are in a window of their own, so the style
-/// sheets do not know that it belongs to the dialog. A dialog of the system has no such field.
-void dressProposals(const QFileDialog &dialog)
+/// Qt's own scroll bars take their colors from the desktop, which may be dark. The names that the
+/// dialog proposes while one is typed are in a window of their own. A dialog of the system has none
+/// of all that.
+void dressScrollBars(const QFileDialog &dialog)
 {
+    QList<QAbstractScrollArea *> areas = dialog.findChildren<QAbstractScrollArea *>();
     const auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     if (name && name->completer())
-        KelScrollBar::installOn(*name->completer()->popup());
+        areas += name->completer()->popup();
+    for (QAbstractScrollArea *area : std::as_const(areas))
+        KelScrollBar::installOn(*area);
 }
 
 QString chosenFile(QFileDialog &dialog)
 {
-    dressProposals(dialog);
+    dressScrollBars(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return dialog.selectedFiles().value(0);

@@ -22,7 +22,7 @@
  *   here for plain widgets and makes their pages as children. The pages join by themselves while
  *   they are empty.
  * - It styles the scroll bars of every list of choices, which are hardly ever seen. So the style
- *   sheets dress the scroll bars of pages and of file dialogs only.
+ *   sheets dress the scroll bars of pages only.
  */
 
 /**

@@ -19,10 +19,15 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QImage>
 #include <QLineEdit>
+#include <QPalette>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
+#include <QVector>
 
 #include <functional>
 
@@ -44,6 +49,8 @@ private Q_SLOTS:
     void dialogsBeginWhereTheLastFileIs_data();
     void dialogsBeginWhereTheLastFileIs();
     void dialogsBeginElsewhereIfTheFolderIsGone();
+    void dialogsScrollAlikeOnEveryDesktop_data();
+    void dialogsScrollAlikeOnEveryDesktop();
     void proposedNamesScrollAsThePagesDo();
     void openRestoresTheModulesAndLeavesTheWindow();
     void aCancelledDialogDoesNothing_data();
@@ -63,6 +70,7 @@ private:
     void trigger(const char *action, const DialogAction &answer);
     static void choose(QFileDialog &dialog, const QString &fileName);
     QString folderOfDialog(const char *action);
+    QVector<QImage> picturesOfScrollBars(const char *action, const QColor &desktop);
     void openFromCommandLine(const QString &fileName);
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
     QString fieldText(const char *name) const;
@@ -256,7 +264,51 @@ void CalculationFilesTest::dialogsBeginElsewhereIfTheFolderIsGone()
     QVERIFY(folder != m_folder->path());
 }
 
-/// Qt's own scroll bars would have the colors of the desktop.
+/// Both scroll bars of the list of files in the dialog.
+QVector<QImage> CalculationFilesTest::picturesOfScrollBars(const char *action,
+                                                           const QColor &desktop)
+{
+    QApplication::setPalette(QPalette(desktop));
+    QVector<QImage> pictures;
+    trigger(action, [this, &pictures](QFileDialog &dialog) {
+        dialog.setDirectory(m_folder->path());
+        dialog.setViewMode(QFileDialog::Detail);
+        dialog.resize(420, 360);
+        const auto *files = dialog.findChild<QTreeView *>();
+        QScrollBar *const bars[] = {files->verticalScrollBar(), files->horizontalScrollBar()};
+        for (QScrollBar *bar : bars) {
+            QTRY_VERIFY(bar->isVisible() && bar->maximum() > 0);
+            pictures += bar->grab().toImage();
+        }
+        dialog.reject();
+    });
+    return pictures;
+}
+
+void CalculationFilesTest::dialogsScrollAlikeOnEveryDesktop_data()
+{
+    columns<QString>({"action"});
+    row("Open...", "actionOpen");
+    row("Save...", "actionSave");
+}
+
+/// What the style sheets leave alone takes its colors from the desktop, which may be dark.
+void CalculationFilesTest::dialogsScrollAlikeOnEveryDesktop()
+{
+    QFETCH(QString, action);
+
+    for (int i = 10; i < 60; ++i)
+        QVERIFY(QDir(m_folder->path()).mkdir(QString::number(i)));
+    const QPalette before = QApplication::palette();
+    const QByteArray name = action.toLatin1();
+    const auto onBright = picturesOfScrollBars(name.constData(), QColor(240, 240, 240));
+    const auto onDark = picturesOfScrollBars(name.constData(), QColor(40, 40, 40));
+    QApplication::setPalette(before);
+    QCOMPARE(onBright.size(), 2);
+    QVERIFY(onDark == onBright);
+}
+
+/// They are in a window of their own.
 void CalculationFilesTest::proposedNamesScrollAsThePagesDo()
 {
     for (const char *action : {"actionOpen", "actionSave"}) {

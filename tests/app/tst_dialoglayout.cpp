@@ -12,16 +12,11 @@
 #include "testmain.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFileDialog>
 #include <QMenu>
 #include <QMetaEnum>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTreeView>
 
 Q_DECLARE_METATYPE(ApplicationTheme)
 
@@ -39,15 +34,12 @@ private Q_SLOTS:
     void everyStateOfTheMessageBoxIsRight();
     void everyWidthOfTheGuideIsRight_data() { themes(); }
     void everyWidthOfTheGuideIsRight();
-    void theFileDialogLooksAlikeOnEveryDesktop_data() { themes(); }
-    void theFileDialogLooksAlikeOnEveryDesktop();
     void everyMenuShowsItsTexts_data() { themes(); }
     void everyMenuShowsItsTexts();
 
 private:
     static void themes();
     static void apply(ApplicationTheme theme);
-    static QImage pictureOfFiles(const QString &folder, const QColor &desktop);
 };
 
 void DialogLayoutTest::themes()
@@ -147,44 +139,6 @@ void DialogLayoutTest::everyWidthOfTheGuideIsRight()
             QCOMPARE(LayoutCheck::complaints(guide), QStringList());
         }
     }
-}
-
-/// The list of files in the dialog, which has both scroll bars. Null if it is not shown so.
-QImage DialogLayoutTest::pictureOfFiles(const QString &folder, const QColor &desktop)
-{
-    QApplication::setPalette(QPalette(desktop));
-    QFileDialog dialog(nullptr, QString(), folder);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setViewMode(QFileDialog::Detail);
-    dialog.resize(420, 360);
-    dialog.show();
-    auto *files = dialog.findChild<QTreeView *>();
-    const QScrollBar *bars[] = {files->verticalScrollBar(), files->horizontalScrollBar()};
-    for (const QScrollBar *bar : bars) {
-        if (!QTest::qWaitFor([bar] { return bar->isVisible() && bar->maximum() > 0; }))
-            return {};
-    }
-    LayoutCheck::savePicture(
-        dialog, QStringLiteral("files, %1, desktop %2")
-                    .arg(QLatin1String(QTest::currentDataTag()), desktop.name().mid(1)));
-    return files->grab().toImage();
-}
-
-/// What the style sheets leave alone takes its colors from the desktop, which may be dark.
-void DialogLayoutTest::theFileDialogLooksAlikeOnEveryDesktop()
-{
-    QFETCH(ApplicationTheme, theme);
-
-    const QTemporaryDir folder;
-    for (int i = 10; i < 60; ++i)
-        QVERIFY(QDir(folder.path()).mkdir(QString::number(i)));
-    apply(theme);
-    const QPalette before = QApplication::palette();
-    const QImage onBright = pictureOfFiles(folder.path(), QColor(240, 240, 240));
-    const QImage onDark = pictureOfFiles(folder.path(), QColor(40, 40, 40));
-    QApplication::setPalette(before);
-    QVERIFY(!onBright.isNull());
-    QVERIFY(onDark == onBright);
 }
 
 void DialogLayoutTest::everyMenuShowsItsTexts()

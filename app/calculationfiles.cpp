@@ -21,9 +21,8 @@
 #include <QSettings>
 #include <QVector>
 
-#include <utility>
-
 #include <algorithm>
+#include <utility>
 
 using namespace Dezimo;
 

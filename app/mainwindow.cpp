@@ -338,8 +338,8 @@ void MainWindow::restoreGeometryFromProfile()
 }
 
 /// Qt goes to the menus by Alt. F10 opens the first one, as in other programs on a desktop. The
-/// texts of the menus mark no letter, so Alt with the first letter of a menu needs a key of its own.
-/// Return goes from the list of modules into the page.
+/// texts of the menus mark no letter, so Alt with the first letter of a menu needs a key of its
+/// own. Return goes from the list of modules into the page.
 void MainWindow::connectKeyboard()
 {
     onKey(this, Qt::Key_F10, [this] { showMenu(*m_ui->menuFile); });

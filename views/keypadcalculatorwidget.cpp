@@ -219,6 +219,12 @@ void KeypadCalculatorWidget::setUpOutput()
     describeOutput();
 }
 
+void KeypadCalculatorWidget::tellAboutFields()
+{
+    hints().add({{m_input, m_sentences.input}, {m_mode, m_sentences.modes.front()}});
+    tellAboutModes();
+}
+
 void KeypadCalculatorWidget::tellAboutModes()
 {
     for (int mode = 0; mode < m_mode->count(); ++mode)

@@ -58,8 +58,7 @@ protected:
         m_outputUnit = form.outputUnitComboBox;
         m_mode = form.calcModeComboBox;
         setFocusProxy(form.inputLineEdit);
-        hints().add({{m_input, sentences.input}, {m_mode, sentences.modes.front()}});
-        tellAboutModes();
+        tellAboutFields();
         setUpKeyboard();
         showProfile();
         setUpOutput(); // last, so that a result that is an error is marked at once
@@ -93,6 +92,7 @@ private Q_SLOTS:
 private:
     void setUpKeyboard();
     void setUpOutput();
+    void tellAboutFields();
     void tellAboutModes();
     /// Returns the characters that the keys type.
     QString connectKeys();

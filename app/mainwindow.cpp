@@ -85,9 +85,9 @@ View *addView(KelLatePage *page, const char *name)
 /// Such a key comes before the widget that has the focus, but waits while a menu, a list or a
 /// dialog is open.
 template <typename Action>
-void onKey(MainWindow *window, const QKeySequence &key, const Action &action)
+void onKey(MainWindow *window, const QString &key, const Action &action)
 {
-    const auto *shortcut = new QShortcut(key, window);
+    const auto *shortcut = new QShortcut(QKeySequence::fromString(key), window);
     QObject::connect(shortcut, &QShortcut::activated, window, action);
 }
 
@@ -342,10 +342,10 @@ void MainWindow::restoreGeometryFromProfile()
 /// own. Return goes from the list of modules into the page.
 void MainWindow::connectKeyboard()
 {
-    onKey(this, Qt::Key_F10, [this] { showMenu(*m_ui->menuFile); });
-    onKey(this, Qt::ALT | Qt::Key_F, [this] { showMenu(*m_ui->menuFile); });
-    onKey(this, Qt::ALT | Qt::Key_O, [this] { showMenu(*m_ui->menuOptions); });
-    onKey(this, Qt::ALT | Qt::Key_H, [this] { showMenu(*m_ui->menuHelp); });
+    onKey(this, QStringLiteral("F10"), [this] { showMenu(*m_ui->menuFile); });
+    onKey(this, QStringLiteral("Alt+F"), [this] { showMenu(*m_ui->menuFile); });
+    onKey(this, QStringLiteral("Alt+O"), [this] { showMenu(*m_ui->menuOptions); });
+    onKey(this, QStringLiteral("Alt+H"), [this] { showMenu(*m_ui->menuHelp); });
     connectModuleKeys();
     connect(m_ui->menuItemsWidget, &QListWidget::itemClicked, this, &MainWindow::focusPage);
     connect(m_ui->menuItemsWidget, &QListWidget::itemActivated, this, &MainWindow::focusFirstField);
@@ -353,13 +353,11 @@ void MainWindow::connectKeyboard()
 
 void MainWindow::connectModuleKeys()
 {
-    for (int row = 0; row < m_ui->menuItemsWidget->count(); ++row) {
-        onKey(this, QKeySequence::fromString(QStringLiteral("Ctrl+%1").arg(row + 1)),
-              [this, row] { chooseModule(row); });
-    }
-    onKey(this, Qt::CTRL | Qt::Key_PageUp,
+    for (int row = 0; row < m_ui->menuItemsWidget->count(); ++row)
+        onKey(this, QStringLiteral("Ctrl+%1").arg(row + 1), [this, row] { chooseModule(row); });
+    onKey(this, QStringLiteral("Ctrl+PgUp"),
           [this] { chooseModule(m_ui->menuItemsWidget->currentRow() - 1); });
-    onKey(this, Qt::CTRL | Qt::Key_PageDown,
+    onKey(this, QStringLiteral("Ctrl+PgDown"),
           [this] { chooseModule(m_ui->menuItemsWidget->currentRow() + 1); });
 }
 

@@ -88,7 +88,7 @@ QString withoutUnit(const QString &text, const QString &unit)
     for (const QString &spelling : all) {
         if (!text.endsWith(spelling))
             continue;
-        const QString rest = text.chopped(spelling.size());
+        QString rest = text.chopped(spelling.size());
         if (mayComeBeforeUnit(rest))
             return rest;
     }

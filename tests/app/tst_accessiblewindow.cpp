@@ -96,10 +96,10 @@ void AccessibleWindowTest::everyControlOfAPage_data()
         Button 4
         Button 5
         Button 6
+        Button Plus
         Button 1
         Button 2
         Button 3
-        Button Plus
         Button Minus
         Button Change sign
         Button 0
@@ -121,10 +121,10 @@ void AccessibleWindowTest::everyControlOfAPage_data()
         Button 4
         Button 5
         Button 6
+        Button Plus
         Button 1
         Button 2
         Button 3
-        Button Plus
         Button Minus
         Button Change sign
         Button 0

@@ -17,6 +17,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <algorithm>
+
 /// Where the pages put their contents, and how large the values of the converters are.
 class PageColumnTest : public MainWindowCase
 {

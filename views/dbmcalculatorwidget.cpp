@@ -20,4 +20,7 @@ DbmCalculatorWidget::DbmCalculatorWidget(QWidget *parent)
     m_ui->inputLineEdit->setMicroSign(PastedText::MicroSign::Kept); // of the unit µW
 }
 
-DbmCalculatorWidget::~DbmCalculatorWidget() = default;
+DbmCalculatorWidget::~DbmCalculatorWidget()
+{
+    finishOpenEdit();
+}

@@ -25,7 +25,10 @@ VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
            {{&VoltageCalculatorProfile::phaseChanged, &VoltageCalculatorWidget::onPhaseChanged}});
 }
 
-VoltageCalculatorWidget::~VoltageCalculatorWidget() = default;
+VoltageCalculatorWidget::~VoltageCalculatorWidget()
+{
+    finishOpenEdit();
+}
 
 /// The spin box shows a stored phase without its decimals. The model keeps them until the person
 /// changes the phase.

@@ -39,45 +39,61 @@ DbConverterWidget::~DbConverterWidget()
 
 void DbConverterWidget::tellAboutFields()
 {
-    const std::vector<HintReason> powers = {
-        {ErrorText::kInvalidInput,
-         QT_TR_NOOP("A power is a number with dBm, dBW, W or no unit, with a point: 2.5W")},
-        {ErrorText::kUnitMismatch, QT_TR_NOOP("P1 and P2 have a unit both, or none")}};
-    const std::vector<HintReason> powerRatio = {
-        {ErrorText::kInvalid, QT_TR_NOOP("The ratio in dB is no number; write -3 or 1.5")},
-        {ErrorText::kNotANumber, QT_TR_NOOP("There is no ratio to a P2 of zero")}};
-    const std::vector<HintReason> voltages = {
-        {ErrorText::kInvalidInput,
-         QT_TR_NOOP("A voltage is a number of volts without unit, with a point: 2.5, 100m")},
-        {ErrorText::kUnitMismatch, QT_TR_NOOP("V1 and V2 are written without unit")}};
-    const std::vector<HintReason> voltageRatio = {
-        {ErrorText::kInvalid, QT_TR_NOOP("The ratio in dB is no number; write -3 or 1.5")},
-        {ErrorText::kNotANumber, QT_TR_NOOP("There is no ratio to a V2 of zero")}};
+    tellAboutPowers();
+    tellAboutVoltages();
+}
+
+void DbConverterWidget::tellAboutPowers()
+{
+    const char *mismatch = QT_TR_NOOP("P1 and P2 must both have a unit, or neither");
     hints().add({
         {m_ui->p1LineEdit,
-         QT_TR_NOOP("P1: dBm, dBW or W, as P2 has it, or no unit; 10·log₁₀(P1/P2) is in dB"),
-         powers},
+         QT_TR_NOOP(
+             "P1: dBm, dBW or W, as P2 has it, or no unit; in dB the ratio is 10·log₁₀(P1/P2)"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("P1 is a number with dBm, dBW, W or no unit, and with a point: 2.5W")},
+          {ErrorText::kUnitMismatch, mismatch}}},
         {m_ui->p2LineEdit,
-         QT_TR_NOOP("P2: dBm, dBW or W, as P1 has it, or no unit; 10·log₁₀(P1/P2) is in dB"),
-         powers},
+         QT_TR_NOOP(
+             "P2: dBm, dBW or W, as P1 has it, or no unit; in dB the ratio is 10·log₁₀(P1/P2)"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("P2 is a number with dBm, dBW, W or no unit, and with a point: 2.5W")},
+          {ErrorText::kUnitMismatch, mismatch}}},
         {m_ui->pRatioLineEdit,
-         QT_TR_NOOP("P1/P2 without unit: 2, 0.5, 1k; gives the dB, and P1 or P2 if that is empty"),
-         powerRatio},
+         QT_TR_NOOP("P1/P2 without a unit: 2, 0.5, 1k; gives the dB, and an empty P1 or P2"),
+         {{ErrorText::kInvalid,
+           QT_TR_NOOP("The ratio of the powers in dB is a number with a point: -3, 1.5")},
+          {ErrorText::kNotANumber, QT_TR_NOOP("P2 is zero, or too small for a ratio")}}},
         {m_ui->pDbLineEdit,
-         QT_TR_NOOP("10·log₁₀(P1/P2): 3, -20; gives the ratio, and P1 or P2 if that is empty"),
+         QT_TR_NOOP("10·log₁₀(P1/P2) in dB: 3, -20; gives the ratio, and an empty P1 or P2"),
          {{ErrorText::kInvalidInput,
-           QT_TR_NOOP("The ratio P1/P2 is no number; write 2, 0.5 or 1k")}}},
-        {m_ui->v1LineEdit, QT_TR_NOOP("V1: volts without unit: 2, 100m; 20·log₁₀(V1/V2) is in dB"),
-         voltages},
-        {m_ui->v2LineEdit, QT_TR_NOOP("V2: volts without unit: 2, 100m; 20·log₁₀(V1/V2) is in dB"),
-         voltages},
+           QT_TR_NOOP("The ratio P1/P2 is a number with a point: 2, 0.5, 1k")}}},
+    });
+}
+
+void DbConverterWidget::tellAboutVoltages()
+{
+    const char *mismatch = QT_TR_NOOP("V1 and V2 are written without a unit");
+    hints().add({
+        {m_ui->v1LineEdit,
+         QT_TR_NOOP("V1: volts without unit: 2, 100m; in dB the ratio is 20·log₁₀(V1/V2)"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("V1 is a number of volts without a unit, and with a point: 2.5, 100m")},
+          {ErrorText::kUnitMismatch, mismatch}}},
+        {m_ui->v2LineEdit,
+         QT_TR_NOOP("V2: volts without unit: 2, 100m; in dB the ratio is 20·log₁₀(V1/V2)"),
+         {{ErrorText::kInvalidInput,
+           QT_TR_NOOP("V2 is a number of volts without a unit, and with a point: 2.5, 100m")},
+          {ErrorText::kUnitMismatch, mismatch}}},
         {m_ui->vRatioLineEdit,
-         QT_TR_NOOP("V1/V2 without unit: 2, 0.5, 1k; gives the dB, and V1 or V2 if that is empty"),
-         voltageRatio},
+         QT_TR_NOOP("V1/V2 without a unit: 2, 0.5, 1k; gives the dB, and an empty V1 or V2"),
+         {{ErrorText::kInvalid,
+           QT_TR_NOOP("The ratio of the voltages in dB is a number with a point: -3, 1.5")},
+          {ErrorText::kNotANumber, QT_TR_NOOP("V2 is zero, or too small for a ratio")}}},
         {m_ui->vDbLineEdit,
-         QT_TR_NOOP("20·log₁₀(V1/V2): 6, -20; gives the ratio, and V1 or V2 if that is empty"),
+         QT_TR_NOOP("20·log₁₀(V1/V2) in dB: 6, -20; gives the ratio, and an empty V1 or V2"),
          {{ErrorText::kInvalidInput,
-           QT_TR_NOOP("The ratio V1/V2 is no number; write 2, 0.5 or 1k")}}},
+           QT_TR_NOOP("The ratio V1/V2 is a number with a point: 2, 0.5, 1k")}}},
     });
 }
 

@@ -59,6 +59,8 @@ private Q_SLOTS:
 
 private:
     void tellAboutFields();
+    void tellAboutPowers();
+    void tellAboutVoltages();
     void showModel();
 
     const std::unique_ptr<Ui::DbConverterWidget> m_ui;

@@ -7,6 +7,7 @@
 #include "kellineedit.h"
 #include "plaintip.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QTabWidget>
@@ -32,7 +33,7 @@ const QComboBox *unitSelectorOf(const QWidget *field)
 FieldHints::FieldHints(QWidget *page, HintLine *line) : QObject(page), m_page(page), m_line(line)
 {
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget *, QWidget *now) { noteFocus(now); });
+            [this](const QWidget *, const QWidget *now) { noteFocus(now); });
     // A field on a tab that is turned away is told about no longer.
     const QList<QTabWidget *> tabs = page->findChildren<QTabWidget *>();
     for (const QTabWidget *tab : tabs)
@@ -57,25 +58,25 @@ void FieldHints::setTakes(const QWidget *field, const char *takes)
 
 void FieldHints::setReason(const QWidget *field, const QString &reason)
 {
-    Entry *entry = entryOf(field);
-    entry->reason = reason;
-    tell(*entry);
+    note(*entryOf(field), reason);
 }
 
 void FieldHints::retranslate()
 {
-    for (Entry &entry : m_entries) {
-        if (!entry.hint.reasons.empty())
-            entry.reason = reasonOf(entry.hint);
-        tell(entry);
-    }
+    for (Entry &entry : m_entries)
+        note(entry, reasonOf(entry));
 }
 
 void FieldHints::watch(const FieldHint &hint)
 {
     QWidget *field = hint.field;
-    if (const auto *edit = qobject_cast<QLineEdit *>(field))
-        connect(edit, &QLineEdit::textChanged, this, [this, field] { noteText(field); });
+    if (const auto *edit = qobject_cast<QLineEdit *>(field)) {
+        connect(edit, &QLineEdit::textEdited, this, [this] { m_latest = nullptr; });
+        connect(edit, &QLineEdit::textChanged, this, [this, field] {
+            Entry &entry = *entryOf(field);
+            note(entry, reasonOf(entry));
+        });
+    }
     if (const QComboBox *unit = unitSelectorOf(field))
         connect(unit, &QComboBox::currentTextChanged, this,
                 [this, field] { tell(*entryOf(field)); });
@@ -89,25 +90,30 @@ FieldHints::Entry *FieldHints::entryOf(const QWidget *field)
     return found == m_entries.end() ? nullptr : &*found;
 }
 
-void FieldHints::noteText(QWidget *field)
+void FieldHints::note(Entry &entry, const QString &reason)
 {
-    Entry *entry = entryOf(field);
-    if (!entry->hint.reasons.empty())
-        entry->reason = reasonOf(entry->hint);
-    tell(*entry);
+    if (!reason.isEmpty() && reason != entry.reason) {
+        m_latest = entry.hint.field;
+        m_isLatestNew = true;
+    }
+    entry.reason = reason;
+    tell(entry);
 }
 
 /// What has the focus may be a part of the field, such as a button of a switch. Anything else, on
 /// this page or not, leaves the line as it is.
-void FieldHints::noteFocus(QWidget *now)
+void FieldHints::noteFocus(const QWidget *now)
 {
-    for (const QWidget *widget = now; widget && widget != m_page; widget = widget->parentWidget()) {
-        if (entryOf(widget)) {
-            m_focused = widget;
-            updateLine();
-            return;
-        }
-    }
+    const QWidget *field = now;
+    while (field && field != m_page && !entryOf(field))
+        field = field->parentWidget();
+    if (!field || field == m_page || field == m_focused)
+        return;
+    if (m_latest != m_focused && !m_isLatestNew)
+        m_latest = nullptr;
+    m_isLatestNew = false;
+    m_focused = field;
+    updateLine();
 }
 
 void FieldHints::tell(const Entry &entry)
@@ -115,6 +121,10 @@ void FieldHints::tell(const Entry &entry)
     const QString sentence = sentenceOf(entry);
     entry.hint.field->setToolTip(PlainTip::of(sentence));
     entry.hint.field->setAccessibleDescription(sentence);
+    // The focus is on the buttons of a switch, not on the switch.
+    const auto buttons = entry.hint.field->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons)
+        button->setAccessibleDescription(sentence);
     updateLine();
 }
 
@@ -134,8 +144,11 @@ QString FieldHints::translated(const char *sentence) const
     return QCoreApplication::translate(m_page->metaObject()->className(), sentence);
 }
 
-QString FieldHints::reasonOf(const FieldHint &hint) const
+QString FieldHints::reasonOf(const Entry &entry) const
 {
+    const FieldHint &hint = entry.hint;
+    if (hint.reasons.empty())
+        return entry.reason;
     const auto *edit = qobject_cast<const KelLineEdit *>(hint.field);
     if (!edit || !edit->hasError())
         return {};
@@ -157,16 +170,16 @@ QString FieldHints::sentenceOf(const Entry &entry) const
 
 const FieldHints::Entry *FieldHints::toldEntry()
 {
-    const auto hasReason = [this](const Entry &entry) {
-        return !entry.reason.isEmpty() && entry.hint.field->isVisibleTo(m_page);
-    };
     const Entry *focused = entryOf(m_focused);
-    if (focused && !focused->hint.field->isVisibleTo(m_page))
-        focused = nullptr;
-    if (focused && hasReason(*focused))
-        return focused;
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(), hasReason);
-    return found == m_entries.end() ? focused : &*found;
+    const Entry *latest = entryOf(m_latest);
+    if (hasReasonToSee(latest) && !hasReasonToSee(focused))
+        return latest;
+    return focused && focused->hint.field->isVisibleTo(m_page) ? focused : nullptr;
+}
+
+bool FieldHints::hasReasonToSee(const Entry *entry) const
+{
+    return entry && !entry->reason.isEmpty() && entry->hint.field->isVisibleTo(m_page);
 }
 
 bool FieldHints::isPageEmpty() const

@@ -32,12 +32,14 @@ struct FieldHint
 
 /**
  * Tells in one sentence what a field takes, or why it shows an error word: as the field's tool tip
- * and its description for a screen reader, and in the hint line of the page. The line is about the
- * field that has the focus, or had it last, but a reason goes first, as it may be about a field
- * that the person has just left. On a page on which nothing is typed yet the line names the key of
- * the guide, too.
+ * and its description for a screen reader, and in the hint line of the page.
+ *
+ * The line is about the field that has the focus, or had it last. A word often appears when its
+ * field is left, so the line goes on with a new reason of another field until the person types, or
+ * goes to a third field. On a page on which nothing is typed yet it names the key of the guide,
+ * too.
  */
-class FieldHints : public QObject
+class FieldHints final : public QObject
 {
     Q_OBJECT
 
@@ -66,21 +68,25 @@ private:
 
     void watch(const FieldHint &hint);
     Entry *entryOf(const QWidget *field);
-    void noteText(QWidget *field);
-    void noteFocus(QWidget *now);
+    void note(Entry &entry, const QString &reason);
+    void noteFocus(const QWidget *now);
     void tell(const Entry &entry);
     void updateLine();
 
-    QString reasonOf(const FieldHint &hint) const;
+    /// The reason of the word in the field, or the one that was set.
+    QString reasonOf(const Entry &entry) const;
     QString sentenceOf(const Entry &entry) const;
     /// The entry that the line is about.
     const Entry *toldEntry();
+    bool hasReasonToSee(const Entry *entry) const;
     bool isPageEmpty() const;
 
     QWidget *const m_page;
     HintLine *const m_line;
     std::vector<Entry> m_entries;
     const QWidget *m_focused = nullptr; ///< the field that has the focus or had it last
+    const QWidget *m_latest = nullptr;  ///< the field with the latest reason, while that is told
+    bool m_isLatestNew = false;         ///< since the focus came to where it is
 };
 
 #endif

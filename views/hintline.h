@@ -10,7 +10,7 @@
  * The line at the foot of a page, in quiet letters. Its sentence never asks for more room: one that
  * is longer ends in an ellipsis, and is whole in the tool tip.
  */
-class HintLine : public QLabel
+class HintLine final : public QLabel
 {
     Q_OBJECT
 

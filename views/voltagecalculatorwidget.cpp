@@ -17,8 +17,9 @@ VoltageCalculatorWidget::VoltageCalculatorWidget(QWidget *parent)
                   {QT_TR_NOOP("root of the sum of squares: 3mV + 4mV = 5mV"),
                    QT_TR_NOOP("sum at the phase between the two: 3mV + 4mV = 7mV at 0°"),
                    QT_TR_NOOP("plain sum of the peaks: 3mV + 4mV = 7mV")}});
-    hints().add({{m_ui->phaseSpinBox,
-                  QT_TR_NOOP("Phase φ between correlated a and b: √(a² + b² + 2ab·cos φ)")}});
+    hints().add(
+        {{m_ui->phaseSpinBox,
+          QT_TR_NOOP("Phase φ between correlated a and b: √(a² + b² ± 2ab·cos φ) for a ± b")}});
     m_ui->phaseSpinBox->setRange(VoltageCalculatorProfile::kMinimumPhase,
                                  VoltageCalculatorProfile::kMaximumPhase);
     mirror(&m_voltages, this,

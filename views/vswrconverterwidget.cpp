@@ -75,12 +75,10 @@ void VswrConverterWidget::tellAboutFields()
     const auto because = [](const char *sentence) {
         return std::vector<HintReason>{{ErrorText::kInvalidInput, sentence}};
     };
-    const std::vector<HintReason> noPower = {
-        {ErrorText::kInvalidInput, QT_TR_NOOP("A power is a number with a point: 2.5, -30")},
-        {ErrorText::kNotANumber, QT_TR_NOOP("This power is below zero, so it has no level")}};
-    const std::vector<HintReason> noVoltage = {
-        {ErrorText::kInvalidInput, QT_TR_NOOP("A voltage is a number with a point: 2.5, -30")},
-        {ErrorText::kNotANumber, QT_TR_NOOP("This voltage is below zero, so it has no level")}};
+    const auto noValue = [](const char *noNumber, const char *noSolution) {
+        return std::vector<HintReason>{{ErrorText::kInvalidInput, noNumber},
+                                       {ErrorText::kNotANumber, noSolution}};
+    };
     hints().add({
         {m_ui->vswrLineEdit, QT_TR_NOOP("VSWR s, from 1 up: 2, 1.5:1; Γ = (s - 1)/(s + 1)"),
          because(QT_TR_NOOP("The VSWR is a number from 1 up, with a point: 1.5 or 1.5:1"))},
@@ -93,18 +91,30 @@ void VswrConverterWidget::tellAboutFields()
         {m_ui->amLineEdit, QT_TR_NOOP("Mismatch loss in dB, from 0 up: 0.5; -10·log₁₀(1 - Γ²)"),
          because(QT_TR_NOOP("The mismatch loss is a number from 0 up, with a point: 0.5"))},
         {m_ui->forwardPowerLineEdit,
-         QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"), noPower},
+         QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"),
+         noValue(QT_TR_NOOP("The forward power is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No forward power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->reflectedPowerLineEdit,
-         QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"), noPower},
+         QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"),
+         noValue(QT_TR_NOOP("The reflected power is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No reflected power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->absorbedPowerLineEdit,
-         QT_TR_NOOP("Absorbed power P→ - P← in %1; a new one empties P→ if Γ² is known"), noPower},
+         QT_TR_NOOP("Absorbed power P→ - P← in %1; with Γ² known, a new one empties itself and P→"),
+         noValue(QT_TR_NOOP("The absorbed power is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No absorbed power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->forwardVoltageLineEdit,
-         QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"), noVoltage},
+         QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"),
+         noValue(QT_TR_NOOP("The forward voltage is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No forward voltage fits: it would be below zero, or Γ² is 0"))},
         {m_ui->reflectedVoltageLineEdit,
-         QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"), noVoltage},
+         QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"),
+         noValue(QT_TR_NOOP("The reflected voltage is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No reflected voltage fits: it would be below zero, or Γ² is 0"))},
         {m_ui->absorbedVoltageLineEdit,
-         QT_TR_NOOP("Absorbed voltage V→ - V← in %1; a new one empties V→ if Γ² is known"),
-         noVoltage},
+         QT_TR_NOOP(
+             "Absorbed voltage V→ - V← in %1; with Γ² known, a new one empties itself and V→"),
+         noValue(QT_TR_NOOP("The absorbed voltage is a number with a point: 2.5, -30"),
+                 QT_TR_NOOP("No absorbed voltage fits: it would be below zero, or Γ² is 0"))},
     });
 }
 

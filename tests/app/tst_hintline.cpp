@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Vantrel
 // SPDX-License-Identifier: MIT
 
+#include "errortexts.h"
 #include "hintline.h"
 #include "kelapplication.h"
+#include "kellineedit.h"
 #include "mainwindowcase.h"
 #include "table.h"
 #include "testmain.h"
 
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -16,6 +19,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolTip>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -39,6 +43,7 @@ private Q_SLOTS:
     void aNewPageNamesTheGuide_data();
     void aNewPageNamesTheGuide();
     void everyFieldSaysTheSameToAScreenReader();
+    void everySentenceFollowsTheLanguage();
 
 private:
     QWidget *page() const { return child<QStackedWidget>("stackedWidget")->currentWidget(); }
@@ -46,6 +51,8 @@ private:
     QRect placeOfLine() const { return {line()->mapTo(m_window.get(), QPoint()), line()->size()}; }
     /// The fields that can be edited, on both tabs.
     QList<QWidget *> fields() const;
+    /// All that the page tells, but the reasons that quote what was typed.
+    QStringList sentences() const;
     template <typename Widget = QLineEdit>
     Widget *onPage(const char *name) const
     {
@@ -67,7 +74,54 @@ QList<QRect> placesOn(const QWidget &page)
     return places;
 }
 
+int indexOfLongestItem(const QComboBox &selector)
+{
+    int longest = 0;
+    for (int i = 1; i < selector.count(); ++i) {
+        if (selector.itemText(i).size() > selector.itemText(longest).size())
+            longest = i;
+    }
+    return longest;
+}
+
+/// Translates what the pages tell, so that it can be told apart.
+class Translator final : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        const QString source = QString::fromUtf8(text);
+        return source.size() < 20 ? source : QLatin1String("translated ") + source;
+    }
+};
+
 } // namespace
+
+QStringList HintLineTest::sentences() const
+{
+    QStringList found;
+    const QList<QWidget *> all = fields();
+    for (QWidget *field : all) {
+        found += field->toolTip();
+        // The reason of an expression quotes it.
+        const bool isExpression = field->objectName() == QLatin1String("inputLineEdit");
+        auto *edit = isExpression ? nullptr : qobject_cast<KelLineEdit *>(field);
+        const QStringList words = edit ? ErrorText::all() : QStringList();
+        for (const QString &word : words) {
+            edit->setText(word);
+            found += edit->toolTip();
+            edit->clear();
+        }
+    }
+    if (const auto *modes = onPage<QComboBox>("calcModeComboBox")) {
+        for (int mode = 0; mode < modes->count(); ++mode)
+            found += modes->itemData(mode, Qt::ToolTipRole).toString();
+    }
+    if (const auto *toggle = onPage<QWidget>("vModeToggle"))
+        found += toggle->toolTip();
+    return found;
+}
 
 QList<QWidget *> HintLineTest::fields() const
 {
@@ -106,7 +160,7 @@ void HintLineTest::hasOnePlaceOnEveryPage()
     }
 }
 
-/// With the longest unit and the key of the guide behind it.
+/// With the longest unit and the key of the guide behind it, and the reasons of all words.
 void HintLineTest::everySentenceHasRoomInTheSmallestWindow()
 {
     openWindow();
@@ -114,10 +168,13 @@ void HintLineTest::everySentenceHasRoomInTheSmallestWindow()
     for (int module = 0; module < kModules; ++module) {
         m_profile.setCurrentModule(module);
         QCoreApplication::processEvents();
-        const QList<QWidget *> all = fields();
-        QVERIFY(!all.isEmpty());
-        for (const QWidget *field : all) {
-            line()->setText(field->toolTip() + QLatin1String(" | F1: guide"));
+        const QList<QComboBox *> selectors = page()->findChildren<QComboBox *>();
+        for (QComboBox *selector : selectors)
+            selector->setCurrentIndex(indexOfLongestItem(*selector));
+        const QStringList all = sentences();
+        QVERIFY(all.size() > 2);
+        for (const QString &sentence : all) {
+            line()->setText(sentence + QLatin1String(" | F1: guide"));
             QVERIFY2(!line()->isCut(), qPrintable(line()->text()));
         }
     }
@@ -270,7 +327,9 @@ void HintLineTest::everyFieldSaysTheSameToAScreenReader()
                     continue;
                 field->setFocus(Qt::TabFocusReason);
                 QVERIFY2(!field->toolTip().isEmpty(), qPrintable(field->objectName()));
-                QCOMPARE(field->accessibleDescription(), field->toolTip());
+                QCOMPARE(
+                    QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description),
+                    field->toolTip());
                 QVERIFY2(line()->text().startsWith(field->toolTip()),
                          qPrintable(field->objectName()));
                 ++count;
@@ -279,6 +338,21 @@ void HintLineTest::everyFieldSaysTheSameToAScreenReader()
     }
     // The two inputs, the phase, five fields, eight on the tabs, and 11 of which five are on both.
     QCOMPARE(count, 3 + 5 + 8 + 16);
+}
+
+void HintLineTest::everySentenceFollowsTheLanguage()
+{
+    openWindow();
+    Translator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCoreApplication::processEvents();
+    for (int module = 0; module < kModules; ++module) {
+        m_profile.setCurrentModule(module);
+        const QStringList all = sentences();
+        for (const QString &sentence : all)
+            QVERIFY2(sentence.startsWith(QLatin1String("translated ")), qPrintable(sentence));
+    }
+    QCoreApplication::removeTranslator(&translator);
 }
 
 int main(int argc, char **argv)

@@ -11,8 +11,11 @@
 #include "unitconverterwidget.h"
 #include "vswrconverterwidget.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -37,7 +40,10 @@ private Q_SLOTS:
     void anErrorWordSaysWhy();
     void everyErrorWordOfEveryFieldHasAReason();
     void aLevelBelowZeroSaysWhy();
-    void aReasonGoesFirst();
+    void aNewReasonIsToldWhereverTheFocusIs();
+    void anOldReasonMakesRoom_data();
+    void anOldReasonMakesRoom();
+    void theReasonOfTheFieldWithTheFocusGoesFirst();
     void aFieldThatIsTurnedAwayIsNotToldAbout();
     void partsOfAFieldAreTheField();
     void anEmptyPageNamesTheGuide();
@@ -142,11 +148,11 @@ void FieldHintsTest::theUnitIsTheChosenOne()
     const ConverterPage page = open(QStringLiteral("forwardPowerLineEdit"));
     const KelLineEdit &field = page.field(QStringLiteral("forwardPowerLineEdit"));
     QVERIFY(field.toolTip().startsWith(QStringLiteral("Forward power P→ in dBm;")));
-    page.type(QStringLiteral("forwardPowerLineEdit"), QStringLiteral("1"));
+    page.focus(QStringLiteral("forwardPowerLineEdit"));
     page.combo(QStringLiteral("forwardPowerUnitComboBox")).setCurrentIndex(2);
     QVERIFY(field.toolTip().startsWith(QStringLiteral("Forward power P→ in W;")));
     QCOMPARE(field.accessibleDescription(), field.toolTip());
-    QCOMPARE(line(), field.toolTip());
+    QCOMPARE(line(), field.toolTip() + kGuide);
 }
 
 void FieldHintsTest::anErrorWordSaysWhy_data()
@@ -159,11 +165,11 @@ void FieldHintsTest::anErrorWordSaysWhy_data()
     row("a VSWR below 1", "vswrLineEdit", "0.5", "vswrLineEdit",
         "The VSWR is a number from 1 up, with a point: 1.5 or 1.5:1");
     row("a voltage with a unit", "v1LineEdit", "1 V", "v1LineEdit",
-        "A voltage is a number of volts without unit, with a point: 2.5, 100m");
+        "V1 is a number of volts without a unit, and with a point: 2.5, 100m");
     row("a ratio that is no number, said in the field beside it", "pRatioLineEdit", "two",
-        "pDbLineEdit", "The ratio P1/P2 is no number; write 2, 0.5 or 1k");
+        "pDbLineEdit", "The ratio P1/P2 is a number with a point: 2, 0.5, 1k");
     row("a ratio in dB that is no number", "vDbLineEdit", "x", "vRatioLineEdit",
-        "The ratio in dB is no number; write -3 or 1.5");
+        "The ratio of the voltages in dB is a number with a point: -3, 1.5");
 }
 
 void FieldHintsTest::anErrorWordSaysWhy()
@@ -217,23 +223,65 @@ void FieldHintsTest::aLevelBelowZeroSaysWhy()
     page.type(QStringLiteral("absorbedPowerLineEdit"), QStringLiteral("20"));
     page.focus(QStringLiteral("vswrLineEdit"));
     QCOMPARE(page.field(QStringLiteral("reflectedPowerLineEdit")).text(), ErrorText::kNotANumber);
-    QCOMPARE(line(), QStringLiteral("This power is below zero, so it has no level"));
+    QCOMPARE(line(), QStringLiteral("No reflected power fits: it would be below zero, or Γ² is 0"));
 }
 
 /// The person has left the field when its word appears.
-void FieldHintsTest::aReasonGoesFirst()
+void FieldHintsTest::aNewReasonIsToldWhereverTheFocusIs()
 {
     const ConverterPage page = open(QStringLiteral("p1LineEdit"));
     page.type(QStringLiteral("p1LineEdit"), QStringLiteral("5"));
     page.type(QStringLiteral("p2LineEdit"), QStringLiteral("2W"));
     page.focus(QStringLiteral("pDbLineEdit"));
     QCOMPARE(page.field(QStringLiteral("p2LineEdit")).text(), ErrorText::kUnitMismatch);
-    QCOMPARE(line(), QStringLiteral("P1 and P2 have a unit both, or none"));
+    QCOMPARE(line(), QStringLiteral("P1 and P2 must both have a unit, or neither"));
 
     page.type(QStringLiteral("p2LineEdit"), QStringLiteral("2"));
     QCOMPARE(line(), page.field(QStringLiteral("p2LineEdit")).toolTip());
 }
 
+void FieldHintsTest::anOldReasonMakesRoom_data()
+{
+    columns<QString>({"how"});
+    row("when the person types in another field", "types");
+    row("when the person goes to a third field", "goes on");
+}
+
+/// The word stays in its field, and so does its reason in the tip.
+void FieldHintsTest::anOldReasonMakesRoom()
+{
+    QFETCH(QString, how);
+
+    const ConverterPage page = open(QStringLiteral("wattLineEdit"));
+    page.type(QStringLiteral("wattLineEdit"), QStringLiteral("-1"));
+    QTest::keyClick(&page.field(QStringLiteral("wattLineEdit")), Qt::Key_Return);
+    const QString reason = line();
+    page.focus(QStringLiteral("voltLineEdit"));
+    QCOMPARE(line(), reason);
+
+    const bool isTyping = how == QLatin1String("types");
+    if (isTyping)
+        QTest::keyClicks(&page.field(QStringLiteral("voltLineEdit")), QStringLiteral("2"));
+    else
+        page.focus(QStringLiteral("impedanceLineEdit"));
+    const QWidget *focused = QApplication::focusWidget();
+    QCOMPARE(line(), focused->toolTip());
+    QCOMPARE(page.field(QStringLiteral("wattLineEdit")).toolTip(), reason);
+
+    page.focus(QStringLiteral("wattLineEdit"));
+    QCOMPARE(line() == reason, !isTyping); // leaving the voltage calculates the power
+}
+
+void FieldHintsTest::theReasonOfTheFieldWithTheFocusGoesFirst()
+{
+    const ConverterPage page = open(QStringLiteral("vswrLineEdit"));
+    page.field(QStringLiteral("vswrLineEdit")).setText(ErrorText::kInvalidInput);
+    page.focus(QStringLiteral("vswrLineEdit"));
+    page.field(QStringLiteral("amLineEdit")).setText(ErrorText::kInvalidInput);
+    QCOMPARE(line(), page.field(QStringLiteral("vswrLineEdit")).toolTip());
+}
+
+/// The focus stays on the row of tabs meanwhile.
 void FieldHintsTest::aFieldThatIsTurnedAwayIsNotToldAbout()
 {
     const ConverterPage page = open(QStringLiteral("p1LineEdit"));
@@ -241,9 +289,11 @@ void FieldHintsTest::aFieldThatIsTurnedAwayIsNotToldAbout()
     QTest::keyClick(&page.field(QStringLiteral("p1LineEdit")), Qt::Key_Return);
     const QString reason = line();
     QCOMPARE(reason, page.field(QStringLiteral("p1LineEdit")).toolTip());
-    page.child<QTabWidget>(QStringLiteral("mainTab")).setCurrentIndex(1);
-    QCOMPARE(line(), page.field(QStringLiteral("v1LineEdit")).toolTip());
-    page.child<QTabWidget>(QStringLiteral("mainTab")).setCurrentIndex(0);
+    QTabBar *tabs = page.child<QTabWidget>(QStringLiteral("mainTab")).tabBar();
+    tabs->setFocus();
+    QTest::keyClick(tabs, Qt::Key_Right);
+    QCOMPARE(line(), QStringLiteral("F1: guide"));
+    QTest::keyClick(tabs, Qt::Key_Left);
     QCOMPARE(line(), reason);
 }
 
@@ -252,11 +302,13 @@ void FieldHintsTest::partsOfAFieldAreTheField()
     const ConverterPage page = open(QStringLiteral("vModeToggle"));
     page.type(QStringLiteral("wattLineEdit"), QStringLiteral("1"));
     auto &toggle = page.child<QWidget>(QStringLiteral("vModeToggle"));
-    const QList<QWidget *> buttons = toggle.findChildren<QWidget *>();
+    const auto buttons = toggle.findChildren<QAbstractButton *>();
     QVERIFY(!buttons.isEmpty());
     buttons.first()->setFocus();
     QVERIFY(!toggle.toolTip().isEmpty());
     QCOMPARE(line(), toggle.toolTip());
+    for (const QWidget *button : buttons)
+        QCOMPARE(button->accessibleDescription(), toggle.toolTip());
 }
 
 void FieldHintsTest::anEmptyPageNamesTheGuide()

@@ -24,6 +24,7 @@ bool isCopyKey(QEvent *event)
 
 ResultCopy::ResultCopy(QLineEdit *input, KelLineEdit *result, const QComboBox *unit)
     : QObject(result),
+      m_input(input),
       m_result(result),
       m_unit(unit)
 {
@@ -35,9 +36,12 @@ bool ResultCopy::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_result && event->type() == QEvent::ContextMenu)
         updateMenuEntry();
-    if (!isCopyKey(event) || static_cast<QLineEdit *>(watched)->hasSelectedText() || !hasResult())
+    if (!isCopyKey(event) || static_cast<QLineEdit *>(watched)->hasSelectedText())
         return QObject::eventFilter(watched, event);
-    copy();
+    const QString text = textFor(watched);
+    if (text.isEmpty())
+        return QObject::eventFilter(watched, event);
+    QGuiApplication::clipboard()->setText(text);
     return true;
 }
 
@@ -47,19 +51,27 @@ bool ResultCopy::hasResult() const
            m_result->text() != Dezimo::ErrorText::kNoResult;
 }
 
-void ResultCopy::copy() const
+QString ResultCopy::resultWithUnit() const
 {
-    QString text = m_result->text();
-    if (!m_unit->isHidden())
-        text += QLatin1Char(' ') + m_unit->currentText();
-    QGuiApplication::clipboard()->setText(text);
+    if (m_unit->isHidden())
+        return m_result->text();
+    return m_result->text() + QLatin1Char(' ') + m_unit->currentText();
+}
+
+/// An expression has a result or an error word, so an empty result has been taken over.
+QString ResultCopy::textFor(const QObject *edit) const
+{
+    if (m_result->text().isEmpty() && edit == m_input)
+        return m_input->text();
+    return hasResult() ? resultWithUnit() : QString();
 }
 
 void ResultCopy::updateMenuEntry()
 {
     if (m_menuEntry == nullptr) {
         m_menuEntry = new QAction(tr("Copy with Unit"), m_result);
-        connect(m_menuEntry, &QAction::triggered, this, &ResultCopy::copy);
+        connect(m_menuEntry, &QAction::triggered, this,
+                [this] { QGuiApplication::clipboard()->setText(resultWithUnit()); });
         m_result->addAction(m_menuEntry);
     }
     m_menuEntry->setEnabled(hasResult());

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void recallsWhatWasTakenOver();
     void comesBackToWhatWasBeingTyped();
     void whatIsRecalledIsCalculated();
+    void theArrowOfTheNumericKeypadRecalls();
     void recallingCanBeUndone();
     void eachCalculatorRecallsItsOwn();
     void heldKeysRecallNothing();
@@ -239,6 +240,14 @@ void InputKeysTest::whatIsRecalledIsCalculated()
     QCOMPARE(page.input().cursorPosition(), int(qstrlen("10dBm+10dBm")));
     page.type("-3dB");
     QCOMPARE(page.result(), QStringLiteral("7.00 dBm"));
+}
+
+void InputKeysTest::theArrowOfTheNumericKeypadRecalls()
+{
+    CalculatorPage page = shownPage();
+    takeOver(page, "10dBm+10dBm");
+    QTest::keyClick(&page.input(), Qt::Key_Up, Qt::KeypadModifier);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
 }
 
 void InputKeysTest::recallingCanBeUndone()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void copiesWhatIsSelected_data();
     void copiesWhatIsSelected();
     void copiesWhatSlides();
+    void copiesWhatWasTakenOver();
     void theContextMenuKeepsItsOwnEntries();
     void whatIsCopiedCanBePasted_data();
     void whatIsCopiedCanBePasted();
@@ -172,6 +173,17 @@ void ResultCopyTest::copiesWhatSlides()
     QCOMPARE(m_profile.output(), QStringLiteral("invalid input"));
     QTest::keySequence(&page.input(), QKeySequence::Copy);
     QCOMPARE(copied(), QStringLiteral("10.00 dBm"));
+}
+
+void ResultCopyTest::copiesWhatWasTakenOver()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+13dBm");
+    page.type(Qt::Key_Return);
+    QTRY_COMPARE(page.output().text(), QString());
+    QTest::keySequence(&page.input(), QKeySequence::Copy);
+    QCOMPARE(copied(), page.input().text());
+    QVERIFY(copied().endsWith(QLatin1String(" dBm")));
 }
 
 void ResultCopyTest::theContextMenuKeepsItsOwnEntries()

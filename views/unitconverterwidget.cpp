@@ -57,9 +57,11 @@ void UnitConverterWidget::tellAboutFields()
     };
     hints().add({
         {m_ui->dbmLineEdit, QT_TR_NOOP("Power in %1: 13.5, -30; P = Vrms²/R"),
-         because(QT_TR_NOOP("The logarithmic power is a number with a point: 13.5, -30"))},
+         because(QT_TR_NOOP(
+             "The logarithmic power is a number without a unit, with a point: 13.5, -30"))},
         {m_ui->wattLineEdit, QT_TR_NOOP("Power in %1: 22.4, 500u; P = Vrms²/R"),
-         because(QT_TR_NOOP("The linear power is a number from 0 up, with a point: 2.5, 100m"))},
+         because(QT_TR_NOOP(
+             "The linear power is a number from 0 up, without a unit, with a point: 2.5, 100m"))},
         {m_ui->impedanceLineEdit,
          QT_TR_NOOP("Impedance in ohms; a new one empties the four values"),
          {{ErrorText::kInvalid,
@@ -68,9 +70,11 @@ void UnitConverterWidget::tellAboutFields()
          QT_TR_NOOP(
              "Which voltage of a sine is shown; a new mode calculates again from the power")},
         {m_ui->dbvLineEdit, QT_TR_NOOP("Voltage in %1: -13, 107; Vrms = √(P·R)"),
-         because(QT_TR_NOOP("The logarithmic voltage is a number with a point: 107, -13.5"))},
+         because(QT_TR_NOOP(
+             "The logarithmic voltage is a number without a unit, with a point: 107, -13.5"))},
         {m_ui->voltLineEdit, QT_TR_NOOP("Voltage in %1: 2.5, 100u; Vrms = √(P·R)"),
-         because(QT_TR_NOOP("The linear voltage is a number from 0 up, with a point: 2.5, 100u"))},
+         because(QT_TR_NOOP(
+             "The linear voltage is a number from 0 up, without a unit, with a point: 2.5, 100u"))},
     });
 }
 

@@ -80,8 +80,8 @@ void VswrConverterWidget::tellAboutFields()
                                        {ErrorText::kNotANumber, noSolution}};
     };
     hints().add({
-        {m_ui->vswrLineEdit, QT_TR_NOOP("VSWR s, from 1 up: 2, 1.5:1; Γ = (s - 1)/(s + 1)"),
-         because(QT_TR_NOOP("The VSWR is a number from 1 up, with a point: 1.5 or 1.5:1"))},
+        {m_ui->vswrLineEdit, QT_TR_NOOP("VSWR s, from 1 up: 2, 1.5; Γ = (s - 1)/(s + 1)"),
+         because(QT_TR_NOOP("The VSWR is a number from 1 up, with a point: 2, 1.5"))},
         {m_ui->rLineEdit, QT_TR_NOOP("Magnitude of Γ, from 0 to 1: 0.33; s = (1 + Γ)/(1 - Γ)"),
          because(QT_TR_NOOP("Γ is a number from 0 to 1, with a point: 0.33"))},
         {m_ui->r2LineEdit, QT_TR_NOOP("Reflected power in %, from 0 to 100: 11; Γ²·100"),
@@ -92,29 +92,34 @@ void VswrConverterWidget::tellAboutFields()
          because(QT_TR_NOOP("The mismatch loss is a number from 0 up, with a point: 0.5"))},
         {m_ui->forwardPowerLineEdit,
          QT_TR_NOOP("Forward power P→ in %1; gives P← = P→·Γ² if Γ² is known"),
-         noValue(QT_TR_NOOP("The forward power is a number with a point: 2.5, -30"),
+         noValue(QT_TR_NOOP("The forward power is a number without a unit, with a point: 2.5, -30"),
                  QT_TR_NOOP("No forward power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->reflectedPowerLineEdit,
          QT_TR_NOOP("Reflected power P← in %1; gives P→ = P←/Γ² if Γ² is known"),
-         noValue(QT_TR_NOOP("The reflected power is a number with a point: 2.5, -30"),
-                 QT_TR_NOOP("No reflected power fits: it would be below zero, or Γ² is 0"))},
+         noValue(
+             QT_TR_NOOP("The reflected power is a number without a unit, with a point: 2.5, -30"),
+             QT_TR_NOOP("No reflected power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->absorbedPowerLineEdit,
          QT_TR_NOOP("Absorbed power P→ - P← in %1; with Γ² known, a new one empties itself and P→"),
-         noValue(QT_TR_NOOP("The absorbed power is a number with a point: 2.5, -30"),
-                 QT_TR_NOOP("No absorbed power fits: it would be below zero, or Γ² is 0"))},
+         noValue(
+             QT_TR_NOOP("The absorbed power is a number without a unit, with a point: 2.5, -30"),
+             QT_TR_NOOP("No absorbed power fits: it would be below zero, or Γ² is 0"))},
         {m_ui->forwardVoltageLineEdit,
          QT_TR_NOOP("Forward voltage V→ in %1; gives V← = V→·Γ² if Γ² is known"),
-         noValue(QT_TR_NOOP("The forward voltage is a number with a point: 2.5, -30"),
-                 QT_TR_NOOP("No forward voltage fits: it would be below zero, or Γ² is 0"))},
+         noValue(
+             QT_TR_NOOP("The forward voltage is a number without a unit, with a point: 2.5, -30"),
+             QT_TR_NOOP("No forward voltage fits: it would be below zero, or Γ² is 0"))},
         {m_ui->reflectedVoltageLineEdit,
          QT_TR_NOOP("Reflected voltage V← in %1; gives V→ = V←/Γ² if Γ² is known"),
-         noValue(QT_TR_NOOP("The reflected voltage is a number with a point: 2.5, -30"),
-                 QT_TR_NOOP("No reflected voltage fits: it would be below zero, or Γ² is 0"))},
+         noValue(
+             QT_TR_NOOP("The reflected voltage is a number without a unit, with a point: 2.5, -30"),
+             QT_TR_NOOP("No reflected voltage fits: it would be below zero, or Γ² is 0"))},
         {m_ui->absorbedVoltageLineEdit,
          QT_TR_NOOP(
              "Absorbed voltage V→ - V← in %1; with Γ² known, a new one empties itself and V→"),
-         noValue(QT_TR_NOOP("The absorbed voltage is a number with a point: 2.5, -30"),
-                 QT_TR_NOOP("No absorbed voltage fits: it would be below zero, or Γ² is 0"))},
+         noValue(
+             QT_TR_NOOP("The absorbed voltage is a number without a unit, with a point: 2.5, -30"),
+             QT_TR_NOOP("No absorbed voltage fits: it would be below zero, or Γ² is 0"))},
     });
 }
 

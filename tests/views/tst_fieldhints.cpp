@@ -103,7 +103,7 @@ void FieldHintsTest::theExamplesOfAFieldAreTaken_data()
     row("the second voltage", "v2LineEdit", "2, 100m");
     row("a ratio of voltages", "vRatioLineEdit", "2, 0.5, 1k");
     row("a ratio of voltages in dB", "vDbLineEdit", "6, -20");
-    row("a VSWR", "vswrLineEdit", "2, 1.5:1");
+    row("a VSWR", "vswrLineEdit", "2, 1.5");
     row("a reflection coefficient", "rLineEdit", "0.33");
     row("a reflected power", "r2LineEdit", "11");
     row("a return loss", "arLineEdit", "9.5");
@@ -159,11 +159,11 @@ void FieldHintsTest::anErrorWordSaysWhy_data()
 {
     columns<QString, QString, QString, QString>({"field", "typed", "marked", "reason"});
     row("a decimal comma", "dbmLineEdit", "1,5", "dbmLineEdit",
-        "The logarithmic power is a number with a point: 13.5, -30");
+        "The logarithmic power is a number without a unit, with a point: 13.5, -30");
     row("a negative voltage", "voltLineEdit", "-1", "voltLineEdit",
-        "The linear voltage is a number from 0 up, with a point: 2.5, 100u");
+        "The linear voltage is a number from 0 up, without a unit, with a point: 2.5, 100u");
     row("a VSWR below 1", "vswrLineEdit", "0.5", "vswrLineEdit",
-        "The VSWR is a number from 1 up, with a point: 1.5 or 1.5:1");
+        "The VSWR is a number from 1 up, with a point: 2, 1.5");
     row("a voltage with a unit", "v1LineEdit", "1 V", "v1LineEdit",
         "V1 is a number of volts without a unit, and with a point: 2.5, 100m");
     row("a ratio that is no number, said in the field beside it", "pRatioLineEdit", "two",

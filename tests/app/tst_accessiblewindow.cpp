@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>
@@ -51,9 +52,10 @@ QString listed(const QStringList &names)
 /// its own.
 QStringList withoutHints(QStringList controls)
 {
+    const QRegularExpression hint(QStringLiteral(" / .*?(?= \\[|$)"));
     for (QString &control : controls) {
         if (!control.contains(QLatin1String(" Result / ")))
-            control = control.section(QLatin1String(" / "), 0, 0);
+            control.remove(hint);
     }
     return controls;
 }

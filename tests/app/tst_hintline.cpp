@@ -104,10 +104,11 @@ QStringList HintLineTest::sentences() const
     const QList<QWidget *> all = fields();
     for (QWidget *field : all) {
         found += field->toolTip();
+        auto *edit = qobject_cast<KelLineEdit *>(field);
         // The reason of an expression quotes it.
-        const bool isExpression = field->objectName() == QLatin1String("inputLineEdit");
-        auto *edit = isExpression ? nullptr : qobject_cast<KelLineEdit *>(field);
-        const QStringList words = edit ? ErrorText::all() : QStringList();
+        if (!edit || edit->objectName() == QLatin1String("inputLineEdit"))
+            continue;
+        const QStringList words = ErrorText::all();
         for (const QString &word : words) {
             edit->setText(word);
             found += edit->toolTip();

@@ -3,7 +3,7 @@
 
 #include "pastedtext.h"
 
-#include <QStringList>
+#include <QVector>
 
 namespace PastedText {
 
@@ -62,17 +62,21 @@ QString plain(const QString &text, MicroSign microSign)
     return kept;
 }
 
+struct Spelling
+{
+    QString text;
+    Qt::CaseSensitivity letters = Qt::CaseSensitive; // mW and MW are not the same
+};
+
 /// The ways to write a unit. There are two signs for the ohm that look alike.
-QStringList spellings(const QString &unit)
+QVector<Spelling> spellings(const QString &unit)
 {
     if (unit != QStringLiteral("\u03A9"))
-        return {unit};
-    return {unit,
-            QStringLiteral("\u2126"),
-            QStringLiteral("ohm"),
-            QStringLiteral("ohms"),
-            QStringLiteral("Ohm"),
-            QStringLiteral("Ohms")};
+        return {{unit}};
+    return {{unit},
+            {QStringLiteral("\u2126")},
+            {QStringLiteral("ohm"), Qt::CaseInsensitive},
+            {QStringLiteral("ohms"), Qt::CaseInsensitive}};
 }
 
 /// One letter before the unit is its prefix. More of them belong to another unit.
@@ -84,11 +88,11 @@ bool mayComeBeforeUnit(const QString &text)
 
 QString withoutUnit(const QString &text, const QString &unit)
 {
-    const QStringList all = spellings(unit);
-    for (const QString &spelling : all) {
-        if (!text.endsWith(spelling))
+    const QVector<Spelling> all = spellings(unit);
+    for (const Spelling &spelling : all) {
+        if (!text.endsWith(spelling.text, spelling.letters))
             continue;
-        QString rest = text.chopped(spelling.size());
+        QString rest = text.chopped(spelling.text.size());
         if (mayComeBeforeUnit(rest))
             return rest;
     }

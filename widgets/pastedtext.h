@@ -22,7 +22,7 @@ enum class MicroSign { Kept, Replaced };
  *
  * @param unit stands beside the field and goes from the end of the text, where it follows a number
  *             or its prefix. So "5mW" is "5m" in watts, while "5dBW" stays as it is. A micro sign
- *             is the same as a "u" in it, and "ohm" is a unit, too.
+ *             is the same as a "u" in it. The ohm may also be a word, in large or small letters.
  */
 QString cleaned(const QString &text, const QString &unit = QString(),
                 MicroSign microSign = MicroSign::Replaced);

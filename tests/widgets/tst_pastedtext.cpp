@@ -132,6 +132,8 @@ void PastedTextTest::leavesOutTheUnitBesideTheField_data()
     row("the sign of the ohm that looks like the Greek letter", "50\u2126", "\u03A9", "50");
     row("ohm as a word", "50 ohm", "\u03A9", "50");
     row("ohms as a word", "50 Ohms", "\u03A9", "50");
+    row("ohm in capitals", "50 OHM", "\u03A9", "50");
+    row("ohms in capitals", "50 OHMS", "\u03A9", "50");
     row("a prefix before the ohm", "1 k\u03A9", "\u03A9", "1k");
     row("a prefix before the ohm as a word", "1 kohm", "\u03A9", "1k");
     row("ohm where another unit is", "50 ohm", "m", "50ohm");

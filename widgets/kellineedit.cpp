@@ -223,8 +223,14 @@ void KelLineEdit::dropEvent(QDropEvent *event)
     if (event->source() == this || !event->mimeData()->hasText()) {
         QLineEdit::dropEvent(event);
     } else {
+        const QString text = event->mimeData()->text();
         QMimeData contents;
-        contents.setText(cleaned(event->mimeData()->text()));
+        contents.setText(cleaned(text));
+        if (contents.text().isEmpty() && !text.isEmpty()) {
+            QDragLeaveEvent hidesTheDropCursor;
+            dragLeaveEvent(&hidesTheDropCursor);
+            return event->ignore();
+        }
         QDropEvent drop = dropOf(contents, *event);
         endUndoStep();
         QLineEdit::dropEvent(&drop);
@@ -258,15 +264,16 @@ QString KelLineEdit::cleaned(const QString &text) const
     return PastedText::cleaned(text, unit, m_microSign);
 }
 
-/// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when there is
-/// nothing to paste.
+/// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when the
+/// clipboard is empty. A unit alone or a blank is no reason to lose the selected value.
 void KelLineEdit::pasteFrom(QClipboard::Mode mode)
 {
     const QString text = QGuiApplication::clipboard()->text(mode);
-    if (text.isEmpty() && !hasSelectedText())
+    const QString kept = cleaned(text);
+    if (kept.isEmpty() && !(text.isEmpty() && hasSelectedText()))
         return;
     endUndoStep();
-    insert(cleaned(text));
+    insert(kept);
     endUndoStep();
 }
 

@@ -32,7 +32,8 @@ class QMenu;
  * description of its own.
  *
  * A text that is pasted or dropped is cleaned first (see pastedtext.h), and the unit beside the
- * edit, in its right end or in a selector, is left out. What is typed stays as it is.
+ * edit, in its right end or in a selector, is left out. If nothing is left of it,
+ * nothing happens. What is typed stays as it is.
  *
  * Actions that are added to the edit come first in its context menu.
  */

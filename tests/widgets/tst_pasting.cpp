@@ -35,6 +35,8 @@ private Q_SLOTS:
     void insertsAtTheCursor();
     void replacesTheSelection_data() { addPastes(); }
     void replacesTheSelection();
+    void keepsTheValueIfNothingIsLeftOfTheText_data();
+    void keepsTheValueIfNothingIsLeftOfTheText();
     void isOneStepOfUndo_data();
     void isOneStepOfUndo();
     void staysWithinTheLargestLength();
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void isRefusedByAReadOnlyEdit_data() { addComings(); }
     void isRefusedByAReadOnlyEdit();
     void pastesNothingFromAnEmptyClipboard();
+    void pastesNothingOverASelection();
     void isAnEditOnce_data() { addComings(); }
     void isAnEditOnce();
     void aNumericEditTakesWhatIsCleaned_data();
@@ -219,10 +222,28 @@ void PastingTest::replacesTheSelection()
     bring(QStringLiteral("6 7"), way);
     QCOMPARE(m_edit->text(), QStringLiteral("1675"));
     QCOMPARE(m_edit->cursorPosition(), 3);
-    // As in Qt, pasting nothing over a selection removes it.
+}
+
+void PastingTest::keepsTheValueIfNothingIsLeftOfTheText_data()
+{
+    columns<QString, QString>({"way", "text"});
+    for (const Step &step : m_comings) {
+        QTest::addRow("the unit alone, %s", step.name) << QString::fromLatin1(step.name) << "dBm";
+        QTest::addRow("blanks, %s", step.name) << QString::fromLatin1(step.name) << " \n";
+    }
+}
+
+void PastingTest::keepsTheValueIfNothingIsLeftOfTheText()
+{
+    QFETCH(QString, way);
+    QFETCH(QString, text);
+
+    m_edit->setSuffixText(QStringLiteral("dBm"));
     m_edit->selectAll();
-    bring(QStringLiteral(" \n"), way);
-    QCOMPARE(m_edit->text(), QString());
+    bring(text, way);
+    QCOMPARE(m_edit->text(), QStringLiteral("12"));
+    keys("Tab");
+    QCOMPARE(m_finished->count(), 0);
 }
 
 void PastingTest::isOneStepOfUndo_data()
@@ -297,6 +318,15 @@ void PastingTest::pastesNothingFromAnEmptyClipboard()
     keys("Ctrl+V Tab");
     QCOMPARE(m_edit->text(), QStringLiteral("12"));
     QCOMPARE(m_finished->count(), 0);
+}
+
+/// As Qt's own edit does.
+void PastingTest::pastesNothingOverASelection()
+{
+    QApplication::clipboard()->clear();
+    m_edit->selectAll();
+    keys("Ctrl+V");
+    QCOMPARE(m_edit->text(), QString());
 }
 
 void PastingTest::isAnEditOnce()

@@ -36,6 +36,7 @@ KelGuideWindow::KelGuideWindow(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->findLine->hide();
+    m_ui->findLineEdit->setCleaningPastes(false); // words have blanks between them
     connectKeyboard();
     onThemeChanged(Bright);
 }

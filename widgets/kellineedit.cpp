@@ -225,7 +225,7 @@ void KelLineEdit::dropEvent(QDropEvent *event)
     } else {
         const QString text = event->mimeData()->text();
         QMimeData contents;
-        contents.setText(cleaned(text));
+        contents.setText(taken(text));
         if (contents.text().isEmpty() && !text.isEmpty()) {
             QDragLeaveEvent hidesTheDropCursor;
             dragLeaveEvent(&hidesTheDropCursor);
@@ -264,12 +264,17 @@ QString KelLineEdit::cleaned(const QString &text) const
     return PastedText::cleaned(text, unit, m_microSign);
 }
 
+QString KelLineEdit::taken(const QString &text) const
+{
+    return m_isCleaningPastes ? cleaned(text) : text;
+}
+
 /// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when the
 /// clipboard is empty. A unit alone or a blank is no reason to lose the selected value.
 void KelLineEdit::pasteFrom(QClipboard::Mode mode)
 {
     const QString text = QGuiApplication::clipboard()->text(mode);
-    const QString kept = cleaned(text);
+    const QString kept = taken(text);
     if (kept.isEmpty() && !(text.isEmpty() && hasSelectedText()))
         return;
     endUndoStep();

@@ -33,7 +33,8 @@ class QMenu;
  *
  * A text that is pasted or dropped is cleaned first (see pastedtext.h), and the unit beside the
  * edit, in its right end or in a selector, is left out. If nothing is left of it,
- * nothing happens. What is typed stays as it is.
+ * nothing happens. What is typed stays as it is. An edit for words, not for a value, has to switch
+ * this off.
  *
  * Actions that are added to the edit come first in its context menu.
  */
@@ -70,6 +71,9 @@ public:
     /// Whether the edit's reader knows the micro sign. If not, a pasted one becomes "u".
     void setMicroSign(PastedText::MicroSign sign) { m_microSign = sign; }
 
+    /// Cleans what is pasted or dropped. On at first.
+    void setCleaningPastes(bool cleaning) { m_isCleaningPastes = cleaning; }
+
     /// Emits editingFinished whenever the edit is left, changed or not. Off at first.
     void setFinishedByEveryLeaving(bool finished) { m_isFinishedByEveryLeaving = finished; }
 
@@ -90,10 +94,11 @@ protected:
     void dropEvent(QDropEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
-    /// What the edit takes of a text that is pasted or dropped.
+    /// What an edit that cleans takes of a text that is pasted or dropped.
     virtual QString cleaned(const QString &text) const;
 
 private:
+    QString taken(const QString &text) const;
     void pasteFrom(QClipboard::Mode mode);
     void endUndoStep();
     void noteEdit(const QString &text);
@@ -110,6 +115,7 @@ private:
     QLabel *const m_suffixLabel;
     QPointer<const QComboBox> m_unitSelector;
     PastedText::MicroSign m_microSign = PastedText::MicroSign::Replaced;
+    bool m_isCleaningPastes = true;
     QString m_labelDescription;
     QStringList m_errorTexts;
     bool m_hasError = false;

@@ -12,6 +12,7 @@
 #include "words.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void findsTheNextAndThePreviousPlace();
     void findsFromWhereOneReads();
     void goesOnAtTheOtherEnd();
+    void findsWhatIsPasted();
     void saysThatNothingIsFound();
     void f3WithoutAWordAsksForOne();
     void theButtonsFind();
@@ -379,6 +381,18 @@ void GuideWindowTest::goesOnAtTheOtherEnd()
     QCOMPARE(browser()->textCursor().position(), first.position());
     QTest::keyClick(findField(), Qt::Key_Return, Qt::ShiftModifier);
     QCOMPARE(browser()->textCursor().position(), last.position());
+    QCOMPARE(notFound(), QString());
+}
+
+/// The blanks belong to the words, other than in a value.
+void GuideWindowTest::findsWhatIsPasted()
+{
+    openGuide();
+    find("");
+    QApplication::clipboard()->setText(QStringLiteral("return loss"));
+    QTest::keySequence(findField(), QKeySequence::Paste);
+    QCOMPARE(findField()->text(), QStringLiteral("return loss"));
+    QCOMPARE(browser()->textCursor().selectedText().toLower(), QStringLiteral("return loss"));
     QCOMPARE(notFound(), QString());
 }
 

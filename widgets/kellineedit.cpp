@@ -8,15 +8,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMimeData>
 #include <QStyle>
-
-#include <algorithm>
 
 namespace {
 
@@ -28,44 +23,10 @@ int marginFor(const QLabel *label)
     return label->text().isEmpty() ? 0 : label->width() + kLabelMargin;
 }
 
-/// Shift turns Ctrl+Insert, which copies, into the key that pastes what is selected anywhere.
-QClipboard::Mode clipboardOf(const QKeyEvent &key)
-{
-    const bool isSelection = key.key() == Qt::Key_Insert &&
-                             key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
-                             QGuiApplication::clipboard()->supportsSelection();
-    return isSelection ? QClipboard::Selection : QClipboard::Clipboard;
-}
-
-/// The entry Paste of a context menu by Qt, or null.
-QAction *pasteAction(const QMenu &menu)
-{
-    const QList<QAction *> actions = menu.actions();
-    const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction *action) {
-        return action->text().startsWith(QLineEdit::tr("&Paste"));
-    });
-    return paste == actions.end() ? nullptr : *paste;
-}
-
-/// Drops @p contents where and how @p event drops something else.
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
-{
-    return QDropEvent(event.posF(), event.possibleActions(), &contents, event.mouseButtons(),
-                      event.keyboardModifiers());
-}
-#else
-QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
-{
-    return QDropEvent(event.position(), event.possibleActions(), &contents, event.buttons(),
-                      event.modifiers());
-}
-#endif
-
 } // namespace
 
 KelLineEdit::KelLineEdit(QWidget *parent)
-    : QLineEdit(parent),
+    : KelPastingLineEdit(parent),
       m_prefixLabel(new QLabel(this)),
       m_suffixLabel(new QLabel(this))
 {
@@ -140,18 +101,18 @@ bool KelLineEdit::event(QEvent *event)
         layOutLabels();
     if (event->type() == QEvent::PaletteChange)
         applyPlaceholderColor();
-    return QLineEdit::event(event);
+    return KelPastingLineEdit::event(event);
 }
 
 void KelLineEdit::resizeEvent(QResizeEvent *event)
 {
-    QLineEdit::resizeEvent(event);
+    KelPastingLineEdit::resizeEvent(event);
     layOutLabels();
 }
 
 void KelLineEdit::showEvent(QShowEvent *event)
 {
-    QLineEdit::showEvent(event);
+    KelPastingLineEdit::showEvent(event);
     m_prefixLabel->setMinimumHeight(minimumHeight());
     m_suffixLabel->setMinimumHeight(minimumHeight());
     layOutLabels();
@@ -161,13 +122,13 @@ void KelLineEdit::showEvent(QShowEvent *event)
 /// being hidden, by a turned page or a closed window, finishes an edit by itself.
 void KelLineEdit::hideEvent(QHideEvent *event)
 {
-    QLineEdit::hideEvent(event);
+    KelPastingLineEdit::hideEvent(event);
     leave();
 }
 
 void KelLineEdit::focusInEvent(QFocusEvent *event)
 {
-    QLineEdit::focusInEvent(event);
+    KelPastingLineEdit::focusInEvent(event);
     m_isEntered = true;
     m_isEnteredByClick = event->reason() == Qt::MouseFocusReason;
     if (event->reason() != Qt::PopupFocusReason)
@@ -181,7 +142,7 @@ void KelLineEdit::focusOutEvent(QFocusEvent *event)
     const bool hadSelection = hasSelectedText();
     {
         const QSignalBlocker qtsOwnRule(this);
-        QLineEdit::focusOutEvent(event);
+        KelPastingLineEdit::focusOutEvent(event);
     }
     if (hadSelection && !hasSelectedText())
         Q_EMIT selectionChanged();
@@ -191,55 +152,14 @@ void KelLineEdit::focusOutEvent(QFocusEvent *event)
         leave();
 }
 
-void KelLineEdit::keyPressEvent(QKeyEvent *event)
-{
-    if (isReadOnly() || !event->matches(QKeySequence::Paste))
-        return QLineEdit::keyPressEvent(event);
-    pasteFrom(clipboardOf(*event));
-    event->accept();
-}
-
 /// The click that brings the focus also places the cursor, so an error word is selected after it.
-/// What the person does then, clicking again or selecting a part, stays as it is. The middle button
-/// pastes where it was pressed, beside what was selected.
+/// What the person does then, clicking again or selecting a part, stays as it is.
 void KelLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::MiddleButton && !isReadOnly() &&
-        QGuiApplication::clipboard()->supportsSelection()) {
-        deselect();
-        pasteFrom(QClipboard::Selection);
-    } else {
-        QLineEdit::mouseReleaseEvent(event);
-    }
+    KelPastingLineEdit::mouseReleaseEvent(event);
     if (m_isEnteredByClick && !hasSelectedText())
         selectError();
     m_isEnteredByClick = false;
-}
-
-/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it. A text
-/// that is moved within the edit does not come in, so it stays as it is.
-void KelLineEdit::dropEvent(QDropEvent *event)
-{
-    if (event->source() == this || !event->mimeData()->hasText()) {
-        QLineEdit::dropEvent(event);
-    } else {
-        const QString text = event->mimeData()->text();
-        QMimeData contents;
-        contents.setText(taken(text));
-        if (contents.text().isEmpty() && !text.isEmpty()) {
-            QDragLeaveEvent hidesTheDropCursor;
-            dragLeaveEvent(&hidesTheDropCursor);
-            return event->ignore();
-        }
-        QDropEvent drop = dropOf(contents, *event);
-        endUndoStep();
-        QLineEdit::dropEvent(&drop);
-        endUndoStep();
-        event->setDropAction(drop.dropAction());
-        event->setAccepted(drop.isAccepted());
-    }
-    if (event->isAccepted())
-        setFocus(Qt::OtherFocusReason);
 }
 
 /// As a child of the edit the menu would take on the edit's font size, so it belongs to the window.
@@ -251,10 +171,7 @@ void KelLineEdit::contextMenuEvent(QContextMenuEvent *event)
     m_contextMenu->insertActions(m_contextMenu->actions().value(0), actions());
     m_contextMenu->setParent(window(), m_contextMenu->windowFlags());
     m_contextMenu->setAttribute(Qt::WA_DeleteOnClose);
-    if (QAction *paste = pasteAction(*m_contextMenu)) {
-        disconnect(paste, &QAction::triggered, this, nullptr);
-        connect(paste, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
-    }
+    cleanPastesOf(*m_contextMenu);
     m_contextMenu->popup(event->globalPos());
 }
 
@@ -262,41 +179,6 @@ QString KelLineEdit::cleaned(const QString &text) const
 {
     const QString unit = m_unitSelector ? m_unitSelector->currentText() : m_suffixLabel->text();
     return PastedText::cleaned(text, unit, m_microSign);
-}
-
-QString KelLineEdit::taken(const QString &text) const
-{
-    return m_isCleaningPastes ? cleaned(text) : text;
-}
-
-/// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when the
-/// clipboard is empty. A unit alone or a blank is no reason to lose the selected value.
-void KelLineEdit::pasteFrom(QClipboard::Mode mode)
-{
-    const QString text = QGuiApplication::clipboard()->text(mode);
-    const QString kept = taken(text);
-    if (kept.isEmpty() && !(text.isEmpty() && hasSelectedText()))
-        return;
-    endUndoStep();
-    insert(kept);
-    endUndoStep();
-}
-
-/// What was typed before is undone by itself, and so is what comes after. Qt ends a step when the
-/// cursor moves, when an edit is cleared, or when a selection is removed, which insert() does.
-void KelLineEdit::endUndoStep()
-{
-    if (hasSelectedText())
-        return;
-    const QSignalBlocker nothingHappens(this);
-    const int cursor = cursorPosition();
-    if (text().isEmpty())
-        clear();
-    else if (cursor == 0)
-        end(false);
-    else
-        home(false);
-    setCursorPosition(cursor);
 }
 
 void KelLineEdit::noteEdit(const QString &text)

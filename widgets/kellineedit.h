@@ -4,11 +4,10 @@
 #ifndef WIDGETS_KELLINEEDIT_H
 #define WIDGETS_KELLINEEDIT_H
 
+#include "kelpastinglineedit.h"
 #include "pastedtext.h"
 
-#include <QClipboard>
 #include <QColor>
-#include <QLineEdit>
 #include <QPointer>
 #include <QStringList>
 
@@ -31,14 +30,12 @@ class QMenu;
  * replaces it. Screen readers get the fixed texts as the edit's description, unless the edit has a
  * description of its own.
  *
- * A text that is pasted or dropped is cleaned first (see pastedtext.h), and the unit beside the
- * edit, in its right end or in a selector, is left out. If nothing is left of it,
- * nothing happens. What is typed stays as it is. An edit for words, not for a value, has to switch
- * this off.
+ * Of a text that comes in, the unit beside the edit, in its right end or in a selector, is left
+ * out, too.
  *
  * Actions that are added to the edit come first in its context menu.
  */
-class KelLineEdit : public QLineEdit
+class KelLineEdit : public KelPastingLineEdit
 {
     Q_OBJECT
     Q_PROPERTY(bool error READ hasError NOTIFY errorChanged)
@@ -71,9 +68,6 @@ public:
     /// Whether the edit's reader knows the micro sign. If not, a pasted one becomes "u".
     void setMicroSign(PastedText::MicroSign sign) { m_microSign = sign; }
 
-    /// Cleans what is pasted or dropped. On at first.
-    void setCleaningPastes(bool cleaning) { m_isCleaningPastes = cleaning; }
-
     /// Emits editingFinished whenever the edit is left, changed or not. Off at first.
     void setFinishedByEveryLeaving(bool finished) { m_isFinishedByEveryLeaving = finished; }
 
@@ -89,18 +83,12 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
-    /// What an edit that cleans takes of a text that is pasted or dropped.
-    virtual QString cleaned(const QString &text) const;
+    QString cleaned(const QString &text) const override;
 
 private:
-    QString taken(const QString &text) const;
-    void pasteFrom(QClipboard::Mode mode);
-    void endUndoStep();
     void noteEdit(const QString &text);
     void noteWrittenText(const QString &text);
     void leave();
@@ -115,7 +103,6 @@ private:
     QLabel *const m_suffixLabel;
     QPointer<const QComboBox> m_unitSelector;
     PastedText::MicroSign m_microSign = PastedText::MicroSign::Replaced;
-    bool m_isCleaningPastes = true;
     QString m_labelDescription;
     QStringList m_errorTexts;
     bool m_hasError = false;

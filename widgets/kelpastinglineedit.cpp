@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 Vantrel
+// SPDX-License-Identifier: MIT
+
+#include "kelpastinglineedit.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace {
+
+/// Shift turns Ctrl+Insert, which copies, into the key that pastes what is selected anywhere.
+QClipboard::Mode clipboardOf(const QKeyEvent &key)
+{
+    const bool isSelection = key.key() == Qt::Key_Insert &&
+                             key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+                             QGuiApplication::clipboard()->supportsSelection();
+    return isSelection ? QClipboard::Selection : QClipboard::Clipboard;
+}
+
+/// The entry Paste of a context menu by Qt, or null.
+QAction *pasteAction(const QMenu &menu)
+{
+    const QList<QAction *> actions = menu.actions();
+    const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction *action) {
+        return action->text().startsWith(QLineEdit::tr("&Paste"));
+    });
+    return paste == actions.end() ? nullptr : *paste;
+}
+
+/// Drops @p contents where and how @p event drops something else.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
+{
+    return QDropEvent(event.posF(), event.possibleActions(), &contents, event.mouseButtons(),
+                      event.keyboardModifiers());
+}
+#else
+QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
+{
+    return QDropEvent(event.position(), event.possibleActions(), &contents, event.buttons(),
+                      event.modifiers());
+}
+#endif
+
+} // namespace
+
+void KelPastingLineEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (isReadOnly() || !event->matches(QKeySequence::Paste))
+        return QLineEdit::keyPressEvent(event);
+    pasteFrom(clipboardOf(*event));
+    event->accept();
+}
+
+/// The middle button pastes where it was pressed, beside what was selected.
+void KelPastingLineEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::MiddleButton && !isReadOnly() &&
+        QGuiApplication::clipboard()->supportsSelection()) {
+        deselect();
+        pasteFrom(QClipboard::Selection);
+    } else {
+        QLineEdit::mouseReleaseEvent(event);
+    }
+}
+
+/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it. A text
+/// that is moved within the edit does not come in, so it stays as it is.
+void KelPastingLineEdit::dropEvent(QDropEvent *event)
+{
+    if (event->source() == this || !event->mimeData()->hasText()) {
+        QLineEdit::dropEvent(event);
+    } else {
+        const QString text = event->mimeData()->text();
+        QMimeData contents;
+        contents.setText(taken(text));
+        if (contents.text().isEmpty() && !text.isEmpty()) {
+            QDragLeaveEvent hidesTheDropCursor;
+            dragLeaveEvent(&hidesTheDropCursor);
+            return event->ignore();
+        }
+        QDropEvent drop = dropOf(contents, *event);
+        endUndoStep();
+        QLineEdit::dropEvent(&drop);
+        endUndoStep();
+        event->setDropAction(drop.dropAction());
+        event->setAccepted(drop.isAccepted());
+    }
+    if (event->isAccepted())
+        setFocus(Qt::OtherFocusReason);
+}
+
+void KelPastingLineEdit::cleanPastesOf(const QMenu &menu)
+{
+    QAction *paste = pasteAction(menu);
+    if (!paste)
+        return;
+    disconnect(paste, &QAction::triggered, this, nullptr);
+    connect(paste, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
+}
+
+QString KelPastingLineEdit::taken(const QString &text) const
+{
+    return m_isCleaningPastes ? cleaned(text) : text;
+}
+
+/// Does what Qt's own paste does, with a cleaned text. Qt, too, removes a selection when the
+/// clipboard is empty. A unit alone or a blank is no reason to lose the selected value.
+void KelPastingLineEdit::pasteFrom(QClipboard::Mode mode)
+{
+    const QString text = QGuiApplication::clipboard()->text(mode);
+    const QString kept = taken(text);
+    if (kept.isEmpty() && !(text.isEmpty() && hasSelectedText()))
+        return;
+    endUndoStep();
+    insert(kept);
+    endUndoStep();
+}
+
+/// What was typed before is undone by itself, and so is what comes after. Qt ends a step when the
+/// cursor moves, when an edit is cleared, or when a selection is removed, which insert() does.
+void KelPastingLineEdit::endUndoStep()
+{
+    if (hasSelectedText())
+        return;
+    const QSignalBlocker nothingHappens(this);
+    const int cursor = cursorPosition();
+    if (text().isEmpty())
+        clear();
+    else if (cursor == 0)
+        end(false);
+    else
+        home(false);
+    setCursorPosition(cursor);
+}

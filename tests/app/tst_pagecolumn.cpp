@@ -94,7 +94,8 @@ void PageColumnTest::openWindow(const QSize &size)
 {
     store("windowSize", size);
     MainWindowCase::openWindow();
-    QCOMPARE(m_window->size(), size);
+    // The menus are a little higher on Windows.
+    QCOMPARE(m_window->size(), size.expandedTo(m_window->minimumSizeHint()));
 }
 
 QWidget &PageColumnTest::showPage(int module)

@@ -63,7 +63,10 @@ void KelPastingLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::MiddleButton && !isReadOnly() &&
         QGuiApplication::clipboard()->supportsSelection()) {
-        deselect();
+        if (m_isReplacedByMouse)
+            selectAll();
+        else
+            deselect();
         pasteFrom(QClipboard::Selection);
     } else {
         QLineEdit::mouseReleaseEvent(event);
@@ -74,17 +77,29 @@ void KelPastingLineEdit::mouseReleaseEvent(QMouseEvent *event)
 /// that is moved within the edit does not come in, so it stays as it is.
 void KelPastingLineEdit::dropEvent(QDropEvent *event)
 {
-    if (event->source() == this || !event->mimeData()->hasText()) {
+    if (isReadOnly() || event->source() == this || !event->mimeData()->hasText())
         QLineEdit::dropEvent(event);
+    else
+        takeDrop(event);
+    if (event->isAccepted())
+        setFocus(Qt::OtherFocusReason);
+}
+
+void KelPastingLineEdit::takeDrop(QDropEvent *event)
+{
+    const QString text = event->mimeData()->text();
+    const QString kept = taken(text);
+    if (kept.isEmpty() && !text.isEmpty()) {
+        hideDropCursor();
+        event->ignore();
+    } else if (m_isReplacedByMouse) {
+        hideDropCursor();
+        selectAll();
+        insertAsOneStep(kept);
+        event->acceptProposedAction();
     } else {
-        const QString text = event->mimeData()->text();
         QMimeData contents;
-        contents.setText(taken(text));
-        if (contents.text().isEmpty() && !text.isEmpty()) {
-            QDragLeaveEvent hidesTheDropCursor;
-            dragLeaveEvent(&hidesTheDropCursor);
-            return event->ignore();
-        }
+        contents.setText(kept);
         QDropEvent drop = dropOf(contents, *event);
         endUndoStep();
         QLineEdit::dropEvent(&drop);
@@ -92,8 +107,13 @@ void KelPastingLineEdit::dropEvent(QDropEvent *event)
         event->setDropAction(drop.dropAction());
         event->setAccepted(drop.isAccepted());
     }
-    if (event->isAccepted())
-        setFocus(Qt::OtherFocusReason);
+}
+
+/// Qt hides it when the drag leaves the edit or ends in it by Qt's own drop.
+void KelPastingLineEdit::hideDropCursor()
+{
+    QDragLeaveEvent leaving;
+    dragLeaveEvent(&leaving);
 }
 
 void KelPastingLineEdit::cleanPastesOf(const QMenu &menu)
@@ -118,8 +138,13 @@ void KelPastingLineEdit::pasteFrom(QClipboard::Mode mode)
     const QString kept = taken(text);
     if (kept.isEmpty() && !(text.isEmpty() && hasSelectedText()))
         return;
+    insertAsOneStep(kept);
+}
+
+void KelPastingLineEdit::insertAsOneStep(const QString &text)
+{
     endUndoStep();
-    insert(kept);
+    insert(text);
     endUndoStep();
 }
 

@@ -25,6 +25,8 @@ public:
 
     /// Cleans what is pasted or dropped. On at first.
     void setCleaningPastes(bool cleaning) { m_isCleaningPastes = cleaning; }
+    /// What the mouse brings replaces the whole text, wherever it points. Off at first.
+    void setReplacedByMouse(bool replaced) { m_isReplacedByMouse = replaced; }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -39,9 +41,13 @@ protected:
 private:
     QString taken(const QString &text) const;
     void pasteFrom(QClipboard::Mode mode);
+    void takeDrop(QDropEvent *event);
+    void hideDropCursor();
+    void insertAsOneStep(const QString &text);
     void endUndoStep();
 
     bool m_isCleaningPastes = true;
+    bool m_isReplacedByMouse = false;
 };
 
 #endif

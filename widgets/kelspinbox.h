@@ -5,7 +5,6 @@
 #define WIDGETS_KELSPINBOX_H
 
 #include <QSpinBox>
-#include <QWheelEvent>
 
 /**
  * A spin box for whole numbers without the platform's focus rectangle, so that its focus looks as
@@ -13,27 +12,19 @@
  *
  * The wheel changes the number only if the box has the focus, and it does not give the focus to the
  * box. So a page scrolls past the box without changing it.
+ *
+ * A number that is pasted or dropped is cleaned first (see pastedtext.h), and the suffix and the
+ * prefix of the box are left out. What the mouse brings replaces the number.
  */
 class KelSpinBox final : public QSpinBox
 {
     Q_OBJECT
 
 public:
-    explicit KelSpinBox(QWidget *parent = nullptr) : QSpinBox(parent)
-    {
-        setAttribute(Qt::WA_MacShowFocusRect, false);
-        setFocusPolicy(Qt::StrongFocus);
-    }
+    explicit KelSpinBox(QWidget *parent = nullptr);
 
 protected:
-    /// An ignored wheel event goes to the page, which scrolls.
-    void wheelEvent(QWheelEvent *event) override
-    {
-        if (hasFocus())
-            QSpinBox::wheelEvent(event);
-        else
-            event->ignore();
-    }
+    void wheelEvent(QWheelEvent *event) override;
 };
 
 #endif

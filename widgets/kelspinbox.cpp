@@ -28,9 +28,8 @@ protected:
     void childEvent(QChildEvent *event) override
     {
         KelPastingLineEdit::childEvent(event);
-        const auto *menu = event->polished() ? qobject_cast<QMenu *>(event->child()) : nullptr;
-        if (menu)
-            cleanPastesOf(*menu);
+        if (event->polished() && event->child()->inherits("QMenu"))
+            cleanPastesOf(*static_cast<const QMenu *>(event->child()));
     }
 
     /// A text that is copied from the box may have its prefix in front.

@@ -73,24 +73,24 @@ void KelSpinBoxTest::showsNoFocusRectangleOfThePlatform()
 void KelSpinBoxTest::theWheelCountsOnlyWithTheFocus()
 {
     QWidget window;
-    auto *edit = new QLineEdit(&window);
-    auto *box = new KelSpinBox(&window);
-    edit->setFocus();
+    QLineEdit edit(&window);
+    KelSpinBox box(&window);
+    edit.setFocus();
     window.show();
     window.activateWindow();
     QVERIFY(waitForKeyboard(window));
-    const QPointF middle = box->rect().center();
-    QWheelEvent up(middle, box->mapToGlobal(middle.toPoint()), QPoint(), QPoint(0, 120),
+    const QPointF middle = box.rect().center();
+    QWheelEvent up(middle, box.mapToGlobal(middle.toPoint()), QPoint(), QPoint(0, 120),
                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
 
-    QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
-    QCoreApplication::sendEvent(box, &up);
-    QCOMPARE(box->value(), 0);
+    QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
+    QCoreApplication::sendEvent(&box, &up);
+    QCOMPARE(box.value(), 0);
     QVERIFY(!up.isAccepted());
 
-    box->setFocus();
-    QCoreApplication::sendEvent(box, &up);
-    QCOMPARE(box->value(), 1);
+    box.setFocus();
+    QCoreApplication::sendEvent(&box, &up);
+    QCOMPARE(box.value(), 1);
     QVERIFY(up.isAccepted());
 }
 
@@ -117,7 +117,9 @@ void KelSpinBoxTest::drop(QWidget &edit, const QString &text)
 /// The box waits until its menu is closed.
 void KelSpinBoxTest::pasteFromMenu(QSpinBox &box)
 {
-    QTimer::singleShot(0, &box, [] {
+    QTimer soon;
+    soon.setSingleShot(true);
+    connect(&soon, &QTimer::timeout, &box, [] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         const QList<QAction *> entries = menu->actions();
         for (QAction *entry : entries) {
@@ -126,6 +128,7 @@ void KelSpinBoxTest::pasteFromMenu(QSpinBox &box)
         }
         QTest::keyClick(menu, Qt::Key_Return);
     });
+    soon.start(0);
     const QPoint middle = box.rect().center();
     QContextMenuEvent event(QContextMenuEvent::Mouse, middle, box.mapToGlobal(middle));
     QCoreApplication::sendEvent(&box, &event);

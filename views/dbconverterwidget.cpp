@@ -5,7 +5,6 @@
 
 #include "errortexts.h"
 #include "mainprofile.h"
-#include "placeholderlook.h"
 #include "ui_dbconverterwidget.h"
 
 #include <QApplication>
@@ -20,10 +19,7 @@ DbConverterWidget::DbConverterWidget(QWidget *parent)
     build(*m_ui);
     m_ui->pDbLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->vDbLineEdit->setSuffixText(QStringLiteral("dB"));
-    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
-    markErrors(fields);
-    for (KelLineEdit *field : fields)
-        followPlaceholder(field);
+    dressFields();
     // The model notes a run from P2 or V2 as one from P1 or V1. So leaving P2 or V2 calculates
     // again, even without an edit.
     m_ui->p2LineEdit->setFinishedByEveryLeaving(true);

@@ -6,6 +6,7 @@
 #include "errortexts.h"
 #include "hintline.h"
 #include "kellineedit.h"
+#include "placeholderlook.h"
 
 #include <QEvent>
 
@@ -31,6 +32,14 @@ void ModulePage::markErrors(const QList<KelLineEdit *> &fields)
 {
     for (KelLineEdit *field : fields)
         field->setErrorTexts(Dezimo::ErrorText::all());
+}
+
+void ModulePage::dressFields()
+{
+    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
+    markErrors(fields);
+    for (KelLineEdit *field : fields)
+        followPlaceholder(field);
 }
 
 void ModulePage::finishOpenEdit()

@@ -63,6 +63,9 @@ protected:
     /// Has each of the fields look like an error whenever its text is one of the models' error
     /// texts.
     static void markErrors(const QList<KelLineEdit *> &fields);
+    /// Has the fields of the page look like errors by that rule, and their placeholders unlike
+    /// values.
+    void dressFields();
     /// What the page tells about its fields. Add them before the page shows its model.
     FieldHints &hints() { return *m_hints; }
 

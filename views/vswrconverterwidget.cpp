@@ -5,7 +5,6 @@
 
 #include "errortexts.h"
 #include "mainprofile.h"
-#include "placeholderlook.h"
 #include "ui_vswrconverterwidget.h"
 
 using namespace Dezimo;
@@ -33,10 +32,7 @@ void VswrConverterWidget::setUpFields()
     m_ui->r2LineEdit->setSuffixText(QStringLiteral("%"));
     m_ui->arLineEdit->setSuffixText(QStringLiteral("dB"));
     m_ui->amLineEdit->setSuffixText(QStringLiteral("dB"));
-    const QList<KelLineEdit *> fields = findChildren<KelLineEdit *>();
-    markErrors(fields);
-    for (KelLineEdit *field : fields)
-        followPlaceholder(field);
+    dressFields();
     m_ui->forwardPowerLineEdit->setUnitSelector(m_ui->forwardPowerUnitComboBox);
     m_ui->reflectedPowerLineEdit->setUnitSelector(m_ui->reflectedPowerUnitComboBox);
     m_ui->absorbedPowerLineEdit->setUnitSelector(m_ui->absorbedPowerUnitComboBox);

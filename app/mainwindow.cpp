@@ -10,10 +10,8 @@
 #include "dbmcalculatorwidget.h"
 #include "identity.h"
 #include "kelaboutwindow.h"
-#include "kelguidewindow.h"
 #include "kellatepages.h"
 #include "mainprofile.h"
-#include "storedkeys.h"
 #include "stylesheets.h"
 #include "takeoverslide.h"
 #include "ui_mainwindow.h"
@@ -46,16 +44,6 @@ constexpr std::array<const char *, 5> kModuleIcons = {
     ":/dbmcalc_16_%1.svg", ":/voltagecalc_16_%1.svg", ":/unitconv_16_%1.svg",
     ":/dbconv_16_%1.svg",  ":/vswrconv_16_%1.svg",
 };
-
-/// The guide's chapters on the modules, in the same order.
-constexpr std::array<const char *, 5> kModuleChapters = {
-    "dbm-calculator", "voltage-calculator", "unit-converter", "db-converter", "vswr-converter",
-};
-
-/// The guide's window has a group of its own in the application settings, which is there once the
-/// guide has been opened.
-constexpr char kGuideGroup[] = "GuideWindow";
-constexpr char kGuideSize[] = "GuideWindow/windowSize";
 
 QVector<QRect> screenRects()
 {
@@ -165,15 +153,14 @@ void MainWindow::endProgram()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     KelMainWindow::closeEvent(event);
-    if (m_guide)
-        m_guide->close();
+    m_guide.close();
 }
 
 /// Nothing in the window has a use for F1, so it arrives here wherever it is pressed.
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier)
-        openGuide();
+        m_guide.openAtModule(m_ui->menuItemsWidget->currentRow());
     else
         KelMainWindow::keyPressEvent(event);
 }
@@ -255,8 +242,7 @@ void MainWindow::onThemeChanged(ApplicationTheme theme)
     updateModeButton(theme);
     if (theme != m_iconTheme)
         applyModuleIcons(theme);
-    if (m_guide)
-        m_guide->onThemeChanged(theme);
+    m_guide.setTheme(theme);
 }
 
 /// The About window deletes itself when it is closed.
@@ -288,8 +274,7 @@ void MainWindow::writeState()
 {
     CheckedSettings::writeSettings([this](QSettings &store) {
         m_profile.saveSettings(store);
-        if (m_guide)
-            store.setValue(QLatin1String(kGuideSize), m_guide->windowSize());
+        m_guide.saveSettings(store);
     });
 }
 
@@ -390,22 +375,6 @@ void MainWindow::focusFirstField()
     });
     if (first != edits.end())
         (*first)->setFocus();
-}
-
-/// The window of the guide is made when it is first asked for, so that starting costs nothing.
-void MainWindow::openGuide()
-{
-    if (!m_guide) {
-        m_guide = std::make_unique<KelGuideWindow>();
-        m_guide->onThemeChanged(m_iconTheme);
-        CheckedSettings::readSettings({kGuideGroup}, [this](const QSettings &store) {
-            m_guide->setWindowSize(storedValue(store, kGuideSize, m_guide->windowSize()).toSize());
-        });
-    }
-    const auto module = size_t(m_ui->menuItemsWidget->currentRow());
-    m_guide->openAt(module < kModuleChapters.size()
-                        ? QString::fromLatin1(kModuleChapters.at(module))
-                        : QString());
 }
 
 void MainWindow::updateWindowTitle()

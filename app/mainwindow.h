@@ -6,6 +6,7 @@
 
 #include "applicationtheme.h"
 #include "kelmainwindow.h"
+#include "lateguide.h"
 
 #include <array>
 #include <memory>
@@ -14,7 +15,6 @@ namespace Dezimo {
 class MainProfile;
 }
 
-class KelGuideWindow;
 class QMenu;
 
 namespace Ui {
@@ -77,14 +77,13 @@ private:
     void chooseModule(int row);
     void focusPage();
     void focusFirstField();
-    void openGuide();
     void updateWindowTitle();
     void updateModeButton(ApplicationTheme theme);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     Dezimo::MainProfile &m_profile;
-    ApplicationTheme m_iconTheme = Bright;   ///< of the list's icons; the form has the bright ones
-    std::unique_ptr<KelGuideWindow> m_guide; ///< null until it is opened for the first time
+    ApplicationTheme m_iconTheme = Bright; ///< of the list's icons; the form has the bright ones
+    LateGuide m_guide;
 };
 
 #endif

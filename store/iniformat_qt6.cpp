@@ -6,8 +6,12 @@
 
 #include "iniformat.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 using namespace Dezimo;
 
@@ -80,34 +84,61 @@ QByteArray inEscapes(const QByteArray &written)
     return text;
 }
 
+/// Calls @p work with the name of a temporary file until it succeeds. A full disk must not cost any
+/// values, so what does not fit into the usual folder goes to memory or beside the store.
+template <typename Work>
+bool withTemporaryFile(const QIODevice &device, const Work &work)
+{
+    const auto *store = qobject_cast<const QFileDevice *>(&device);
+    const QStringList folders = {QDir::tempPath(), QStringLiteral("/dev/shm"),
+                                 store ? QFileInfo(store->fileName()).absolutePath() : QString()};
+    return std::any_of(folders.begin(), folders.end(), [&work](const QString &folder) {
+        const QTemporaryDir own(folder + QLatin1String("/Dezimo-XXXXXX"));
+        return own.isValid() && work(own.filePath(QStringLiteral("values.ini")));
+    });
+}
+
+bool writeFile(const QString &fileName, const QByteArray &text)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
+}
+
 bool read(QIODevice &device, QSettings::SettingsMap &values)
 {
     const QByteArray text = inUtf8(device.readAll());
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("read.ini")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        return false;
-    file.close();
-    const QSettings settings(file.fileName(), QSettings::IniFormat);
-    QStringList keys = settings.allKeys();
-    keys.removeAll(QString()); // listed, but its value cannot be asked for
-    for (const QString &key : std::as_const(keys))
-        values.insert(key, settings.value(key));
-    return true;
+    return withTemporaryFile(device, [&](const QString &fileName) {
+        if (!writeFile(fileName, text))
+            return false;
+        const QSettings settings(fileName, QSettings::IniFormat);
+        QStringList keys = settings.allKeys();
+        keys.removeAll(QString()); // listed, but its value cannot be asked for
+        for (const QString &key : std::as_const(keys))
+            values.insert(key, settings.value(key));
+        return true;
+    });
+}
+
+/// What Qt writes, or nothing if it cannot.
+QByteArray writtenBy(const QString &fileName, const QSettings::SettingsMap &values)
+{
+    QSettings settings(fileName, QSettings::IniFormat);
+    for (auto value = values.begin(); value != values.end(); ++value)
+        settings.setValue(value.key(), withMovedUnits(value.value()));
+    settings.sync();
+    QFile file(fileName);
+    const bool isWritten = settings.status() == QSettings::NoError;
+    return isWritten && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool write(QIODevice &device, const QSettings::SettingsMap &values)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("written.ini")));
-    QSettings settings(file.fileName(), QSettings::IniFormat);
-    for (auto value = values.begin(); value != values.end(); ++value)
-        settings.setValue(value.key(), withMovedUnits(value.value()));
-    settings.sync();
-    if (settings.status() != QSettings::NoError || !file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray text = inEscapes(file.readAll());
-    return device.write(text) == text.size();
+    QByteArray text;
+    const auto fill = [&](const QString &fileName) {
+        text = inEscapes(writtenBy(fileName, values));
+        return values.isEmpty() || !text.isEmpty();
+    };
+    return withTemporaryFile(device, fill) && device.write(text) == text.size();
 }
 
 } // namespace

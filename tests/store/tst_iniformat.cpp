@@ -10,6 +10,7 @@
 #include <QMap>
 #include <QPoint>
 #include <QRect>
+#include <QScopeGuard>
 #include <QSize>
 #include <QTest>
 
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void readsUtf8BehindAByteOrderMark();
     void everyUnitComesBack();
     void theSettingsAreWhereTheNativeOnesAre();
+    void needsNoFolderForTemporaryFiles();
 };
 
 namespace {
@@ -179,6 +181,20 @@ void IniFormatTest::theSettingsAreWhereTheNativeOnesAre()
     const QSettings settings(IniFormat::ofSettings(), QSettings::UserScope,
                              QStringLiteral("Vantrel"), QStringLiteral("Dezimo"));
     QCOMPARE(settings.fileName(), QSettings().fileName());
+}
+
+/// The folder that is meant for them may be full. Nobody can make a file in this one.
+void IniFormatTest::needsNoFolderForTemporaryFiles()
+{
+    const QString key = QStringLiteral("a/b");
+    SettingsFile file("[a]\nb=1\n[other]\nc=2\n");
+    const QByteArray folder = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard([&folder] { qputenv("TMPDIR", folder); });
+    qputenv("TMPDIR", "/proc");
+    QCOMPARE(file.settings().value(key).toInt(), 1);
+    file.settings().setValue(key, 3);
+    QCOMPARE(file.text(), QByteArray("[a]\nb=3\n\n[other]\nc=2\n"));
+    QCOMPARE(file.settings().status(), QSettings::NoError);
 }
 
 DEZIMO_TEST_MAIN(QCoreApplication, IniFormatTest)

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Dezimo {
 
@@ -135,7 +136,7 @@ QString meantUnit(const QString &typed, const ExpressionUnits &units)
     }
     QString best;
     int bestCount = -1;
-    for (const QString &each : qAsConst(meant)) {
+    for (const QString &each : std::as_const(meant)) {
         const int count = equalCharacters(each, typed);
         if (!each.isEmpty() && count > bestCount && isUnit(each, units)) {
             best = each;

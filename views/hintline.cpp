@@ -10,8 +10,16 @@
 #include <QStyle>
 #include <QToolTip>
 
+namespace {
+
+/// The text stands on its foot, because Qt 5 and 6 round its height differently.
+constexpr int kBelowText = 4;
+
+} // namespace
+
 HintLine::HintLine(QWidget *page) : QLabel(page)
 {
+    setContentsMargins(0, 0, 0, kBelowText);
     setObjectName(QStringLiteral("hintLine"));
     setTextFormat(Qt::PlainText);
 }
@@ -34,7 +42,7 @@ void HintLine::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect room = contentsRect();
-    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignBottom, palette(), isEnabled(),
                           fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
                           foregroundRole());
 }

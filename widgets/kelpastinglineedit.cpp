@@ -33,7 +33,8 @@ QAction *pasteAction(const QMenu &menu)
     return paste == actions.end() ? nullptr : *paste;
 }
 
-/// Drops @p contents where and how @p event drops something else.
+/// Drops @p contents where and how @p event drops something else. Qt 6 has other names for all of
+/// it, and Qt 5 does not have them yet.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 QDropEvent dropOf(const QMimeData &contents, const QDropEvent &event)
 {

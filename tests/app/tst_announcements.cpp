@@ -16,6 +16,8 @@
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
+#include <utility>
+
 namespace {
 
 QStringList &heard()
@@ -112,7 +114,7 @@ QStringList AnnouncementsTest::heardAfterTyping(QLineEdit *edit, const QString &
 {
     QTest::keyClicks(edit, text);
     QStringList others;
-    for (const QString &line : qAsConst(heard())) {
+    for (const QString &line : std::as_const(heard())) {
         if (!line.startsWith(edit->accessibleName() + QLatin1Char(':')))
             others += line;
     }

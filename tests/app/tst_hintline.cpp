@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QHelpEvent>
+#include <QImage>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -32,6 +33,7 @@ class HintLineTest : public MainWindowCase
 
 private Q_SLOTS:
     void hasOnePlaceOnEveryPage();
+    void itsLettersHaveOneHeightWithEveryQt();
     void everySentenceHasRoomInTheSmallestWindow();
     void aLongSentenceIsCutAndWholeInItsTip();
     void nothingMovesWhenItChanges();
@@ -72,6 +74,19 @@ QList<QRect> placesOn(const QWidget &page)
     for (const QWidget *widget : widgets)
         places += widget->geometry();
     return places;
+}
+
+/// The last row with ink on a plain ground.
+int lowestInk(const QImage &image)
+{
+    const QRgb ground = image.pixel(0, 0);
+    for (int y = image.height() - 1; y >= 0; --y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != ground)
+                return y;
+        }
+    }
+    return -1;
 }
 
 int indexOfLongestItem(const QComboBox &selector)
@@ -159,6 +174,15 @@ void HintLineTest::hasOnePlaceOnEveryPage()
         }
         QCOMPARE(places.size(), 1);
     }
+}
+
+/// 4 pixels are below the text, and 3 of its own below its feet.
+void HintLineTest::itsLettersHaveOneHeightWithEveryQt()
+{
+    openWindow();
+    line()->setText(QStringLiteral("HHH"));
+    const QImage image = line()->grab().toImage();
+    QCOMPARE(image.height() - 1 - lowestInk(image), 7);
 }
 
 /// With the longest unit and the key of the guide behind it, and the reasons of all words.

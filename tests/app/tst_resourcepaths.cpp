@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <utility>
+
 /// Every resource that code, forms or style sheets name exists and draws something.
 class ResourcePathsTest : public QObject
 {
@@ -94,7 +96,7 @@ void ResourcePathsTest::everyNamedResourceIsThere_data()
     }
     paths.removeDuplicates();
     QVERIFY(paths.size() > 30);
-    for (const QString &path : qAsConst(paths))
+    for (const QString &path : std::as_const(paths))
         QTest::newRow(qPrintable(path)) << path;
 }
 

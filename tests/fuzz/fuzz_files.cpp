@@ -19,6 +19,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 using namespace Dezimo;
 
@@ -61,7 +62,7 @@ void requireHarmlessValues(const QSettings &file)
 {
     QStringList keys = file.allKeys();
     keys.removeAll(QString()); // QSettings lists an empty key but never returns its value
-    for (const QString &key : qAsConst(keys)) {
+    for (const QString &key : std::as_const(keys)) {
         const QVariant value = file.value(key);
         const bool isList = value.userType() == QMetaType::QVariantList;
         const QVariantList elements = isList ? value.toList() : QVariantList{value};

@@ -17,6 +17,7 @@
 #include <QTest>
 
 #include <memory>
+#include <utility>
 
 class VswrConverterFormTest : public QObject
 {
@@ -188,7 +189,7 @@ void VswrConverterFormTest::offersTheUnits()
     QFETCH(QString, units);
 
     const ConverterPage page = open();
-    for (const QString &row : qAsConst(rows)) {
+    for (const QString &row : std::as_const(rows)) {
         const QString combo = row + QStringLiteral("UnitComboBox");
         QCOMPARE(page.items(combo).join(QLatin1Char(' ')), units);
         QCOMPARE(page.combo(combo).currentIndex(), 0);
@@ -236,7 +237,7 @@ void VswrConverterFormTest::tabGoesFromTopToBottom()
     for (const QString &row : rowsAboveTheTabs())
         expected.append(row + QStringLiteral("LineEdit"));
     expected.append(QStringLiteral("qt_tabwidget_tabbar"));
-    for (const QString &row : qAsConst(rowsOfTheTab))
+    for (const QString &row : std::as_const(rowsOfTheTab))
         expected << row + QStringLiteral("LineEdit") << row + QStringLiteral("UnitComboBox");
     QCOMPARE(page.tabStops(QStringLiteral("vswrLineEdit")), expected);
 }

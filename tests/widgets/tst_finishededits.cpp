@@ -11,6 +11,8 @@
 #include <QIntValidator>
 #include <QTest>
 
+#include <utility>
+
 /// Return finishes an edit. Leaving it does so only if the person has changed the text.
 class FinishedEditsTest : public EditCase
 {
@@ -172,7 +174,7 @@ void FinishedEditsTest::aWrittenTextEndsTheEdit()
     QFETCH(int, finished);
 
     type("3");
-    for (const QString &text : qAsConst(texts))
+    for (const QString &text : std::as_const(texts))
         m_edit->setText(text);
     keys("Tab");
     QCOMPARE(m_finished->count(), finished);

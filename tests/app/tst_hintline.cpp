@@ -11,6 +11,7 @@
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QImage>
@@ -74,6 +75,15 @@ QList<QRect> placesOn(const QWidget &page)
     for (const QWidget *widget : widgets)
         places += widget->geometry();
     return places;
+}
+
+const QWidget *openTip()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->inherits("QTipLabel");
+    });
+    return tip == windows.end() ? nullptr : *tip;
 }
 
 /// The last row with ink on a plain ground.
@@ -214,6 +224,10 @@ void HintLineTest::aLongSentenceIsCutAndWholeInItsTip()
     QHelpEvent rest(QEvent::ToolTip, QPoint(), line()->mapToGlobal(QPoint()));
     QCoreApplication::sendEvent(line(), &rest);
     QCOMPARE(QToolTip::text(), line()->text());
+    const QWidget *tip = openTip();
+    QVERIFY(tip);
+    QCOMPARE(tip->font().family(), line()->font().family());
+    QCOMPARE(tip->font().pixelSize(), 14);
     QToolTip::hideText();
 }
 

@@ -200,6 +200,7 @@ use_of_the_models() {
         -D CMAKE_PREFIX_PATH="$scratch/installed" -D CMAKE_CXX_STANDARD=14 \
         -D CMAKE_CXX_FLAGS="-Wall -Wextra -Werror" >"$scratch/configured"
     expect "generation of Qt" "-- Dezimo_QT=$qt" "$(grep Dezimo_QT "$scratch/configured")"
+    expect "message about Qt" "-- Dezimo's models need Qt $qt" "$(grep need "$scratch/configured")"
     cmake --build "$scratch/build"
     "$scratch/build/antenna" >"$scratch/found"
     code_block text "$page" | diff - "$scratch/found"

@@ -54,6 +54,13 @@ def activate(window):
     xdotool("windowactivate", "--sync", window)
 
 
+def size_of(window):
+    """Width and height in pixels of the screen."""
+    asked = ["xdotool", "getwindowgeometry", "--shell", window]
+    said = subprocess.run(asked, capture_output=True, text=True).stdout
+    return [int(value) for value in re.findall(r"(?:WIDTH|HEIGHT)=(\d+)", said)]
+
+
 def values_of(text):
     """The values of a settings text by group and key."""
     values = {}

@@ -7,7 +7,9 @@ ended by itself, the test compares its state value by value.
 """
 
 import dataclasses
+import os
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -18,6 +20,7 @@ from xsession import (
     Session,
     Wine,
     activate,
+    size_of,
     values_of,
     visible_windows,
     wait_for,
@@ -306,6 +309,19 @@ def differences(expected, found, named):
     ]
 
 
+def is_twice_the_smallest_size(session):
+    expected = [2 * 600, 2 * 413]
+    wait_for(f"a window of {expected}", lambda: size_of(session.window) == expected)
+
+
+def draw_on_a_dense_screen(table):
+    """One and a half of the usual density is rounded up, whatever the Qt."""
+    os.environ["QT_FONT_DPI"] = "144"
+    start = re.sub(r"(windowSize=@Size).*", r"\1(600 413)", TYPED)
+    table.row("at 144 dots per inch", DBM, [is_twice_the_smallest_size], {}, start=start)
+    del os.environ["QT_FONT_DPI"]
+
+
 def all_changes(parts):
     return {key: value for part in parts for key, value in part.items()}
 
@@ -344,6 +360,8 @@ def main(system, program, click_positions):
         every_page = range(len(MODULES))
         # A session under Wine takes several times as long.
         run(table, every_page, every_page if system == "linux" else [UNIT, VSWR])
+        if system == "linux":
+            draw_on_a_dense_screen(table)
     if table.wrong:
         sys.exit(f"{table.wrong} sessions are not as expected")
 

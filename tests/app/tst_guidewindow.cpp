@@ -286,6 +286,10 @@ void GuideWindowTest::opensFromAnOpenMenu()
 
 void GuideWindowTest::f1AgainGoesToTheChapterThatIsOpenNow()
 {
+    if (!hasScreenPositions()) {
+        QTest::qSkip("a window cannot come to the front by itself here", __FILE__, __LINE__);
+        return;
+    }
     openGuide();
     const KelGuideWindow *first = &guide();
     guide().showMinimized();

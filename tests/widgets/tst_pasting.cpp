@@ -61,6 +61,20 @@ private:
     Steps m_comings;
 };
 
+namespace {
+
+/// Skips the test if the clipboard stays full: with Wayland Qt keeps what it had.
+bool emptyTheClipboard()
+{
+    QApplication::clipboard()->clear();
+    const bool isEmpty = QApplication::clipboard()->text().isEmpty();
+    if (!isEmpty)
+        QTest::qSkip("the clipboard cannot be emptied here", __FILE__, __LINE__);
+    return isEmpty;
+}
+
+} // namespace
+
 PastingTest::PastingTest()
 {
     const auto pasting = [this](const char *keyNames) {
@@ -314,7 +328,8 @@ void PastingTest::isRefusedByAReadOnlyEdit()
 
 void PastingTest::pastesNothingFromAnEmptyClipboard()
 {
-    QApplication::clipboard()->clear();
+    if (!emptyTheClipboard())
+        return;
     keys("Ctrl+V Tab");
     QCOMPARE(m_edit->text(), QStringLiteral("12"));
     QCOMPARE(m_finished->count(), 0);
@@ -323,7 +338,8 @@ void PastingTest::pastesNothingFromAnEmptyClipboard()
 /// As Qt's own edit does.
 void PastingTest::pastesNothingOverASelection()
 {
-    QApplication::clipboard()->clear();
+    if (!emptyTheClipboard())
+        return;
     m_edit->selectAll();
     keys("Ctrl+V");
     QCOMPARE(m_edit->text(), QString());

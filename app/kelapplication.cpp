@@ -29,8 +29,11 @@ void setHighDpiAttributes()
     qInstallMessageHandler(previous);
 }
 
+/// If Qt did not know the fonts of the system yet, it would read these here now and again with the
+/// first text. So it is asked for them first.
 void addApplicationFonts()
 {
+    QFontDatabase().families();
     for (const char *name : {"Tessan_v3_Bold_02", "Tessan_v3_Italic_02", "Tessan_v3_Light_02",
                              "Tessan_v3_Regular_02", "TessanCd_v3_Bold_02", "TessanCd_v3_Italic_02",
                              "TessanCd_v3_Light_02", "TessanCd_v3_Regular_02"}) {

@@ -56,11 +56,16 @@ int KelAutoResizeLineEdit::fittingFontSize() const
 {
     const int available = width() - kFrame;
     int size = height() - kFrame;
+    if (size - 1 > kSmallestFontSize) {
+        // Each size that is measured loads the font in that size. The one that a short text gets
+        // tells of most texts that they fit even one pixel larger, or by far not at any size.
+        const int measured = textWidth(size - 1);
+        if (measured <= available / 2)
+            return size - 1;
+        if (qint64(measured) * kSmallestFontSize / (size - 1) / 2 > qMax(available, 0))
+            return kSmallestFontSize;
+    }
     int measured = textWidth(size--);
-    // Saves measuring a text that is far too wide even at the smallest size.
-    if (size > kSmallestFontSize &&
-        qint64(measured) * kSmallestFontSize / size / 2 > qMax(available, 0))
-        return kSmallestFontSize;
     while (measured > available && size > kSmallestFontSize)
         measured = textWidth(size--);
     return size;

@@ -7,12 +7,12 @@
 #include "expressionprofile.h"
 #include "inputkeys.h"
 #include "kelautoresizelineedit.h"
+#include "kelcombobox.h"
 #include "plaintip.h"
 #include "quieterror.h"
 #include "resultcopy.h"
 #include "straykeys.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QEvent>
 #include <QFontMetrics>
@@ -27,6 +27,9 @@ namespace {
 
 /// Pixels beside the text of the unit selector: its frame, its padding and its arrow.
 constexpr int kUnitFrame = 44;
+
+/// Pixels of the font in the list of units, however large the chosen unit is shown.
+constexpr int kUnitListFont = 18;
 
 /// The keys with a slot of their own. Every other one types its text.
 bool isFunctionKey(const QPushButton *key)
@@ -149,7 +152,6 @@ void KeypadCalculatorWidget::on_pushButton_plusMinus_clicked()
 
 void KeypadCalculatorWidget::onOutputFontSizeChanged(int fontsize)
 {
-    keepListSize();
     m_outputUnit->setStyleSheet(QStringLiteral("font-size: %1px").arg(fontsize));
 }
 
@@ -215,6 +217,7 @@ void KeypadCalculatorWidget::setUpOutput()
     new ResultCopy(m_input, m_output, m_outputUnit);
     connect(m_output, &KelAutoResizeLineEdit::fontSizeChanged, this,
             &KeypadCalculatorWidget::onOutputFontSizeChanged);
+    m_outputUnit->setListFontSize(kUnitListFont);
     m_output->installEventFilter(this);
     describeOutput();
 }
@@ -230,14 +233,6 @@ void KeypadCalculatorWidget::tellAboutModes()
     for (int mode = 0; mode < m_mode->count(); ++mode)
         m_mode->setItemData(mode, hints().translated(m_sentences.modes.at(size_t(mode))),
                             Qt::ToolTipRole);
-}
-
-/// The list of units keeps its size, however large the chosen unit is shown. It gets its style
-/// sheet together with the first size, not before, which saves the work on pages that nobody opens.
-void KeypadCalculatorWidget::keepListSize()
-{
-    if (m_outputUnit->view()->styleSheet().isEmpty())
-        m_outputUnit->view()->setStyleSheet(QStringLiteral("font-size: 18px"));
 }
 
 /// After a click on a key, typing goes on in the input line, whatever had the focus before.

@@ -11,6 +11,7 @@
 
 class InputKeys;
 class KelAutoResizeLineEdit;
+class KelComboBox;
 class QComboBox;
 class QLineEdit;
 class StrayKeys;
@@ -106,7 +107,6 @@ private:
     void showUnitSelector();
     void describeOutput();
     void fitUnitSelector();
-    void keepListSize();
     void endTakeOver();
 
     Dezimo::ExpressionProfile &m_profile;
@@ -114,7 +114,7 @@ private:
     QLineEdit *m_input = nullptr;
     QWidget *m_outputRow = nullptr;
     KelAutoResizeLineEdit *m_output = nullptr;
-    QComboBox *m_outputUnit = nullptr;
+    KelComboBox *m_outputUnit = nullptr;
     QComboBox *m_mode = nullptr;
     InputKeys *m_inputKeys = nullptr;
     StrayKeys *m_strayKeys = nullptr;

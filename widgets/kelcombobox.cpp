@@ -31,8 +31,15 @@ KelComboBox::~KelComboBox()
     view()->clearFocus();
 }
 
+void KelComboBox::setListFontSize(int size)
+{
+    m_listStyle = QStringLiteral("font-size: %1px").arg(size);
+}
+
 void KelComboBox::showPopup()
 {
+    if (!m_listStyle.isEmpty() && view()->styleSheet() != m_listStyle)
+        view()->setStyleSheet(m_listStyle);
     view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     QSizePolicy policy = view()->sizePolicy();

@@ -23,6 +23,10 @@ public:
     /// Takes the focus from the list while the box that hears of it is still whole.
     ~KelComboBox() override;
 
+    /// The font size of the list in pixels, for a box whose own font has other sizes. The list gets
+    /// it when it opens, because Qt would measure the list in that font even while it is closed.
+    void setListFontSize(int size);
+
     void showPopup() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -32,6 +36,8 @@ protected:
 private:
     Q_INVOKABLE void endPopup();
     void selectCurrentItem();
+
+    QString m_listStyle;
 };
 
 #endif

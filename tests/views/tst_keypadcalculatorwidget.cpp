@@ -37,6 +37,7 @@ private Q_SLOTS:
     void defaultsBringTheSelectorBack();
     void typingInTheMiddleKeepsTheCursor();
     void unitHasTheFontSizeOfTheResult();
+    void listOfUnitsKeepsItsFontSize();
     void aResultThatIsThereFromTheStartIsFittedAndMarked();
     void errorWordsAreMarked();
     void anErrorWordSaysWhy_data();
@@ -193,13 +194,26 @@ void KeypadCalculatorWidgetTest::unitHasTheFontSizeOfTheResult()
     page.widget().resize(560, 430);
     QTRY_VERIFY(!sizes.isEmpty());
     QVERIFY(sizes.last().first().toInt() != 18);
-    QCOMPARE(page.unit().view()->styleSheet(), sheet(18)); // the list keeps its own
     QCOMPARE(page.unit().styleSheet(), sheet(sizes.last().first().toInt()));
     QCOMPARE(output.styleSheet(), page.unit().styleSheet());
 
     m_profile.setOutput(QString(400, QLatin1Char('8')));
     QCOMPARE(page.unit().styleSheet(), sheet(10));
     QCOMPARE(output.styleSheet(), sheet(10));
+}
+
+void KeypadCalculatorWidgetTest::listOfUnitsKeepsItsFontSize()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    QVERIFY(page.unit().font().pixelSize() > 18);
+    page.unit().showPopup();
+    QCOMPARE(page.unit().view()->font().pixelSize(), 18);
+    page.unit().hidePopup();
+
+    page.widget().resize(560, 430);
+    page.unit().showPopup();
+    QCOMPARE(page.unit().view()->font().pixelSize(), 18);
 }
 
 void KeypadCalculatorWidgetTest::aResultThatIsThereFromTheStartIsFittedAndMarked()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void styleForwardsEveryOtherHint();
     void hasAStyleOfItsOwn();
     void showsAPlainList();
+    void listHasAFontSizeOfItsOwn();
     void opensBelowTheBox_data();
     void opensBelowTheBox();
     void choosesByKeyboard();
@@ -114,6 +115,18 @@ void KelComboBoxTest::showsAPlainList()
 {
     const KelComboBox box;
     QCOMPARE(box.view()->metaObject()->className(), "QListView");
+}
+
+void KelComboBoxTest::listHasAFontSizeOfItsOwn()
+{
+    const ExpectedMessages messages(offscreenPopupMessages());
+    KelComboBox box;
+    box.setStyleSheet(QStringLiteral("font-size: 40px"));
+    box.setListFontSize(18);
+
+    openList(box);
+    QCOMPARE(box.font().pixelSize(), 40);
+    QCOMPARE(box.view()->font().pixelSize(), 18);
 }
 
 void KelComboBoxTest::opensBelowTheBox_data()

@@ -12,12 +12,39 @@
 #include <QListView>
 #include <QWheelEvent>
 
+namespace {
+
+/// While it lives, Qt styles nothing but lists. What would have been styled meanwhile never is, so
+/// that must be about to be deleted.
+class StylingListsOnly final : public QObject
+{
+public:
+    StylingListsOnly() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        return event->type() == QEvent::Polish && !qobject_cast<QListView *>(watched);
+    }
+};
+
+/// A box with a new style gets a list from Qt, with scroll bars that Qt styles at once. The list is
+/// replaced right after that, so nobody ever sees them. The list itself has to be styled, because
+/// Qt gives its frame to the popup.
+void setStyleOf(QComboBox *box, QStyle *style)
+{
+    const StylingListsOnly forTheListThatIsReplaced;
+    box->setStyle(style);
+    box->view();
+}
+
+} // namespace
+
 /// The list gets its final parent at once, because Qt would style it again after a move.
 KelComboBox::KelComboBox(QWidget *parent) : QComboBox(parent)
 {
     auto *style = new KelComboBoxStyle;
     style->setParent(this);
-    setStyle(style);
+    setStyleOf(this, style);
     setView(new QListView(view()->parentWidget()));
     view()->installEventFilter(this);
     installAccessibleWidgets();

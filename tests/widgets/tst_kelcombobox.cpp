@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void hasAStyleOfItsOwn();
     void showsAPlainList();
     void listHasAFontSizeOfItsOwn();
+    void popupHasNoFrameWhereTheListHasOne();
+    void styleSheetsReachTheScrollBarsOfTheList();
     void opensBelowTheBox_data();
     void opensBelowTheBox();
     void choosesByKeyboard();
@@ -127,6 +130,21 @@ void KelComboBoxTest::listHasAFontSizeOfItsOwn()
     openList(box);
     QCOMPARE(box.font().pixelSize(), 40);
     QCOMPARE(box.view()->font().pixelSize(), 18);
+}
+
+/// Two frames around each other would be one too many.
+void KelComboBoxTest::popupHasNoFrameWhereTheListHasOne()
+{
+    qApp->setStyleSheet(QStringLiteral("QComboBox QAbstractItemView { border: 1px solid gray }"));
+    const KelComboBox box;
+    QCOMPARE(qobject_cast<QFrame *>(box.view()->parentWidget())->frameShape(), QFrame::NoFrame);
+}
+
+void KelComboBoxTest::styleSheetsReachTheScrollBarsOfTheList()
+{
+    qApp->setStyleSheet(QStringLiteral("QScrollBar { min-width: 33px }"));
+    const KelComboBox box;
+    QCOMPARE(box.view()->verticalScrollBar()->minimumWidth(), 33);
 }
 
 void KelComboBoxTest::opensBelowTheBox_data()

@@ -2,10 +2,10 @@
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
 #
-# bench/desktop.sh [--qt6] [--runs NUMBER] [WORD...]: installs what is missing, builds the program as it
-# is shipped, or the same with Qt 6, and compares Dezimo with a floor program and its peers on a display of
-# its own. With words, it measures only the programs whose names contain one of them. It prints the table
-# to standard output.
+# bench/desktop.sh [--qt6] [--runs NUMBER] [--busy NUMBER] [WORD...]: installs what is missing, builds the
+# program as it is shipped, or the same with Qt 6, and compares Dezimo with a floor program and its peers
+# on a display of its own. With words, it measures only the programs whose names contain one of them. With
+# --busy, that many loops keep the processor busy meanwhile. It prints the table to standard output.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -5,13 +5,14 @@
  * Starts Dezimo, a floor program and installed peers in turn and measures them from outside, as a
  * client of the same X server. See docs/performance.md.
  *
- * usage: desktop_benchmark [--runs NUMBER] [WORD...]
- *        desktop_benchmark [--runs NUMBER] --compare BASE NEW
+ * usage: desktop_benchmark [--runs NUMBER] [--busy NUMBER] [WORD...]
+ *        desktop_benchmark [--runs NUMBER] [--busy NUMBER] --compare BASE NEW
  *
  * With words, only the programs whose names contain one of them are measured. The second form
- * compares two builds of Dezimo.
+ * compares two builds of Dezimo. With --busy, that many loops keep the processor busy meanwhile.
  */
 
+#include "busyloops.h"
 #include "display.h"
 #include "program.h"
 #include "table.h"
@@ -55,6 +56,7 @@ private:
 struct Request
 {
     int runs = 9;
+    int busyLoops = 0;
     std::vector<std::string> words;
     std::vector<Program> builds;
 };
@@ -65,6 +67,8 @@ Request request(const std::vector<std::string> &arguments)
     for (size_t i = 0; i < arguments.size(); ++i) {
         if (arguments[i] == "--runs" && i + 1 < arguments.size())
             request.runs = std::stoi(arguments[++i]);
+        else if (arguments[i] == "--busy" && i + 1 < arguments.size())
+            request.busyLoops = std::stoi(arguments[++i]);
         else if (arguments[i] == "--compare" && i + 2 < arguments.size())
             for (const char *name : {"base", "new"})
                 request.builds.push_back({name, arguments[++i], 0});
@@ -116,6 +120,7 @@ int main(int argc, char *argv[])
             programs = programsToCompare(fs::path(argv[0]).parent_path());
             keepWanted(programs, wanted.words);
         }
+        const BusyLoops load(wanted.busyLoops);
         writeTable(std::cout, measured(programs, wanted.runs));
     } catch (const std::exception &error) {
         std::cerr << "desktop_benchmark: " << error.what() << '\n';

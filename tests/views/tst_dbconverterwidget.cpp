@@ -35,6 +35,7 @@ private Q_SLOTS:
     void leavingTheSecondOperandAgainCalculatesAgain();
     void tabbingOutAndBackTwiceCalculatesNothing();
     void finishingAMismatchTwiceFindsTheErrorTextInvalid();
+    void leavingTheSecondOperandCalculatesWithoutAnEdit_data();
     void leavingTheSecondOperandCalculatesWithoutAnEdit();
     void tabbingThroughTheRatioKeepsTheDecibels();
     void showsWhatTheModelHolds_data();
@@ -167,17 +168,29 @@ void DbConverterWidgetTest::leavingTheSecondOperandAgainCalculatesAgain()
     QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
 }
 
+void DbConverterWidgetTest::leavingTheSecondOperandCalculatesWithoutAnEdit_data()
+{
+    columns<int, QString, QString, QString>({"tab", "first", "second", "ratio"});
+    row("P2", 0, "p1", "p2", "pRatio");
+    row("V2", 1, "v1", "v2", "vRatio");
+}
+
 void DbConverterWidgetTest::leavingTheSecondOperandCalculatesWithoutAnEdit()
 {
-    m_model.setP1(QStringLiteral("4W"));
-    m_model.setP2(QStringLiteral("1W"));
-    edit("p2LineEdit")->setFocus();
-    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Tab);
-    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
-    m_model.setPRatio(QStringLiteral("changed"));
-    edit("p2LineEdit")->setFocus();
-    QTest::keyClick(edit("p2LineEdit"), Qt::Key_Tab);
-    QCOMPARE(edit("pRatioLineEdit")->text(), QStringLiteral("4"));
+    QFETCH(int, tab);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(QString, ratio);
+
+    show(tab);
+    m_model.setProperty(first.toLatin1().constData(), QStringLiteral("4"));
+    m_model.setProperty(second.toLatin1().constData(), QStringLiteral("1"));
+    for (const char *before : {"", "changed"}) {
+        m_model.setProperty(ratio.toLatin1().constData(), QLatin1String(before));
+        edit(second + QLatin1String("LineEdit"))->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(edit(ratio + QLatin1String("LineEdit"))->text(), QStringLiteral("4"));
+    }
 }
 
 void DbConverterWidgetTest::tabbingOutAndBackTwiceCalculatesNothing()

@@ -4,6 +4,7 @@
 #include "expectedmessages.h"
 #include "kelcombobox.h"
 #include "testmain.h"
+#include "windowsystem.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void aListItemIsSelectedByTheChoice();
     void theNextAndThePreviousItemAreChosen();
     void anItemThatCannotBeChosenIsLeftOut();
+    void takesTheFocus();
     void aBoxThatIsOffDoesNothing();
 
 private:
@@ -168,6 +170,17 @@ void AccessibleComboBoxTest::anItemThatCannotBeChosenIsLeftOut()
     qobject_cast<QStandardItemModel *>(m_box->model())->item(1)->setEnabled(false);
     act(QAccessibleActionInterface::increaseAction());
     QCOMPARE(m_box->currentText(), QStringLiteral("W"));
+}
+
+void AccessibleComboBoxTest::takesTheFocus()
+{
+    m_box->activateWindow();
+    QVERIFY(waitForKeyboard(*m_box));
+    m_box->clearFocus();
+    QVERIFY(interface()->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::setFocusAction()));
+    act(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(m_box->hasFocus());
 }
 
 void AccessibleComboBoxTest::aBoxThatIsOffDoesNothing()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void stayWhereTheyAre();
     void typingGoesOnInTheInput();
     void typeWhereTheCursorIs();
+    void areSeenByTheInputAlone();
     void theEqualsSignTakesTheResultOver();
     void eachPageHasItsUnits();
     void thePhaseKeepsItsDigits();
@@ -136,6 +137,19 @@ void StrayKeysTest::typeWhereTheCursorIs()
     page.output().setFocus();
     page.type("0");
     QCOMPARE(page.input().text(), QStringLiteral("10dBm+3dBm"));
+}
+
+/// A list would go on to the entry that begins with what is typed.
+void StrayKeysTest::areSeenByTheInputAlone()
+{
+    const CalculatorPage page = shownPage();
+    QListWidget list;
+    list.addItems({QStringLiteral("1 level"), QStringLiteral("2 levels")});
+    list.setCurrentRow(0);
+    qobject_cast<KeypadCalculatorWidget *>(&page.widget())->takeKeysFrom(&list);
+    QTest::keyClicks(&list, QStringLiteral("2"));
+    QCOMPARE(page.input().text(), QStringLiteral("2"));
+    QCOMPARE(list.currentRow(), 0);
 }
 
 void StrayKeysTest::theEqualsSignTakesTheResultOver()

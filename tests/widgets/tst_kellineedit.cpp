@@ -28,6 +28,7 @@ private Q_SLOTS:
     void resizingMovesTheSuffix();
     void showingRaisesTheLabelsToTheMinimumHeight();
     void aNewLabelFontIsLaidOut();
+    void isLaidOutAsSoonAsItIsShown();
     void labelsAreNeitherMarkupNorInTheWay();
 
     void error_data();
@@ -152,6 +153,17 @@ void KelLineEditTest::aNewLabelFontIsLaidOut()
     QCOMPARE(label("suffixLabel")->width(), width);
     QCOMPARE(label("suffixLabel")->x(), 199 - 12 - width);
     QCOMPARE(m_edit->textMargins().right(), width + 12);
+}
+
+/// Its first picture is not one with labels of another size.
+void KelLineEditTest::isLaidOutAsSoonAsItIsShown()
+{
+    m_edit->setSuffixText(QStringLiteral("dBm"));
+    m_edit->hide();
+    m_edit->setStyleSheet(QStringLiteral("QLabel { font-size: 40px }"));
+    m_edit->show();
+    QCOMPARE(label("suffixLabel")->width(), label("suffixLabel")->sizeHint().width());
+    QCOMPARE(m_edit->textMargins().right(), label("suffixLabel")->width() + 12);
 }
 
 void KelLineEditTest::labelsAreNeitherMarkupNorInTheWay()

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <cerrno>
 #include <csignal>
 
 #ifdef Q_OS_WIN
@@ -31,6 +32,10 @@ private Q_SLOTS:
     void keepingTheStateDuringASlideKeepsNoError();
     void endingClosesADialogAndItsLoop();
     void askingTwiceIsReceivedOnce();
+#ifndef Q_OS_WIN
+    void anIgnoredSignalStaysIgnored();
+    void aSignalLeavesTheErrorNumberAlone();
+#endif
 
 private:
     /// Edits both powers of the dB converter and leaves the second edit unfinished.
@@ -106,7 +111,7 @@ void EndRequestsTest::endingClosesADialogAndItsLoop()
     QCOMPARE(stored("pRatio"), QStringLiteral("10"));
 }
 
-/// This test is the last one, because on Windows Qt starts no event loop after it.
+/// No event loop is needed after this test, because on Windows Qt starts none.
 void EndRequestsTest::askingTwiceIsReceivedOnce()
 {
     const EndRequests requests;
@@ -118,6 +123,28 @@ void EndRequestsTest::askingTwiceIsReceivedOnce()
     QCoreApplication::processEvents();
     QCOMPARE(received.count(), 1);
 }
+
+#ifndef Q_OS_WIN
+/// The program goes on after its terminal is closed if it was started with nohup.
+void EndRequestsTest::anIgnoredSignalStaysIgnored()
+{
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    const EndRequests requests;
+    QVERIFY(std::signal(SIGHUP, before) == SIG_IGN);
+}
+
+/// A signal may come between a call that fails and the look at its error. The handler has an error
+/// of its own when its pipe is full.
+void EndRequestsTest::aSignalLeavesTheErrorNumberAlone()
+{
+    const EndRequests requests;
+    const int moreThanAPipeHolds = 100000;
+    errno = 0;
+    for (int i = 0; i < moreThanAPipeHolds; ++i)
+        std::raise(SIGTERM);
+    QCOMPARE(errno, 0);
+}
+#endif
 
 int main(int argc, char **argv)
 {

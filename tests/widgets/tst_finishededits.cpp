@@ -26,6 +26,7 @@ private Q_SLOTS:
     void anEditIsFinishedOnceByLeaving();
     void lookingFinishesNothing_data() { addLeavingsAfter(m_looks); }
     void lookingFinishesNothing();
+    void anEditThatWasNeverWrittenToHasNothingToFinish();
     void aWrittenTextEndsTheEdit_data();
     void aWrittenTextEndsTheEdit();
     void returnFinishesAlways();
@@ -157,6 +158,19 @@ void FinishedEditsTest::lookingFinishesNothing()
     run(leavings(), leaving);
     QCoreApplication::processEvents();
     QCOMPARE(m_finished->count(), 0);
+}
+
+/// It is as empty as it was made.
+void FinishedEditsTest::anEditThatWasNeverWrittenToHasNothingToFinish()
+{
+    KelLineEdit edit(m_window.get());
+    const QSignalSpy finished(&edit, &QLineEdit::editingFinished);
+    edit.show();
+    edit.setFocus();
+    QVERIFY(edit.hasFocus());
+    m_neighbor->setFocus();
+    edit.hide();
+    QCOMPARE(finished.count(), 0);
 }
 
 void FinishedEditsTest::aWrittenTextEndsTheEdit_data()

@@ -168,6 +168,7 @@ void KelMessageBoxTest::showsItsMessage()
     QCOMPARE(box.windowFlags(), Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     QCOMPARE(box.state(), KelMessageBox::StateWarning);
     QCOMPARE(box.size(), box.sizeHint().expandedTo(QSize(480, 0)));
+    QCOMPARE(box.sizeHint(), box.layout()->totalSizeHint() + QSize(0, 1));
 
     const auto *content = box.findChild<QWidget *>(QStringLiteral("content"));
     const auto *label = content->findChild<QLabel *>();

@@ -10,6 +10,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void whatIsTypedInTheListGoesToTheExpression();
     void theListIsSearchedByLetters();
     void whatIsTypedInTheListOfAConverterGoesNowhere();
+    void aKeyThatNothingUsesIsLeftToTheDesktop();
 
 private:
     QLineEdit *expression() const;
@@ -360,6 +362,14 @@ void KeyboardTest::whatIsTypedInTheListOfAConverterGoesNowhere()
         QVERIFY2(!field->text().contains(QLatin1Char('5')) ||
                      field->objectName() == QStringLiteral("impedanceLineEdit"),
                  qPrintable(field->objectName()));
+}
+
+void KeyboardTest::aKeyThatNothingUsesIsLeftToTheDesktop()
+{
+    openWindow();
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_F7, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window.get(), &key);
+    QVERIFY(!key.isAccepted());
 }
 
 int main(int argc, char **argv)

@@ -6,7 +6,8 @@
 # and with Qt 6, in four locales on the offscreen platform, under a window manager of X, and on a
 # Wayland compositor. A session must end with status 0 and print nothing. The tests of the package are
 # left out, because they set up their own environment. At last it does in fresh roots of Debian 12 and 13
-# what the README promises for a bare machine. The log is build/everywhere.log; a table ends the run.
+# what the README promises for a bare machine, with each Qt in a root of its own, and makes and installs
+# the packages. The log is build/everywhere.log; a table ends the run.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -66,12 +67,12 @@ tests() {
         "$(grep 'tests passed' "$scratch/tests" || echo 'no summary'), $((SECONDS - start)) s"
 }
 
-# bare RELEASE: everything that a newcomer may run first.
+# bare RELEASE WHAT COMMAND...
 bare() {
-    local status=0 start=$SECONDS
-    tools/endurance/in_fresh_root.sh "$1" \
-        bash -c './run.sh && ./test.sh && ./test.sh --qt6 && ./package.sh --qt6' >>"$log" 2>&1 || status=$?
-    row "bare machine, $1" "$status" "$((SECONDS - start)) s"
+    local name="bare machine, $1, $2" release=$1 status=0 start=$SECONDS
+    shift 2
+    tools/endurance/in_fresh_root.sh "$release" "$@" >>"$log" 2>&1 || status=$?
+    row "$name" "$status" "$(tail --lines=1 "$log"), $((SECONDS - start)) s"
 }
 
 # Without a window manager no window gets the focus. It complains when the server goes, so its output
@@ -97,7 +98,9 @@ for preset in "${presets[@]}"; do
     tests wayland "${compositor[@]}"
 done
 [[ $EUID -ne 0 ]] || for release in bookworm trixie; do
-    bare "$release"
+    bare "$release" "Qt 5" bash -c './run.sh && ./test.sh && ./package.sh'
+    bare "$release" "Qt 6" bash -c './run.sh --qt6 && ./test.sh --qt6 && ./package.sh --qt6'
+    bare "$release" packages .ci/run packages reproducibility installation
 done
 
 echo

@@ -33,7 +33,7 @@ def every_key(store, value):
 
 def hostile_texts(store):
     """Names and contents; @p store is what the program writes."""
-    nested = (escaped(9) + escaped(1)) * 200000
+    nested = (escaped(9) + escaped(1)) * 100000
     noise = random.Random(20220531)
     yield "empty", b""
     yield "100 MiB of zeros", bytes(100 * MIB)
@@ -47,7 +47,7 @@ def hostile_texts(store):
         "integers out of range": "99999999999999999999", "points": "@Point(1 2)",
         "huge sizes": "@Size(2147483647 2147483647)", "huge points": "@Point(-2147483648 99999)",
         "lists": "1, 2, 3", "texts of 1 MiB": "5" * MIB, "@ByteArray": "@ByteArray(\\0\\xff)",
-        "@Variant, nested 200000 deep": f"@Variant({nested})",
+        "@Variant, nested 100000 deep": f"@Variant({nested})",
     }
     for name, number in TYPES.items():
         values[f"@Variant, a {name} of huge count"] = f"@Variant({escaped(number)}\\xff\\xff\\xff\\xfe)"

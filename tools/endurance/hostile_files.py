@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""hostile_files.py: opens damaged and malicious files, as calculation files and as the application
-settings, and prints how long each took.
+"""hostile_files.py [--qt6]: opens damaged and malicious files, as calculation files and as the
+application settings, and prints how long each took.
 
 A session must end with status 0, keep its window as it is, and open within a second, or three for files
 of 100 MiB. It must print nothing, except one line about a file that cannot be read at all. Run it as
@@ -14,7 +14,7 @@ import random
 import re
 import shutil
 
-from sessions import NOBODY, Home, build
+from sessions import NOBODY, Home, argument_parser, build
 
 MIB = 1024 * 1024
 TYPES = {"QVariantList": 9, "QVariantMap": 8, "QStringList": 11, "QByteArray": 12, "QImage": 70}
@@ -91,7 +91,7 @@ def measure(name, length, prepare, prefix=(), complaint=None):
 
 
 def main():
-    build()
+    build(argument_parser(__doc__).parse_args().qt6)
     home = Home()
     home.run("quit")
     store = home.store.read_text()

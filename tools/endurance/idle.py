@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""idle.py: shows what the program does while nobody uses it.
+"""idle.py [--qt6]: shows what the program does while nobody uses it.
 
 Starts it, waits until it has settled, and measures twice for 30 s: first the processor time of all its
 threads, as the kernel counts it, then with strace every wait for an event. The only timer should be that
@@ -14,7 +14,7 @@ import re
 import subprocess
 import time
 
-from sessions import PROGRAM, Home, build
+from sessions import Home, argument_parser, build
 
 REST = 5
 SECONDS = 30
@@ -41,9 +41,9 @@ def waits(pid, home):
 
 
 def main():
-    build()
+    build(argument_parser(__doc__).parse_args().qt6)
     home = Home()
-    program = home.start(program=PROGRAM)
+    program = home.start(program="dezimo")
     time.sleep(REST)
     before = processor_milliseconds(program.pid)
     time.sleep(SECONDS)

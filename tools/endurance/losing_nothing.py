@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Vantrel
 # SPDX-License-Identifier: MIT
-"""losing_nothing.py [KILLS]: checks that what is stored survives.
+"""losing_nothing.py [--qt6] [KILLS]: checks that what is stored survives.
 
 Kills sessions at random moments while they write the settings and a calculation file (200 times each
 by default), lets two sessions write at once, and lets sessions write to a full disk and into a folder
@@ -13,11 +13,10 @@ import os
 import pathlib
 import random
 import subprocess
-import sys
 import tempfile
 import time
 
-from sessions import NOBODY, Home, build, generation
+from sessions import NOBODY, Home, argument_parser, build, generation
 
 FOREVER = 1000000  # writes of one session, each of a new generation
 
@@ -55,8 +54,10 @@ def kill(name, kills, home, path, command, *arguments):
         unfinished += len(left) > 0
         for rest in left:
             os.unlink(path.parent / rest)
+    folders = len(list(pathlib.Path(home.runtime).glob("Dezimo-*")))
     print(f"{name}: after {kills} kills the file was whole each time, {kills - new} times the old one and "
-          f"{new} times the new one; {unfinished} kills left an unfinished file", flush=True)
+          f"{new} times the new one; {unfinished} kills left an unfinished file, {folders} a temporary "
+          "folder", flush=True)
 
 
 def two_at_once(rounds):
@@ -116,9 +117,12 @@ def read_only_folder():
 
 
 def main():
-    build()
+    parser = argument_parser(__doc__)
+    parser.add_argument("kills", nargs="?", type=int, default=200, help="200 if not given")
+    arguments = parser.parse_args()
+    build(arguments.qt6)
     random.seed(20220531)
-    kills = int(sys.argv[1]) if len(sys.argv) > 1 else 200
+    kills = arguments.kills
     home = Home()
     kill("killed during exit", kills, home, home.store, "exit")
     home = Home()

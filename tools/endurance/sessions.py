@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Sessions of the program for the scripts in this folder. Each has a home and a store of its own."""
 
+import argparse
 import os
 import pathlib
 import re
@@ -9,22 +10,34 @@ import subprocess
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-SESSION = ROOT / "build/endurance/bin/dezimo-session"
-PROGRAM = ROOT / "build/endurance/bin/dezimo"
 NOBODY = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
 
 
-def build():
-    """Builds the optimized program, as it is shipped, and the tools."""
-    subprocess.run(["tools/packages.sh", "build", "run", "test", "endurance"], cwd=ROOT, check=True)
-    subprocess.run(["cmake", "--preset", "endurance"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+def argument_parser(about):
+    """Reads the arguments of a script. The script may add some of its own."""
+    parser = argparse.ArgumentParser(description=about,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--qt6", action="store_true", help="build and run everything with Qt 6")
+    return parser
+
+
+def build(qt6):
+    """Builds the optimized program, as it is shipped, and the tools, with Qt 5 or 6."""
+    qt = "-qt6" if qt6 else ""
+    groups = [f"build{qt}", f"run{qt}", f"test{qt}", "endurance"]
+    subprocess.run(["tools/packages.sh", *groups], cwd=ROOT, check=True)
+    preset = f"endurance{qt}"
+    subprocess.run(["cmake", "--preset", preset], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
     targets = ["dezimo", "dezimo-session", "dezimo-soak", "dezimo-monkey"]
-    subprocess.run(["cmake", "--build", "--preset", "endurance", "--target", *targets],
+    subprocess.run(["cmake", "--build", "--preset", preset, "--target", *targets],
                    cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    Home.programs = ROOT / "build" / preset / "bin"
 
 
 class Home:
     """A fresh home in a temporary folder, or in @p folder."""
+
+    programs = None  # where build() has put them
 
     def __init__(self, folder=None):
         self.folder = pathlib.Path(folder or tempfile.mkdtemp())
@@ -37,12 +50,13 @@ class Home:
     def environment(self):
         """The environment variables of a session in this home."""
         return dict(os.environ, HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder / "config"),
-                    XDG_RUNTIME_DIR=self.runtime, QT_QPA_PLATFORM="offscreen")
+                    XDG_RUNTIME_DIR=self.runtime, TMPDIR=self.runtime, QT_QPA_PLATFORM="offscreen")
 
-    def start(self, *arguments, program=SESSION, prefix=()):
+    def start(self, *arguments, program="dezimo-session", prefix=()):
         """Starts a session and does not wait for it."""
-        return subprocess.Popen([*prefix, program, *map(str, arguments)], env=self.environment(),
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        return subprocess.Popen([*prefix, self.programs / program, *map(str, arguments)],
+                                env=self.environment(), stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                text=True)
 
     def run(self, *arguments, prefix=(), complaint=None):
         """Runs a session to its end, within a minute, and returns what it printed. Raises if its

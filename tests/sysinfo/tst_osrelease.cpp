@@ -57,6 +57,7 @@ void OsReleaseTest::values_data()
     row("a last line without its end", "NAME=System", "System");
     row("lines with carriage returns", "ID=x\r\nNAME=System\r\n", "System");
     row("blanks around the line", "  NAME=System  \n", "System");
+    row("an empty line at the beginning", "\nID=x\nNAME=System\n", "System");
     row("a value in UTF-8", "NAME=\"Système µ\"\n", "Système µ");
     row("escaped quotes within double quotes", "NAME=\"A \\\"B\\\"\"\n", "A \"B\"");
     row("escaped dollar, backquote and backslash", "NAME=\"\\$\\`\\\\\"\n", "$`\\");

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aLinkToAnotherPageLeadsNowhere();
     void theTopStaysAtTheTop();
     void aLineKeepsItsPlace();
+    void aNarrowColumnTakesAllTheRoom();
 
 private:
     void write(const QString &name, const QString &page) const;
@@ -104,6 +105,11 @@ void KelPageBrowserTest::aLineKeepsItsPlace()
         m_browser->resize(width, 300);
         QCOMPARE(topOf(10), below);
     }
+}
+
+void KelPageBrowserTest::aNarrowColumnTakesAllTheRoom()
+{
+    QCOMPARE(m_browser->viewport()->geometry(), m_browser->contentsRect());
 }
 
 DEZIMO_TEST_MAIN(QApplication, KelPageBrowserTest)

@@ -11,6 +11,7 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
@@ -22,6 +23,7 @@ class KelSpinBoxTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void showsNoFocusRectangleOfThePlatform();
     void theWheelCountsOnlyWithTheFocus();
     void takesANumberFromElsewhere_data();
@@ -61,6 +63,12 @@ private:
 };
 
 } // namespace
+
+/// In the program's locale a number never has the digits of the system's language.
+void KelSpinBoxTest::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::AnyCountry));
+}
 
 void KelSpinBoxTest::showsNoFocusRectangleOfThePlatform()
 {

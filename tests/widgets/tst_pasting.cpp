@@ -301,7 +301,8 @@ void PastingTest::staysWithinTheLargestLength()
 
 void PastingTest::isRefusedByAValidatorAsAWhole()
 {
-    const QIntValidator upToAThousand(-1000, 1000);
+    QIntValidator upToAThousand(-1000, 1000);
+    upToAThousand.setLocale(QLocale::c()); // in others a point is no decimal point
     m_edit->setValidator(&upToAThousand);
     m_edit->selectAll();
     bring(QStringLiteral("12.5"), QStringLiteral("by Ctrl+V"));

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -85,13 +84,11 @@ QByteArray inEscapes(const QByteArray &written)
 }
 
 /// Calls @p work with the name of a temporary file until it succeeds. A full disk must not cost any
-/// values, so what does not fit into the usual folder goes to memory or beside the store.
+/// values, so what has no room in the usual folder goes to the one that Linux keeps in memory.
 template <typename Work>
-bool withTemporaryFile(const QIODevice &device, const Work &work)
+bool withTemporaryFile(const Work &work)
 {
-    const auto *store = qobject_cast<const QFileDevice *>(&device);
-    const QStringList folders = {QDir::tempPath(), QStringLiteral("/dev/shm"),
-                                 store ? QFileInfo(store->fileName()).absolutePath() : QString()};
+    const QStringList folders = {QDir::tempPath(), QStringLiteral("/dev/shm")};
     return std::any_of(folders.begin(), folders.end(), [&work](const QString &folder) {
         const QTemporaryDir own(folder + QLatin1String("/Dezimo-XXXXXX"));
         return own.isValid() && work(own.filePath(QStringLiteral("values.ini")));
@@ -107,7 +104,7 @@ bool writeFile(const QString &fileName, const QByteArray &text)
 bool read(QIODevice &device, QSettings::SettingsMap &values)
 {
     const QByteArray text = inUtf8(device.readAll());
-    return withTemporaryFile(device, [&](const QString &fileName) {
+    return withTemporaryFile([&](const QString &fileName) {
         if (!writeFile(fileName, text))
             return false;
         const QSettings settings(fileName, QSettings::IniFormat);
@@ -138,7 +135,7 @@ bool write(QIODevice &device, const QSettings::SettingsMap &values)
         text = inEscapes(writtenBy(fileName, values));
         return values.isEmpty() || !text.isEmpty();
     };
-    return withTemporaryFile(device, fill) && device.write(text) == text.size();
+    return withTemporaryFile(fill) && device.write(text) == text.size();
 }
 
 } // namespace

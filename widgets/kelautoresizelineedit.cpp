@@ -56,13 +56,14 @@ int KelAutoResizeLineEdit::fittingFontSize() const
 {
     const int available = width() - kFrame;
     int size = height() - kFrame;
-    if (size - 1 > kSmallestFontSize) {
-        // Each size that is measured loads the font in that size. The one that a short text gets
-        // tells of most texts that they fit even one pixel larger, or by far not at any size.
-        const int measured = textWidth(size - 1);
+    // Measuring in a size loads the font in it. Most texts are so short or so long that the largest
+    // size that they may get tells the result, and no other is loaded.
+    const int largest = size - 1;
+    if (largest > kSmallestFontSize) {
+        const int measured = textWidth(largest);
         if (measured <= available / 2)
-            return size - 1;
-        if (qint64(measured) * kSmallestFontSize / (size - 1) / 2 > qMax(available, 0))
+            return largest;
+        if (qint64(measured) * kSmallestFontSize / largest / 2 > qMax(available, 0))
             return kSmallestFontSize;
     }
     int measured = textWidth(size--);

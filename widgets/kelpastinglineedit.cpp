@@ -74,11 +74,10 @@ void KelPastingLineEdit::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
-/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it. A text
-/// that is moved within the edit does not come in, so it stays as it is.
+/// Dropping a text is an edit. It takes the focus, so that leaving the edit can finish it.
 void KelPastingLineEdit::dropEvent(QDropEvent *event)
 {
-    if (isReadOnly() || event->source() == this || !event->mimeData()->hasText())
+    if (isReadOnly() || !event->mimeData()->hasText())
         QLineEdit::dropEvent(event);
     else
         takeDrop(event);

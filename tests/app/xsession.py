@@ -172,14 +172,14 @@ class Session:
     def type(self, text):
         xdotool("type", "--delay", self.host.pause_between_keys_milliseconds, text)
 
-    def click(self, name, page=None):
+    def click(self, name, page=None, button=1, times=1):
         page = self.page if page is None else page
         x, y = self.positions[page, name]
-        xdotool("mousemove", "--window", self.window, x, y, "click", 1)
+        click = ["click", "--repeat", times, button]
+        xdotool("mousemove", "--window", self.window, x, y, *click)
 
     def turn_wheel_over(self, name):
-        x, y = self.positions[self.page, name]
-        xdotool("mousemove", "--window", self.window, x, y, "click", 5)
+        self.click(name, button=5)
 
     def enter(self, field, text):
         """Replaces the text of a field and leaves the edit unfinished."""

@@ -322,6 +322,22 @@ def draw_on_a_dense_screen(table):
     del os.environ["QT_FONT_DPI"]
 
 
+def paste_by_the_mouse(session):
+    """What a double click selects, the middle button pastes in front of what is there."""
+    session.click("impedanceLineEdit", times=2)
+    session.click("wattLineEdit", button=2)
+
+
+def bring_a_value_by_the_mouse(table):
+    changed = {
+        "UnitConverterProfile/linPower": "5012.34",
+        "UnitConverterProfile/logPower": "37.00",  # 10*log10(5012)
+        "UnitConverterProfile/linVoltage": "1.583E+04",  # sqrt(5.012 W * 50 ohms) in mV
+        "UnitConverterProfile/logVoltage": "23.99",  # 20*log10(15.83)
+    }
+    table.row("a selected value pasted by the mouse", UNIT, [paste_by_the_mouse], changed)
+
+
 def all_changes(parts):
     return {key: value for part in parts for key, value in part.items()}
 
@@ -362,6 +378,7 @@ def main(system, program, click_positions):
         run(table, every_page, every_page if system == "linux" else [UNIT, VSWR])
         if system == "linux":
             draw_on_a_dense_screen(table)
+            bring_a_value_by_the_mouse(table)
     if table.wrong:
         sys.exit(f"{table.wrong} sessions are not as expected")
 

@@ -159,7 +159,7 @@ void OsReleaseTest::nameAtTheEndOfWhatIsRead()
 {
     // The line ends with the last byte that is read.
     const QByteArray line = "NAME=System\n";
-    const QByteArray filling(OsRelease::kLongestFile - line.size(), '\n');
+    const QByteArray filling(65536 - line.size(), '\n');
     QCOMPARE(OsRelease::systemName(written(filling + line + "ID=x\n")), QStringLiteral("System"));
 }
 
@@ -167,7 +167,7 @@ void OsReleaseTest::nameBehindWhatIsRead()
 {
     // Reading stops just before the end of this line. The name may be incomplete, so it is ignored.
     const QByteArray line = "NAME=System\n";
-    const QByteArray filling(OsRelease::kLongestFile - line.size() + 1, '\n');
+    const QByteArray filling(65536 - line.size() + 1, '\n');
     QCOMPARE(OsRelease::systemName(written(filling + line)), QString());
 }
 

@@ -9,6 +9,7 @@
 #include "voltagecalculatorwidget.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 
 using namespace Dezimo;
@@ -42,7 +43,10 @@ private Q_SLOTS:
     void theArrowOfTheNumericKeypadRecalls();
     void recallingCanBeUndone();
     void eachCalculatorRecallsItsOwn();
+    void beyondTheOldestNothingChanges();
     void heldKeysRecallNothing();
+    void whatTheInputTakesGoesNoFurther_data();
+    void whatTheInputTakesGoesNoFurther();
 
 private:
     DbmCalculatorProfile &m_profile = MainProfile::instance().dbmCalculator();
@@ -270,6 +274,16 @@ void InputKeysTest::eachCalculatorRecallsItsOwn()
     QCOMPARE(voltages.input().text(), QStringLiteral("1V"));
 }
 
+void InputKeysTest::beyondTheOldestNothingChanges()
+{
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    page.type(Qt::Key_Home);
+    page.type(Qt::Key_Up);
+    QCOMPARE(page.input().text(), QStringLiteral("10dBm+10dBm"));
+    QCOMPARE(page.input().cursorPosition(), 0);
+}
+
 /// With Shift, Ctrl or Meta the arrows are left to the system.
 void InputKeysTest::heldKeysRecallNothing()
 {
@@ -280,6 +294,25 @@ void InputKeysTest::heldKeysRecallNothing()
         QTest::keyClick(&page.input(), Qt::Key_Up, held);
         QCOMPARE(page.input().text(), QStringLiteral("10.00 dBm"));
     }
+}
+
+void InputKeysTest::whatTheInputTakesGoesNoFurther_data()
+{
+    columns<Qt::Key>({"key"});
+    row("Esc", Qt::Key_Escape);
+    row("Up", Qt::Key_Up);
+    row("Down", Qt::Key_Down);
+}
+
+void InputKeysTest::whatTheInputTakesGoesNoFurther()
+{
+    QFETCH(Qt::Key, key);
+
+    CalculatorPage page = shownPage();
+    page.type("10dBm+10dBm");
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&page.input(), &press);
+    QVERIFY(press.isAccepted());
 }
 
 DEZIMO_TEST_MAIN(QApplication, InputKeysTest)

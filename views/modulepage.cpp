@@ -59,8 +59,6 @@ void ModulePage::changeEvent(QEvent *event)
 void ModulePage::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    if (!m_hintLine)
-        return;
     const int columnWidth = qMin(width() - 2 * kColumnMargin, kColumnWidth);
     m_hintLine->setGeometry((width() - columnWidth) / 2, height() - kHintLineHeight, columnWidth,
                             kHintLineHeight);

@@ -129,7 +129,6 @@ QString supportText(const KelAboutWindow::Product &product,
             stream << entry.key << ": " << entry.value << '\n';
         stream << '\n';
     }
-    stream.flush();
     return text;
 }
 

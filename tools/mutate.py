@@ -4,15 +4,17 @@
 """Change the program in one place at a time, and see if a test fails.
 
 Each folder gets its share of the places by its lines. Its places are chosen at random, from a seed
-of its own, so that a folder has the same ones whichever others are tried. In a mutant one operator,
-constant or comparison is changed, or one statement is left out, such as a connection. If it does
-not compile, or to what it was before, another one replaces it. A mutant is caught if a test fails,
-crashes or takes many times as long as before, twice. The survivors are listed at the end. The
-status is 0 if at least 95 % were caught in the models and 90 % in the other folders.
+of its own, so that a folder has the same ones whichever others are tried. In a mutant one condition
+is turned, one operator or number is changed, or one statement is left out, such as a connection or
+what a slot does. If it does not compile, another one replaces it, and so it does for a source that
+compiles to what it was before. A mutant is caught if a test fails, crashes or takes many times as
+long as before, twice. The survivors are listed at the end. The status is 0 if at least 95 % were
+caught in the models and 90 % in the other folders.
 
 A model is tried by the tests of the models, all else by the tests of all else: by those that link
 the file, says the build. Only test programs count. What needs a display or a package is left out,
-and so is a file that no test links here: what is compiled for Windows, and the main function.
+and so is a file that no test links here: what is compiled for Windows, and the main function. The
+forms are not changed, only the code.
 
 All of this happens in a copy of the sources below build/.
 """
@@ -39,7 +41,7 @@ COPY = ROOT / "build" / "mutants"
 BUILD = COPY / "build" / "mutation"
 MODELS = ("values", "store", "profiles")
 OTHERS = ("views", "app", "widgets", "sysinfo")
-TESTED_IN_WINDOWS = ("checkedsettings",)  # a model's file, but only the tests of app/ know it
+TESTED_BY_OTHERS = ("checkedsettings",)  # a file of the models that only the tests of app/ know
 NEEDED_SHARE = {MODELS: 0.95, OTHERS: 0.9}
 MEMORY_LIMIT = 4 << 30  # bytes, because a mutant may allocate without end
 BASELINE_SECONDS = 300  # for one test of the unchanged sources
@@ -56,10 +58,11 @@ BINARY = re.compile(r"(?<= )(?:%s)(?= )" % "|".join(
 STEP = re.compile(r"\+\+|--")
 NEGATION = re.compile(r"!(?=[\w(])|(?<=[(,:?=] )-(?=\w)|(?<=\()-(?=\w)|(?<=return )-(?=\w)")
 NUMBER = re.compile(r"(?<![\w.])\d+(?:\.\d+)?(?:e[+-]?\d+)?(?![\w.])")
-CONDITION = re.compile(r"(?<=\bif \()(?=\w)")
+CONDITION = re.compile(r"\b(?:if|while) \(")
+CHOICE = re.compile(r"(?<= )\?(?= )")
 TRUTH = re.compile(r"\b(?:true|false)\b")
 # A statement that holds others is not left out as a whole.
-STATEMENT = re.compile(r"(?m)^ +(?!(?:if|else|for|while|do|switch|case|default)\b)(?=\w)")
+STATEMENT = re.compile(r"(?m)^ +(?!(?:if|else|for|while|do|switch|case|default)\b)(?=[\w*])")
 CONNECTION = re.compile(r"(?:\w+::)?connect\(")
 
 
@@ -74,6 +77,10 @@ class Mutant(NamedTuple):
         column = self.begin - text.rfind("\n", 0, self.begin)
         return f"{self.file}:{line}:{column}"
 
+    def names(self, text: str) -> set[str]:
+        """What one may ask for to get it."""
+        return {self.file.name, str(self.file), self.place(text)}
+
     def describe(self, text: str) -> str:
         original = textwrap.shorten(text[self.begin:self.end], 100, placeholder=" ...")
         return f"{self.place(text)}: {original!r} -> {self.replacement!r}"
@@ -85,6 +92,19 @@ def other_number(literal: str) -> str:
     return repr(float(literal) * 2 or 1.0)
 
 
+def conditions_of(code: str) -> Iterator[tuple[int, int]]:
+    """Begin and end of what is asked by an if or a while, without what is declared before it."""
+    for found in CONDITION.finditer(code):
+        begin, depth = found.end(), 1
+        for end, character in enumerate(code[begin:], begin):
+            depth += (character in "([{") - (character in ")]}")
+            if character == ";" and depth == 1:
+                begin = end + 2
+            if depth == 0:
+                yield begin, end
+                break
+
+
 def end_of_statement(code: str, begin: int) -> int | None:
     """Where the statement ends that begins there, None if it is a block or no statement at all.
 
@@ -94,7 +114,7 @@ def end_of_statement(code: str, begin: int) -> int | None:
     for position, character in enumerate(code[begin:], begin):
         if character == ";" and depth == 0:
             return position + 1
-        if character == "{" and depth == 0:
+        if character == "{" and depth == 0 and not code.endswith("= ", begin, position):
             return None
         if character in "([{":
             depth += 1
@@ -106,13 +126,12 @@ def end_of_statement(code: str, begin: int) -> int | None:
 
 
 def statements_of(code: str) -> Iterator[tuple[int, int]]:
-    """Begin and end of each statement that can be left out; a last return cannot."""
+    """Begin and end of each statement that can be left out; a function's last return cannot."""
     for found in STATEMENT.finditer(code):
         begin, end = found.end(), end_of_statement(code, found.end())
         if end is None or not code[:begin].rstrip().endswith(("{", "}", ";", ":", ")", "else")):
             continue
-        is_followed_by_end = code[end:].lstrip().startswith(("}", "case"))
-        if not (code.startswith("return", begin) and is_followed_by_end):
+        if not (code.startswith("return", begin) and code.startswith("\n}", end)):
             yield begin, end
 
 
@@ -127,8 +146,11 @@ def mutants_of(file: Path, text: str) -> Iterator[Mutant]:
         yield Mutant(file, *found.span(), "")
     for found in NUMBER.finditer(code):
         yield Mutant(file, *found.span(), other_number(found[0]))
-    for found in CONDITION.finditer(code):
-        yield Mutant(file, *found.span(), "!")
+    for begin, end in conditions_of(code):
+        if not code.startswith("!", begin):  # that negation can be left out
+            yield Mutant(file, begin, end, f"!({text[begin:end]})")
+    for found in CHOICE.finditer(code):
+        yield Mutant(file, *found.span(), "== false ?")
     for found in TRUTH.finditer(code):
         yield Mutant(file, *found.span(), "false" if found[0] == "true" else "true")
     for begin, end in statements_of(code):
@@ -197,7 +219,7 @@ class Test(NamedTuple):
 
 
 def tests_of(folders: list[str]) -> list[Test]:
-    """The test programs of tests/<folder>, each as CTest runs it. They have to be built."""
+    """The test programs of tests/<folder> with what CTest gives them. They have to be built."""
     tests = []
     for entry in json.loads(told_by("ctest", "--show-only=json-v1"))["tests"]:
         properties = {each["name"]: each["value"] for each in entry["properties"]}
@@ -317,13 +339,13 @@ class Folder:
         self.name = name
         self.library = library_of(name)
         files = sorted(path.relative_to(ROOT) for path in (ROOT / name).glob("*.[ch]*")
-                       if path.stem not in TESTED_IN_WINDOWS)
+                       if path.stem not in TESTED_BY_OTHERS)
         self.without_test = [file for file in files if not suite.linking(file)]
         self.texts = {file: (COPY / file).read_text() for file in files
                       if file not in self.without_test}
         self.mutants = [mutant for file, text in self.texts.items()
                         for mutant in mutants_of(file, text)
-                        if not wanted or not {file.name, mutant.place(text)}.isdisjoint(wanted)]
+                        if not wanted or not mutant.names(text).isdisjoint(wanted)]
         random.Random(f"{seed} {name}").shuffle(self.mutants)
         self.lines = sum(text.count("\n") for text in self.texts.values())
 
@@ -399,6 +421,8 @@ def main() -> int:
     os.environ["CCACHE_DISABLE"] = "1"  # no mutant is built twice, so the cache would only fill up
 
     folders = [Folder(name, arguments.wanted, arguments.seed, suite) for name in arguments.folders]
+    if not any(folder.mutants for folder in folders):
+        sys.exit("There is nothing to change.")
     for folder in folders:
         for file in folder.without_test:
             print(f"no test here links {file}")

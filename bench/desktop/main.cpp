@@ -23,6 +23,7 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <stdexcept>
 
 namespace fs = std::filesystem;
 
@@ -72,6 +73,8 @@ Request request(const std::vector<std::string> &arguments)
         else if (arguments[i] == "--compare" && i + 2 < arguments.size())
             for (const char *name : {"base", "new"})
                 request.builds.push_back({name, arguments[++i], 0});
+        else if (arguments[i].rfind("--", 0) == 0)
+            throw std::invalid_argument("what is " + arguments[i] + "?");
         else
             request.words.push_back(arguments[i]);
     }
@@ -120,6 +123,8 @@ int main(int argc, char *argv[])
             programs = programsToCompare(fs::path(argv[0]).parent_path());
             keepWanted(programs, wanted.words);
         }
+        if (programs.empty())
+            throw std::invalid_argument("no program has such a name");
         const BusyLoops load(wanted.busyLoops);
         writeTable(std::cout, measured(programs, wanted.runs));
     } catch (const std::exception &error) {

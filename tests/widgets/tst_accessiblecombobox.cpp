@@ -26,6 +26,7 @@ private Q_SLOTS:
     void theChoiceIsReadableAsText();
     void theTextCannotBeChanged();
     void itsTextIsAsLargeAsTheBox();
+    void tellsWhatItDoes();
     void opensItsList();
     void itsListHasItsName();
     void aListItemIsSelectedByTheChoice();
@@ -109,6 +110,14 @@ void AccessibleComboBoxTest::itsTextIsAsLargeAsTheBox()
     QCOMPARE(text->attributes(1, &start, &end), QString());
     QCOMPARE(start, 0);
     QCOMPARE(end, 3);
+}
+
+void AccessibleComboBoxTest::tellsWhatItDoes()
+{
+    using Action = QAccessibleActionInterface;
+    QCOMPARE(interface()->actionInterface()->actionNames(),
+             QStringList({Action::setFocusAction(), Action::showMenuAction(), Action::pressAction(),
+                          Action::increaseAction(), Action::decreaseAction()}));
 }
 
 void AccessibleComboBoxTest::opensItsList()

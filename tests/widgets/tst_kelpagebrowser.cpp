@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aLinkToAnotherPageLeadsNowhere();
     void theTopStaysAtTheTop();
     void aLineKeepsItsPlace();
+    void theSameLineComesBackAfterManyWidths();
     void aNarrowColumnTakesAllTheRoom();
 
 private:
@@ -105,6 +106,20 @@ void KelPageBrowserTest::aLineKeepsItsPlace()
         m_browser->resize(width, 300);
         QCOMPARE(topOf(10), below);
     }
+}
+
+/// In other widths the line begins with earlier words, and these must not take its place.
+void KelPageBrowserTest::theSameLineComesBackAfterManyWidths()
+{
+    showParagraphs();
+    QScrollBar &bar = *m_browser->verticalScrollBar();
+    bar.setValue(bar.value() + topOf(10) + 2 * m_browser->fontMetrics().lineSpacing());
+    const int value = bar.value();
+    for (const int width : {560, 520, 480, 440, 400, 360, 320, 600}) {
+        m_browser->resize(width, 300);
+        QVERIFY(bar.value() > 0);
+    }
+    QCOMPARE(bar.value(), value);
 }
 
 void KelPageBrowserTest::aNarrowColumnTakesAllTheRoom()

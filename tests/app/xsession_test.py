@@ -323,7 +323,8 @@ def draw_on_a_dense_screen(table):
 
 
 def paste_by_the_mouse(session):
-    """What a double click selects, the middle button pastes in front of what is there."""
+    """What a double click selects, the middle button pastes where it is pressed: in the middle of
+    the field, which is in front of a short text at its right end."""
     session.click("impedanceLineEdit", times=2)
     session.click("wattLineEdit", button=2)
 

@@ -45,6 +45,9 @@ TESTED_BY_OTHERS = ("checkedsettings",)  # a file of the models that only the te
 NEEDED_SHARE = {MODELS: 0.95, OTHERS: 0.9}
 MEMORY_LIMIT = 4 << 30  # bytes, because a mutant may allocate without end
 BASELINE_SECONDS = 300  # for one test of the unchanged sources
+# A mutant may write anywhere. Run by root, one has put a file in the place of /dev/zero.
+WITHOUT_RIGHTS = ({"user": "nobody", "group": "nogroup", "extra_groups": []}
+                  if os.geteuid() == 0 else {})
 
 # Texts and comments, to which the rules for code do not apply.
 LITERAL = re.compile(r'"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'|//[^\n]*|/\*.*?\*/', re.DOTALL)
@@ -208,12 +211,16 @@ class Test(NamedTuple):
 
         # What a mutant leaves behind is not there for the next test.
         with TemporaryDirectory() as folder:
+            if WITHOUT_RIGHTS:
+                shutil.chown(folder, WITHOUT_RIGHTS["user"], WITHOUT_RIGHTS["group"])
+            own_folders = {"TMPDIR": folder, "HOME": folder, "XDG_RUNTIME_DIR": folder}
             try:
                 return subprocess.run([BUILD / "tests" / self.program, *self.arguments],
                                       check=False, cwd=folder,
-                                      env=os.environ | self.environment | {"TMPDIR": folder},
+                                      env=os.environ | self.environment | own_folders,
                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                      preexec_fn=limit, timeout=seconds).returncode == 0
+                                      preexec_fn=limit, timeout=seconds,
+                                      **WITHOUT_RIGHTS).returncode == 0
             except subprocess.TimeoutExpired:
                 return False
 

@@ -323,20 +323,30 @@ def draw_on_a_dense_screen(table):
 
 
 def paste_by_the_mouse(session):
-    """What a double click selects, the middle button pastes where it is pressed: in the middle of
-    the field, which is in front of a short text at its right end."""
-    session.click("impedanceLineEdit", times=2)
     session.click("wattLineEdit", button=2)
 
 
-def bring_a_value_by_the_mouse(table):
+def paste_by_keys(session):
+    session.click("wattLineEdit")
+    session.press("ctrl+shift+Insert")
+
+
+def select_by_a_double_click(session):
+    session.click("impedanceLineEdit", times=2)
+
+
+def bring_what_is_selected(table):
+    """It comes in where the mouse was pressed: in the middle of the field, which is in front of a
+    short text at its right end."""
     changed = {
         "UnitConverterProfile/linPower": "5012.34",
         "UnitConverterProfile/logPower": "37.00",  # 10*log10(5012)
         "UnitConverterProfile/linVoltage": "1.583E+04",  # sqrt(5.012 W * 50 ohms) in mV
         "UnitConverterProfile/logVoltage": "23.99",  # 20*log10(15.83)
     }
-    table.row("a selected value pasted by the mouse", UNIT, [paste_by_the_mouse], changed)
+    for name, paste in {"the mouse": paste_by_the_mouse, "keys": paste_by_keys}.items():
+        steps = [select_by_a_double_click, paste]
+        table.row(f"a selected value pasted by {name}", UNIT, steps, changed)
 
 
 def all_changes(parts):
@@ -379,7 +389,7 @@ def main(system, program, click_positions):
         run(table, every_page, every_page if system == "linux" else [UNIT, VSWR])
         if system == "linux":
             draw_on_a_dense_screen(table)
-            bring_a_value_by_the_mouse(table)
+            bring_what_is_selected(table)
     if table.wrong:
         sys.exit(f"{table.wrong} sessions are not as expected")
 

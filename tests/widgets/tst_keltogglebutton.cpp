@@ -240,6 +240,8 @@ void KelToggleButtonTest::tabStopsAtTheCheckedButtonOnly()
     QCOMPARE(stops(), QList<bool>({false, true, false}));
     m_switch->setCurrentIndex(2);
     QCOMPARE(stops(), QList<bool>({false, false, true}));
+    m_switch->addItems({QStringLiteral("one more")});
+    QCOMPARE(stops(), QList<bool>({false, false, true, false}));
 }
 
 void KelToggleButtonTest::drawsTheBackgroundOfAStyleSheet()

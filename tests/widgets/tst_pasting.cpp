@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QImage>
 #include <QIntValidator>
 #include <QTest>
 
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void replacesTheSelection();
     void keepsTheValueIfNothingIsLeftOfTheText_data();
     void keepsTheValueIfNothingIsLeftOfTheText();
+    void whatIsRefusedLeavesNoCursor();
     void isOneStepOfUndo_data();
     void isOneStepOfUndo();
     void staysWithinTheLargestLength();
@@ -260,6 +262,16 @@ void PastingTest::keepsTheValueIfNothingIsLeftOfTheText()
     QCOMPARE(m_finished->count(), 0);
 }
 
+/// While a text is over an edit, a cursor shows where it would come in.
+void PastingTest::whatIsRefusedLeavesNoCursor()
+{
+    m_edit->setSuffixText(QStringLiteral("dBm"));
+    m_neighbor->setFocus();
+    const QImage before = m_edit->grab().toImage();
+    drop(QStringLiteral("dBm"));
+    QCOMPARE(m_edit->grab().toImage(), before);
+}
+
 void PastingTest::isOneStepOfUndo_data()
 {
     columns<QString, QString, QString>({"before", "way", "pasted"});
@@ -352,9 +364,11 @@ void PastingTest::isAnEditOnce()
 
     const QSignalSpy edited(m_edit, &QLineEdit::textEdited);
     const QSignalSpy changed(m_edit, &QLineEdit::textChanged);
+    const QSignalSpy moved(m_edit, &QLineEdit::cursorPositionChanged);
     bring(QStringLiteral("3 4"), way);
     QCOMPARE(edited.count(), 1);
     QCOMPARE(changed.count(), 1);
+    QVERIFY(moved.count() <= 1);
 }
 
 void PastingTest::aNumericEditTakesWhatIsCleaned_data()

@@ -12,7 +12,9 @@
 /// QTest's function does not wait there, although the compositor does give it.
 inline bool waitForKeyboard(const QWidget &window)
 {
-    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
+    constexpr int kPatienceMilliseconds = 30'000; // of a busy machine with another's window system
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; },
+                           kPatienceMilliseconds);
 }
 
 /// Whether windows know where on the screen they are and can move the pointer. On Wayland only the

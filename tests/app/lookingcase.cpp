@@ -137,11 +137,14 @@ void LookingCase::minimizeAndRestore()
 {
     m_window->showMinimized();
     QCoreApplication::processEvents();
-    m_window->showNormal();
-    m_window->activateWindow();
     // A Wayland compositor decides when a window comes back, so the test does not wait there.
-    if (hasScreenPositions())
-        QVERIFY(waitForKeyboard(*m_window));
+    const auto comesBack = [this] {
+        m_window->showNormal();
+        m_window->activateWindow();
+        return !hasScreenPositions() || waitForKeyboard(*m_window);
+    };
+    // A busy window system may hide the window only after that. Then a person asks for it again.
+    QVERIFY(comesBack() || comesBack());
 }
 
 void LookingCase::activateAnotherWindow()

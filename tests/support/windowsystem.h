@@ -12,9 +12,7 @@
 /// QTest's function does not wait there, although the compositor does give it.
 inline bool waitForKeyboard(const QWidget &window)
 {
-    constexpr int kPatienceMilliseconds = 10'000; // a busy machine needs more than Qt's 5 seconds
-    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; },
-                           kPatienceMilliseconds);
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
 }
 
 /// Whether windows know where on the screen they are and can move the pointer. On Wayland only the
